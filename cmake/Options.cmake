@@ -1,0 +1,48 @@
+# SPDX-License-Identifier: MIT
+# What a builder may choose, and the defaults of every target.
+
+set(CALTOFAL_PLATFORM sandbox CACHE STRING
+    "Where libcal and libhelper come from: 'sandbox' builds the stand-ins, 'system' takes the sysroot's")
+set_property(CACHE CALTOFAL_PLATFORM PROPERTY STRINGS sandbox system)
+if(NOT CALTOFAL_PLATFORM MATCHES "^(sandbox|system)$")
+  message(FATAL_ERROR "CALTOFAL_PLATFORM is '${CALTOFAL_PLATFORM}': it must be 'sandbox' or 'system'")
+endif()
+
+string(COMPARE EQUAL "${CALTOFAL_PLATFORM}" sandbox is_sandbox)
+option(CALTOFAL_TESTS "Build the tests" ${is_sandbox})
+option(CALTOFAL_BENCH "Build the benchmarks" OFF)
+
+set(CMAKE_C_STANDARD 11)
+set(CMAKE_C_EXTENSIONS OFF)
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
+endif()
+
+# Sanitizers bring a run-time library of their own: what is said about link lines elsewhere holds without them only.
+set(CALTOFAL_SANITIZE "" CACHE STRING "Sanitizers to build with, such as 'address,undefined' or 'thread'")
+if(CALTOFAL_SANITIZE)
+  add_compile_options(-fsanitize=${CALTOFAL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${CALTOFAL_SANITIZE})
+endif()
+
+# What optimising costs at build time is spent on the library; tests and tools spend theirs in the store.
+set(CMAKE_CXX_FLAGS_RELEASE "-O1 -DNDEBUG")
+set(CMAKE_C_FLAGS_RELEASE "-O1 -DNDEBUG")
+
+# Large headers of other libraries are parsed once a target instead of once a file.
+option(CALTOFAL_PRECOMPILE "Precompile the large headers of other libraries" ON)
+function(caltofal_precompile target)
+  if(CALTOFAL_PRECOMPILE)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "boot.h"
+
+#include "path.h"
+#include "schema.h"
+
+#include <algorithm>
+
+namespace sandbox {
+namespace {
+
+// Instances that come and go; what is below them goes without saying.
+void addObjectChanges(Database &database, std::vector<Change> &changes) {
+    Statement objects(database, "SELECT o.key, o.presence FROM object o LEFT JOIN object h ON h.id = o.parent "
+                                "WHERE o.presence <> 3 AND coalesce(h.presence, 3) = 3 ORDER BY o.key");
+    while (objects.step()) {
+        const bool added = objects.integer(1) == kStored;
+        changes.push_back(
+            {added ? Change::Kind::Added : Change::Kind::Removed, pathOf(objects.text(0)), std::nullopt, std::nullopt});
+    }
+}
+
+void addValueChanges(Database &database, std::vector<Change> &changes) {
+    Statement values(database, "SELECT o.key, p.name, p.running, p.pending FROM parameter p CROSS JOIN object o "
+                               "WHERE p.pending IS NOT NULL AND o.id = p.object AND o.presence = 3 "
+                               "ORDER BY o.key, p.position");
+    while (values.step()) {
+        changes.push_back({Change::Kind::Changed, pathOf(values.text(0)) + "." + std::string(values.text(1)),
+                           std::string(values.text(2)), std::string(values.text(3))});
+    }
+}
+
+} // namespace
+
+std::vector<Change> pendingChanges(Database &database) {
+    std::vector<Change> changes;
+    addObjectChanges(database, changes);
+    addValueChanges(database, changes);
+    return changes;
+}
+
+void boot(Database &database) {
+    database.execute("DELETE FROM parameter WHERE object IN (SELECT id FROM object WHERE presence = 1);"
+                     "DELETE FROM object WHERE presence = 1;"
+                     "UPDATE object SET presence = 3 WHERE presence = 2;"
+                     "UPDATE parameter SET running = pending, pending = NULL WHERE pending IS NOT NULL;");
+}
+
+} // namespace sandbox

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+//
+// libcal.so: the sandbox's configuration layer. Each message is one transaction on the gateway's store.
+#include "cal_codes.h"
+#include "cal_sandbox.h"
+#include "connection.h"
+#include "fault.h"
+#include "message.h"
+#include "path.h"
+#include "refusal.h"
+#include "refusal_log.h"
+#include "schema.h"
+
+#include "libcal.h"
+
+#include <cstdio>
+#include <thread>
+
+#define EXPORTED extern "C" __attribute__((visibility("default")))
+
+namespace sandbox {
+namespace {
+
+// Longer reasons are cut.
+thread_local char reasonOfThread[1024];
+
+int refuse(const Location &location, const char *operation, int code, const char *reason) noexcept {
+    std::snprintf(reasonOfThread, sizeof reasonOfThread, "%s", reason);
+    logRefusal(location, operation, code, reason);
+    return code;
+}
+
+int codeOf(const DatabaseError &error) {
+    return error.busy() ? CALTOFAL_STORE_BUSY : error.noMemory() ? CALTOFAL_NO_MEMORY : CALTOFAL_STORE_FAILED;
+}
+
+// Runs work(location) and turns what it throws into a code.
+template <typename Work>
+int answer(const char *operation, Work work) noexcept {
+    reasonOfThread[0] = '\0';
+    Location location;
+    try {
+        location = Location::current();
+        work(location);
+        return 0;
+    } catch (const Refusal &refusal) {
+        return refuse(location, operation, refusal.code(), refusal.what());
+    } catch (const DatabaseError &error) {
+        return refuse(location, operation, codeOf(error), error.what());
+    } catch (const std::bad_alloc &) {
+        return refuse(location, operation, CALTOFAL_NO_MEMORY, "out of memory");
+    } catch (const std::exception &error) {
+        return refuse(location, operation, CALTOFAL_STORE_FAILED, error.what());
+    }
+}
+
+// Waits, or refuses, where faults are ordered for what the message names. Nothing is locked meanwhile.
+template <typename Request>
+void undergoFaults(const Location &location, const char *operation, const std::vector<Request> &requests) {
+    std::vector<std::string> keys;
+    for (const Request &request : requests) {
+        if (const std::optional<std::string> key = keyOf(request.path)) {
+            keys.push_back(*key);
+        }
+    }
+    FaultVerdict verdict;
+    Connection::instance().with(location,
+                                [&](Database &database) { verdict = consumeFaults(database, operation, keys); });
+    if (verdict.lateMs > 0) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(verdict.lateMs));
+    }
+    if (verdict.failing) {
+        const Fault &fault = *verdict.failing;
+        throw Refusal(*fault.code, "fault " + std::to_string(fault.id) + " hit " +
+                                       (fault.object.empty() ? "this request" : pathOf(fault.object)));
+    }
+}
+
+int set(MsgHeader *message, const char *operation, int layers) noexcept {
+    return answer(operation, [&](const Location &location) {
+        std::vector<SetRequest> requests = setRequests(message);
+        undergoFaults(location, "set", requests);
+        Connection::instance().with(location, [&](Database &database) {
+            Transaction transaction(database, Transaction::Kind::Write);
+            applyRequests(database, requests, layers);
+            transaction.commit();
+        });
+        nameAdded(*message, requests);
+    });
+}
+
+} // namespace
+} // namespace sandbox
+
+using namespace sandbox;
+
+EXPORTED int cal_getValue(MsgHeader *message) {
+    return answer("get", [&](const Location &location) {
+        const std::vector<GetRequest> requests = getRequests(message);
+        undergoFaults(location, "get", requests);
+        Answer result;
+        Connection::instance().with(location, [&](Database &database) {
+            const Transaction transaction(database, Transaction::Kind::Read);
+            for (const GetRequest &request : requests) {
+                result.nextRequest();
+                readParameters(database, request,
+                               [&result](auto key, auto name, auto value) { result.add(key, name, value); });
+            }
+        });
+        result.replace(*message);
+    });
+}
+
+EXPORTED int cal_setValue(MsgHeader *message) {
+    return set(message, "set", kEverywhere);
+}
+
+EXPORTED int cal_setValueToDb(MsgHeader *message) {
+    return set(message, "setToDb", kStored);
+}
+
+EXPORTED const char *cal_sandboxReason(void) {
+    return reasonOfThread;
+}

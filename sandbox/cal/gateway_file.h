@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+//
+// The gateway text format (docs/gateway-file.md): reading and writing.
+#pragma once
+
+#include "entry.h"
+
+#include <string_view>
+
+namespace sandbox {
+
+// Throws FileError at the first bad line. `file` is the name used in messages.
+Entries readGatewayFile(std::string_view text, const std::string &file);
+
+// The line, without its end, that reads back as the entry.
+std::string gatewayLine(const Entry &entry);
+
+} // namespace sandbox

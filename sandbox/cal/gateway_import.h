@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "database.h"
+#include "entry.h"
+
+namespace sandbox {
+
+// Merges what a file says into a store, within the caller's write transaction: what is not said stays as it is, and
+// new objects are made of their templates. Throws FileError at the first entry that can not be taken.
+void importEntries(Database &database, const Entries &entries, const std::string &file);
+
+// Empties a store of its model; faults stay.
+void clearModel(Database &database);
+
+} // namespace sandbox

@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: MIT
+#include "reader.h"
+
+#include "escape.h"
+#include "model.h"
+#include "path.h"
+#include "refusal.h"
+
+#include "caltofal.h"
+
+#include <algorithm>
+#include <set>
+
+namespace sandbox {
+namespace {
+
+// Behind a key, sorts between the object and everything below it.
+constexpr char kFirstBelow = '\x01';
+
+using Names = std::vector<std::string>;
+
+// Which objects a query visits. ?1 and ?2 are bound to what `Scope` says.
+enum class Scope {
+    Own,       // ?1 the object's key
+    Instances, // ?1 the table's id
+    Branch,    // ?1 the first key, ?2 the first one behind the branch
+};
+
+const char *condition(Scope scope) {
+    switch (scope) {
+    case Scope::Own:
+        return "o.key = ?1 AND ?2 IS NULL";
+    case Scope::Instances:
+        return "o.parent = ?1 AND ?2 IS NULL";
+    case Scope::Branch:
+        break;
+    }
+    return "o.key >= ?1 AND o.key < ?2";
+}
+
+// CROSS JOIN keeps the objects outside, so that their index gives the order and a query costs what it visits.
+std::string query(Scope scope, bool defaults, size_t nameCount) {
+    std::string sql = "SELECT o.key, p.name, p.position, p.running";
+    sql += defaults ? ", d.fallback FROM object o CROSS JOIN parameter p CROSS JOIN definition d"
+                    : " FROM object o CROSS JOIN parameter p";
+    sql += " WHERE p.object = o.id AND o.presence <> 2 AND ";
+    sql += condition(scope);
+    sql += defaults ? " AND d.id = p.definition" : "";
+    for (size_t i = 0; i < nameCount; ++i) {
+        sql += i == 0 ? " AND p.name IN (?3" : ", ?" + std::to_string(3 + i);
+    }
+    return sql + (nameCount == 0 ? " ORDER BY o.key, p.position" : ") ORDER BY o.key");
+}
+
+class Reader {
+  public:
+    Reader(Database &database, const GetRequest &request, const Emit &emit)
+        : database_(database), request_(request), emit_(emit), path_(shownPath(request.path)) {}
+
+    void run() {
+        const std::optional<std::string> key = keyOf(request_.path);
+        const std::optional<ObjectRow> object = key ? findObject(database_, *key) : std::nullopt;
+        if (!object || (object->presence & kRunning) == 0) {
+            throw Refusal(CALTOFAL_ABSENT_OBJECT, path_ + ": no such object");
+        }
+        if (!request_.filters.empty()) {
+            for (const std::string &match : matches(*key, *object)) {
+                visit(Scope::Branch, match, keyEnd(match), request_.names);
+            }
+        } else if (request_.leaf && object->kind == ObjectKind::Table) {
+            visit(Scope::Instances, object->id, nullptr, request_.names);
+        } else if (request_.leaf) {
+            visit(Scope::Own, *key, nullptr, request_.names);
+        } else if (request_.names.empty()) {
+            visit(Scope::Branch, *key, keyEnd(*key), request_.names);
+        } else {
+            // What the object has itself is not sought below it.
+            visit(Scope::Own, *key, nullptr, request_.names);
+            if (const Names missing = missingNames(); !missing.empty()) {
+                visit(Scope::Branch, *key + kFirstBelow, keyEnd(*key), missing);
+            }
+        }
+        refuseUnknownNames(*key, object->kind);
+    }
+
+  private:
+    struct Row {
+        int64_t position;
+        std::string name, value;
+    };
+
+    template <typename First, typename Second>
+    void visit(Scope scope, const First &first, const Second &second, const Names &names) {
+        Statement rows(database_, query(scope, request_.defaults, names.size()), first, second);
+        for (size_t i = 0; i < names.size(); ++i) {
+            rows.bind(static_cast<int>(3 + i), std::string_view(names[i]));
+        }
+        std::string key;
+        std::vector<Row> object; // with names, the rows of one object come in the names' order
+        while (rows.step()) {
+            const std::string_view name = rows.text(1);
+            // The store's own counts hold also where defaults are asked for.
+            const int column = request_.defaults && !isCountName(name) ? 4 : 3;
+            if (names.empty()) {
+                emit_(rows.text(0), name, rows.text(column));
+                continue;
+            }
+            if (rows.text(0) != key) {
+                emitRows(key, object);
+                key = rows.text(0);
+            }
+            object.push_back({rows.integer(2), std::string(name), std::string(rows.text(column))});
+            found_.emplace(name);
+        }
+        emitRows(key, object);
+    }
+
+    void emitRows(const std::string &key, std::vector<Row> &rows) const {
+        std::sort(rows.begin(), rows.end(), [](const Row &a, const Row &b) { return a.position < b.position; });
+        for (const Row &row : rows) {
+            emit_(key, row.name, row.value);
+        }
+        rows.clear();
+    }
+
+    Names missingNames() const {
+        Names missing;
+        std::copy_if(request_.names.begin(), request_.names.end(), std::back_inserter(missing),
+                     [this](const std::string &name) { return !found_.contains(name); });
+        return missing;
+    }
+
+    void refuseUnknownNames(std::string_view key, ObjectKind kind) const {
+        for (const std::string &name : missingNames()) {
+            if (!mayHave(key, kind, name)) {
+                throw Refusal(CALTOFAL_UNKNOWN_PARAMETER, path_ + ": no parameter " + quotedShort(name));
+            }
+        }
+    }
+
+    // A table without instances still knows what they would have.
+    bool mayHave(std::string_view key, ObjectKind kind, std::string_view name) const {
+        const Templates templates(database_, key);
+        if (!request_.leaf || !request_.filters.empty()) {
+            return templates.declareBelow(key, name);
+        }
+        return kind == ObjectKind::Table && templates.declareOwn(instanceKey(key, 1), name);
+    }
+
+    std::vector<std::string> matches(const std::string &key, const ObjectRow &object) const {
+        std::vector<std::string> keys;
+        if (object.kind == ObjectKind::Table) {
+            const auto &[name, value] = request_.filters.front();
+            Statement instances(database_,
+                                "SELECT o.key, o.id FROM parameter p CROSS JOIN object o WHERE p.container = ?1 AND "
+                                "p.name = ?2 AND p.running = ?3 AND o.id = p.object AND o.presence <> 2",
+                                object.id, name, value);
+            while (instances.step()) {
+                if (fulfilsAll(instances.integer(1))) {
+                    keys.emplace_back(instances.text(0));
+                }
+            }
+        } else if (fulfilsAll(object.id)) {
+            keys.push_back(key);
+        }
+        if (keys.empty()) {
+            refuseUnknownFilters(key, object);
+            throw Refusal(CALTOFAL_NO_MATCH, path_ + ": no instance has " + filterText());
+        }
+        std::sort(keys.begin(), keys.end());
+        return keys;
+    }
+
+    bool fulfilsAll(int64_t object) const {
+        return std::all_of(request_.filters.begin(), request_.filters.end(), [&](const auto &filter) {
+            const std::optional<ParameterRow> row = findParameter(database_, object, filter.first);
+            return row && row->running == filter.second;
+        });
+    }
+
+    void refuseUnknownFilters(const std::string &key, const ObjectRow &object) const {
+        const bool table = object.kind == ObjectKind::Table;
+        if (table && !Statement(database_, "SELECT 1 FROM object WHERE parent = ?1", object.id).step()) {
+            return;
+        }
+        for (const auto &[name, value] : request_.filters) {
+            Statement instances(database_, "SELECT 1 FROM parameter WHERE container = ?1 AND name = ?2", object.id,
+                                name);
+            const bool known = table ? instances.step() : findParameter(database_, object.id, name).has_value();
+            if (!known && !(table && Templates(database_, key).declareOwn(instanceKey(key, 1), name))) {
+                throw Refusal(CALTOFAL_UNKNOWN_PARAMETER, path_ + ": no parameter " + quotedShort(name));
+            }
+        }
+    }
+
+    std::string filterText() const {
+        std::string text;
+        for (const auto &[name, value] : request_.filters) {
+            text += (text.empty() ? "" : " and ") + name + " = " + quotedShort(value);
+        }
+        return text;
+    }
+
+    Database &database_;
+    const GetRequest &request_;
+    const Emit &emit_;
+    const std::string path_;
+    std::set<std::string, std::less<>> found_;
+};
+
+} // namespace
+
+std::string shownPath(std::string_view path) {
+    if (path.ends_with('.')) {
+        path.remove_suffix(1);
+    }
+    return keyOf(path) ? std::string(path) : quotedShort(path);
+}
+
+void readParameters(Database &database, const GetRequest &request, const Emit &emit) {
+    Reader(database, request, emit).run();
+}
+
+} // namespace sandbox

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "command.h"
+#include "places.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <unistd.h>
+
+namespace sandbox {
+namespace {
+
+struct Options {
+    bool follow = false;
+    bool messages = false;
+};
+
+[[noreturn]] void follow(const std::string &file) {
+    execlp("tail", "tail", "-n", "+1", "-F", file.c_str(), nullptr);
+    throw Failure(std::string("tail: ") + std::strerror(errno));
+}
+
+void print(const std::string &file) {
+    std::ifstream lines(file, std::ios::binary);
+    if (lines && lines.peek() != std::ifstream::traits_type::eof()) {
+        std::cout << lines.rdbuf();
+    }
+}
+
+} // namespace
+
+void addConsole(CLI::App &app, Tool &tool) {
+    auto options = makeOptions<Options>();
+    CLI::App *command = app.add_subcommand("console", "Print what was written to the device's console");
+    command->add_flag("-f,--follow", options->follow, "Go on with what comes, up to Ctrl-C");
+    command->add_flag("-m,--messages", options->messages, "The system log instead: the daemons' and libraries' lines");
+    command->callback([&tool, options] {
+        const Location location = tool.location();
+        const std::string file = options->messages ? box::messagesFile(location) : box::consoleFile(location);
+        options->follow ? follow(file) : print(file);
+    });
+}
+
+} // namespace sandbox

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "changes.h"
+#include "command.h"
+#include "gateway_export.h"
+#include "path.h"
+
+#include <iostream>
+#include <map>
+
+namespace sandbox {
+namespace {
+
+// Sorts an object's parameters between it and the objects below it.
+constexpr char kBeforeObjects = '\x01';
+
+struct Shown {
+    std::string path;
+    std::optional<std::string> value; // of a parameter
+
+    bool operator==(const Shown &) const = default;
+};
+
+// Parameters, and objects without any, by what sorts them as the model does.
+using Shape = std::map<std::string, Shown>;
+
+Shape runningShape(Database &database) {
+    const Transaction transaction(database, Transaction::Kind::Read);
+    Shape shape;
+    for (const Entry &entry : exportEntries(database, "", View::Running)) {
+        if (entry.kind == Entry::Kind::Parameter || entry.kind == Entry::Kind::Object) {
+            shape.emplace(*keyOf(entry.path) + kBeforeObjects + entry.name, Shown{entry.fullPath(), entry.value});
+        }
+    }
+    return shape;
+}
+
+std::vector<Change> compare(const Shape &first, const Shape &second) {
+    std::vector<Change> changes;
+    auto before = first.begin();
+    auto after = second.begin();
+    while (before != first.end() || after != second.end()) {
+        if (after == second.end() || (before != first.end() && before->first < after->first)) {
+            changes.push_back({Change::Kind::Removed, before->second.path, before->second.value, std::nullopt});
+            ++before;
+        } else if (before == first.end() || after->first < before->first) {
+            changes.push_back({Change::Kind::Added, after->second.path, std::nullopt, after->second.value});
+            ++after;
+        } else {
+            if (!(before->second == after->second)) {
+                changes.push_back(
+                    {Change::Kind::Changed, before->second.path, before->second.value, after->second.value});
+            }
+            ++before;
+            ++after;
+        }
+    }
+    return changes;
+}
+
+std::vector<Change> pending(Database &database) {
+    const Transaction transaction(database, Transaction::Kind::Read);
+    return pendingChanges(database);
+}
+
+struct Options {
+    std::string first, second;
+};
+
+} // namespace
+
+void addDiff(CLI::App &app, Tool &tool) {
+    auto options = makeOptions<Options>();
+    CLI::App *command = app.add_subcommand("diff", "Compare the running values of two gateways, or the running with "
+                                                   "the stored values of one");
+    command->add_option("A", options->first, "The gateway")->required();
+    command->add_option("B", options->second, "The gateway to compare it with");
+    command->footer(
+        "Exit code 1 when they differ.\n\n"
+        "Examples:\n  caltofal-sandbox diff home lab\n  caltofal-sandbox diff home     what a boot would change");
+    command->callback([&tool, options] {
+        const std::unique_ptr<Database> first = tool.open(options->first);
+        const std::vector<Change> changes =
+            options->second.empty() ? pending(*first)
+                                    : compare(runningShape(*first), runningShape(*tool.open(options->second)));
+        printChanges(changes, std::cout);
+        tool.exitCode = changes.empty() ? kDone : kFailed;
+    });
+}
+
+} // namespace sandbox

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "command.h"
+#include "demo.h"
+#include "file_format.h"
+#include "gateway_export.h"
+#include "model.h"
+#include "store.h"
+
+#include <iostream>
+
+namespace sandbox {
+namespace {
+
+struct Options {
+    std::vector<std::string> arguments; // [NAME] [PATH]
+    std::string format;
+    bool stored = false;
+};
+
+// A single argument is a path unless a gateway has that name.
+bool isPath(const std::string &argument) {
+    const bool gateway = isGatewayName(argument) && (findDemo(argument) || storeExists(Location::named(argument)));
+    return argument.find('.') != std::string::npos && !gateway;
+}
+
+View viewOf(FileFormat format, bool stored) {
+    // JSON has room for one value.
+    return stored ? View::Stored : format == FileFormat::Json ? View::Running : View::Both;
+}
+
+} // namespace
+
+void addExport(CLI::App &app, Tool &tool) {
+    auto options = makeOptions<Options>();
+    CLI::App *command = app.add_subcommand("export", "Write a gateway, or the branch at PATH, to standard output");
+    command->add_option("NAME PATH", options->arguments, "The gateway; the object to begin at")->expected(0, 2);
+    command->add_option("--format", options->format, "tr181 (the default), csv or json")
+        ->check(CLI::IsMember(formatNames()));
+    command->add_flag("--stored", options->stored, "Stored values only, as after the next boot");
+    command->footer("Examples:\n  caltofal-sandbox export > home.tr181\n"
+                    "  caltofal-sandbox export lab --format json Device.WiFi.");
+    command->callback([&tool, options] {
+        std::vector<std::string> arguments = options->arguments;
+        if (arguments.size() == 1 && isPath(arguments.front())) {
+            arguments.insert(arguments.begin(), "");
+        }
+        arguments.resize(2);
+        const std::string key = arguments[1].empty() ? "" : keyOfArgument(arguments[1]);
+        const FileFormat format = formatOf(options->format, "");
+
+        const std::unique_ptr<Database> database = tool.open(arguments[0]);
+        const Transaction transaction(*database, Transaction::Kind::Read);
+        if (!key.empty() && !findObject(*database, key)) {
+            throw Failure(arguments[1] + ": no such object", kAbsent);
+        }
+        const Detail detail = format == FileFormat::Json ? Detail::All : Detail::Needed;
+        writeEntries(format, exportEntries(*database, key, viewOf(format, options->stored), detail), std::cout);
+    });
+}
+
+} // namespace sandbox

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "command.h"
+#include "demo.h"
+#include "json_value.h"
+#include "refusal.h"
+#include "store.h"
+
+#include <algorithm>
+#include <iomanip>
+#include <iostream>
+#include <set>
+
+namespace sandbox {
+namespace {
+
+struct Gateway {
+    std::string name;
+    bool exists = false;
+    bool demo = false;
+    bool chosen = false;
+    std::optional<int64_t> parameters; // empty: none yet, or the store can not be read
+    std::string trouble;
+};
+
+void countParameters(Gateway &gateway) {
+    try {
+        const std::unique_ptr<Database> database = openStore(Location::named(gateway.name));
+        Statement count(*database, "SELECT count(*) FROM parameter");
+        count.step();
+        gateway.parameters = count.integer(0);
+    } catch (const std::runtime_error &error) {
+        gateway.trouble = error.what();
+    }
+}
+
+std::vector<Gateway> gateways(const Tool &tool) {
+    const Location chosen = tool.location();
+    const std::vector<std::string> stores = storeNames(chosen.directory);
+    std::set<std::string> names(stores.begin(), stores.end());
+    for (const Demo &demo : demos()) {
+        names.emplace(demo.name);
+    }
+    std::vector<Gateway> result;
+    for (const std::string &name : names) {
+        Gateway gateway{name,
+                        std::binary_search(stores.begin(), stores.end(), name),
+                        findDemo(name) != nullptr,
+                        name == chosen.name,
+                        std::nullopt,
+                        {}};
+        if (gateway.exists) {
+            countParameters(gateway);
+        }
+        result.push_back(std::move(gateway));
+    }
+    return result;
+}
+
+void printTable(const std::vector<Gateway> &rows) {
+    size_t width = 0;
+    for (const Gateway &row : rows) {
+        width = std::max(width, row.name.size());
+    }
+    for (const Gateway &row : rows) {
+        std::cout << (row.chosen ? "* " : "  ") << std::left << std::setw(static_cast<int>(width)) << row.name << "  ";
+        if (row.parameters) {
+            std::cout << std::right << std::setw(7) << *row.parameters << " parameters\n";
+        } else {
+            std::cout << (row.exists ? row.trouble : "demo, made on first use") << '\n';
+        }
+    }
+}
+
+void printJson(const std::vector<Gateway> &rows) {
+    Json array = Json::array();
+    for (const Gateway &row : rows) {
+        Json object{{"name", row.name}, {"exists", row.exists}, {"demo", row.demo}, {"chosen", row.chosen}};
+        object["parameters"] = jsonOrNull(row.parameters);
+        object["file"] = Location::named(row.name).storeFile();
+        if (!row.trouble.empty()) {
+            object["trouble"] = row.trouble;
+        }
+        array.push_back(std::move(object));
+    }
+    std::cout << array.dump(2) << '\n';
+}
+
+} // namespace
+
+void addList(CLI::App &app, Tool &tool) {
+    auto json = makeOptions<bool>();
+    CLI::App *command = app.add_subcommand("list", "Show the gateways, and the demos that are made on first use");
+    command->add_flag("--json", *json, "As JSON");
+    command->footer("The chosen gateway has an asterisk.");
+    command->callback([&tool, json] { *json ? printJson(gateways(tool)) : printTable(gateways(tool)); });
+}
+
+} // namespace sandbox

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "command.h"
+#include "demo.h"
+#include "file_format.h"
+#include "gateway_file.h"
+#include "store.h"
+
+namespace sandbox {
+namespace {
+
+constexpr const char *kUsualDemo = "home";
+
+struct Options {
+    std::string name;
+    std::string from;
+};
+
+Entries sourceEntries(const std::string &from) {
+    if (const Demo *demo = findDemo(from)) {
+        return readGatewayFile(demo->text, from + ".tr181");
+    }
+    return readEntries(formatOf("", from), readWhole(from), from);
+}
+
+} // namespace
+
+void addNew(CLI::App &app, Tool &tool) {
+    auto options = makeOptions<Options>();
+    CLI::App *command = app.add_subcommand("new", "Make a gateway");
+    command->add_option("NAME", options->name, "Its name: letters, digits, \".\", \"_\" and \"-\"")->required();
+    command->add_option("--from", options->from, "A demo or a file; without it, the demo of that name, else home")
+        ->type_name("DEMO|FILE");
+    command->footer("Examples:\n  caltofal-sandbox new lab --from dhcp\n  caltofal-sandbox new lab --from lab.tr181");
+    command->callback([&tool, options] {
+        const Location location = tool.location(options->name);
+        const std::string from = !options->from.empty()    ? options->from
+                                 : findDemo(options->name) ? options->name
+                                                           : kUsualDemo;
+        if (!createStore(location, sourceEntries(from), from)) {
+            throw Failure("there is a gateway " + location.name + " already");
+        }
+        say("made gateway " + location.name + " of " + from);
+    });
+}
+
+} // namespace sandbox

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "command.h"
+
+#include "box.h"
+#include "obstacle.h"
+#include "store.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iostream>
+
+namespace sandbox {
+namespace {
+
+struct Options {
+    bool check = false;
+    std::vector<std::string> shown;
+};
+
+void enterBox(Tool &tool, const Options &options, std::vector<std::string> command) {
+    try {
+        const Location location = tool.location();
+        openStore(location); // made when it is a demo's; refused here, not by each program in the box
+        tool.exitCode = box::run({location, std::move(command), options.shown});
+    } catch (const box::Obstacle &obstacle) {
+        say(std::string("caltofal-sandbox: ") + obstacle.what());
+        tool.exitCode = box::kExitNoBox;
+    }
+}
+
+void run(Tool &tool, const Options &options) {
+    if (options.check) {
+        enterBox(tool, options, {"/bin/sh", "-c", "exit 0"});
+        if (tool.exitCode == kDone) {
+            std::cout << "the device box works here\n";
+        }
+    } else if (tool.words.empty()) {
+        throw Failure("run: which command? caltofal-sandbox run -- COMMAND [ARGUMENT...]", kUsage);
+    } else {
+        enterBox(tool, options, tool.words);
+    }
+}
+
+void addShown(CLI::App *command, Options &options) {
+    command->add_option("-b,--bind", options.shown, "A directory to show in the box as well, writable")
+        ->type_name("DIRECTORY")
+        ->allow_extra_args(false);
+}
+
+} // namespace
+
+void takeWords(int &argc, char **argv, Tool &tool) {
+    using namespace std::string_view_literals;
+    char **const end = argv + argc;
+    char **const mark = std::find(argv, end, "--"sv);
+    if (mark != end && std::find(argv, mark, "run"sv) != mark) {
+        tool.words.assign(mark + 1, end);
+        argc = static_cast<int>(mark - argv);
+    }
+}
+
+void addRun(CLI::App &app, Tool &tool) {
+    auto options = makeOptions<Options>();
+    CLI::App *command = app.add_subcommand("run", "Run a program where the device's paths, tools and daemons are");
+    command->add_flag("--check", options->check, "Only tell whether it can be done here");
+    addShown(command, *options);
+    command->footer(R"(Usage: caltofal-sandbox run [-g NAME] [-b DIRECTORY]... -- COMMAND [ARGUMENT...]
+
+Examples:
+  caltofal-sandbox run -- caltofal mode
+  caltofal-sandbox run -g mesh -- sh -c 'gddbc -i -g /runtime/singlesignoninfo/livingslave/ishasrptslave'
+
+The exit code is the command's; 77 where there can be no box.)");
+    command->callback([&tool, options] { run(tool, *options); });
+}
+
+void addShell(CLI::App &app, Tool &tool) {
+    auto options = makeOptions<Options>();
+    CLI::App *command = app.add_subcommand("shell", "Open the device's shell");
+    addShown(command, *options);
+    command->callback([&tool, options] {
+        setenv("PS1", (tool.location().name + R"(:\w\$ )").c_str(), 1);
+        enterBox(tool, *options, {"/bin/sh"});
+    });
+}
+
+} // namespace sandbox

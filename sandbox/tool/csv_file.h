@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+//
+// Gateways as CSV (RFC 4180): a header that names the columns path and value, and where wanted type, access, default
+// and running, in any order.
+#pragma once
+
+#include "entry.h"
+
+#include <iosfwd>
+#include <string_view>
+
+namespace sandbox {
+
+Entries readCsv(std::string_view text, const std::string &file);
+void writeCsv(const Entries &entries, std::ostream &out);
+
+} // namespace sandbox
