@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "field_table.h"
+
+#include "range.h"
+#include "text.h"
+
+#include <cstring>
+
+namespace frame {
+namespace {
+
+// The first four bytes of a name: one comparison rules almost every row out.
+uint32_t firstBytes(const char *name) {
+    uint32_t bytes = 0;
+    memcpy(&bytes, name, sizeof(bytes));
+    return bytes;
+}
+
+const Field *search(std::span<const Field> rows, const char *name) {
+    const uint32_t wanted = firstBytes(name);
+    for (const Field &field : rows) {
+        if (firstBytes(field.name) == wanted && strcmp(field.name, name) == 0) {
+            return &field;
+        }
+    }
+    return nullptr;
+}
+
+template <class Number>
+void storeNumber(char *target, Number number) {
+    memcpy(target, &number, sizeof(number));
+}
+
+} // namespace
+
+const Field *findField(const Fields &fields, const char *name) {
+    return search(fields.rows, name);
+}
+
+void storeField(const Field &field, const char *value, void *record, size_t recordSize) {
+    char *target = static_cast<char *>(record) + field.offset;
+    switch (field.rule) {
+    case Rule::Text:
+        copyText(target, field.size, value);
+        break;
+    case Rule::Padded:
+        copyPadded(target, field.size, value);
+        break;
+    case Rule::Whole:
+        copyWhole(target, field.size, value);
+        break;
+    case Rule::Overrunning:
+        copyExact(target, recordSize - field.offset, value);
+        break;
+    case Rule::Number:
+        storeNumber<int32_t>(target, number(value));
+        break;
+    case Rule::Flag:
+        storeNumber<uint8_t>(target, static_cast<uint8_t>(atob(value)));
+        break;
+    }
+}
+
+void storeParam(const ParamNode &param, const Fields &fields, void *record, size_t recordSize, Empty empty) {
+    const Field *field = search(fields.rows, param.name);
+    if (field && (*param.value || empty == Empty::Store)) {
+        storeField(*field, param.value, record, recordSize);
+    }
+}
+
+void fillRecord(ObjectNode &object, const Fields &fields, void *record, size_t recordSize, Empty empty) {
+    const auto [rows, filter] = fields; // a copy that no store into the record can change
+    for (const ParamNode &param : params(object)) {
+        if (!filter.mayHold(param.name)) {
+            continue;
+        }
+        const Field *field = search(rows, param.name);
+        if (field && (*param.value || empty == Empty::Store)) {
+            storeField(*field, param.value, record, recordSize);
+        }
+    }
+}
+
+} // namespace frame

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// The words of requests and their codes.
+#pragma once
+
+#include <cstdint>
+
+namespace frame {
+
+// Main operation of "get", "set", "factoryreset", "backup", "reboot", "fwupgrade"; 0 for another word or null.
+uint32_t mainOperation(const char *word);
+
+// Sub-operation of "get", "set", "add", "del", "act"; 0 for another word or null.
+uint32_t subOperation(const char *word);
+
+// Whether a word is there and equals a keyword, in case too.
+bool isKeyword(const char *word, const char *keyword);
+
+// What a new multi-object message gets from its main keyword.
+struct ExtendedOperation {
+    char word[28];
+    uint32_t mainOper; // 0: unknown keyword
+    uint32_t listFlags;
+    bool filter; // parameters come with values to match
+};
+
+// The words of mainOperation(), and "get_def_val", "get_leaf_node", "get_filter_by_param_value", "set_only_db".
+const ExtendedOperation &extendedOperation(const char *word);
+
+} // namespace frame

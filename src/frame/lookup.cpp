@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "lookup.h"
+
+#include "name_filter.h"
+#include "range.h"
+#include "text.h"
+#include "trace.h"
+
+#include <cstring>
+
+namespace frame {
+namespace {
+
+void traceMissing(const char *name) {
+    traceVola(kFaltoCal, 1357, "zintu_GetParamFromObjUnit");
+    PRINT_TO_CONSOLE("Can't find Param(%s) in Obj\n", name);
+}
+
+// Points the value of the parameter's name to it, unless it has one.
+void takeFirst(const ParamNode &param, std::span<const char *const> names, const char **values) {
+    for (size_t i = 0; i < names.size(); ++i) {
+        if (sameName(param.name, names[i])) {
+            if (!values[i]) {
+                values[i] = param.value;
+            }
+            return;
+        }
+    }
+}
+
+} // namespace
+
+const char *findValue(ObjectNode &object, const char *name) {
+    for (const ParamNode &param : params(object)) {
+        if (sameName(param.name, name)) {
+            return param.value;
+        }
+    }
+    return nullptr;
+}
+
+void lookUp(ObjectNode &object, std::span<const char *const> names, const char **values) {
+    memset(values, 0, names.size_bytes());
+    NameFilter filter;
+    for (const char *name : names) {
+        filter.add(name);
+    }
+    for (const ParamNode &param : params(object)) {
+        if (filter.mayHold(param.name)) {
+            takeFirst(param, names, values);
+        }
+    }
+    for (size_t i = 0; i < names.size(); ++i) {
+        if (!values[i]) {
+            traceMissing(names[i]);
+        }
+    }
+}
+
+const char *lookUp(ObjectNode &object, const char *name) {
+    const char *value = nullptr;
+    zintu_GetParamFromObjUnit(&object, name, &value);
+    return value;
+}
+
+} // namespace frame
+
+using namespace frame;
+
+int caltofal_paramValue_get(ObjectNode *objectList, const char *objectPart, const char *paramName, char **out) {
+    constexpr size_t kCompared = 128;
+    constexpr size_t kValueSize = 128;
+    for (ObjectNode &object : objects(objectList)) {
+        if (!strstr(object.name, objectPart)) {
+            continue;
+        }
+        for (const ParamNode &param : params(object)) {
+            if (*param.name == *paramName && strncmp(param.name, paramName, kCompared) == 0) {
+                copyText(*out, kValueSize, param.value);
+                return 0;
+            }
+        }
+    }
+    return -1;
+}
+
+int zintu_GetParamFromObjUnit(ObjectNode *object, const char *paramName, const char **out) {
+    if (!object || !paramName || !*paramName || !out) {
+        traceVola(kFaltoCal, 1347);
+        PRINT_TO_CONSOLE("invalid parameter\n");
+        return -1;
+    }
+    const char *value = findValue(*object, paramName);
+    if (!value) {
+        traceMissing(paramName);
+        return -1;
+    }
+    *out = value;
+    return 0;
+}
+
+void zintu_InsertDotEndofObj(char *path) {
+    if (!path || !*path) {
+        return;
+    }
+    char *end = path + strlen(path);
+    if (end[-1] != '.') {
+        memcpy(end, ".", sizeof("."));
+    }
+}

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+// Requests that collect several objects in one message: "&" queues, "query" sends what was queued.
+#include "arguments.h"
+#include "help_objlist.h"
+#include "keyword.h"
+#include "trace.h"
+
+#include <cstdio>
+#include <cstring>
+#include <strings.h>
+
+using namespace frame;
+
+namespace {
+
+constexpr uint32_t kOwnerMultiObject = 2;
+constexpr size_t kPathSize = 256;
+
+// Lines that the traces of one request function carry.
+struct TraceLines {
+    const char *function;
+    int unknownMain;
+    int unknownSub;
+    int failedSend;
+};
+
+struct Request {
+    MsgHeader *message;
+    const char *object;
+    const char *mainOper;
+    const char *subOper;
+    int count;
+};
+
+struct Path {
+    char text[kPathSize];
+    bool deferred; // add it without sending yet
+};
+
+Path parsePath(const char *object) {
+    Path path = {{}, strchr(object, '&') != nullptr};
+    // Wherever the '&' stands, it is the last character that goes.
+    const size_t length = strlen(object) - (path.deferred ? 1 : 0);
+    memcpy(path.text, object, length < kPathSize ? length : kPathSize - 1);
+    return path;
+}
+
+bool isStoreOnly(const Request &request) {
+    return isKeyword(request.mainOper, "set_only_db");
+}
+
+bool isQuery(const char *object) {
+    return strncasecmp(object, "query", kPathSize) == 0;
+}
+
+// Takes `count` parameters. A null node is handed on; what becomes of it is the helper library's affair.
+void addParameters(ObjectNode *node, uint32_t mainOper, bool filter, uint32_t listFlags, int count,
+                   Arguments &arguments) {
+    for (int i = 0; i < count; ++i) {
+        const char *name = arguments.next();
+        if (mainOper == kMainSet || filter) {
+            HELP_PARAM_SET(node, name, arguments.next());
+        } else if (mainOper == kMainGet) {
+            HELP_PARAM_GET(node, name, listFlags);
+        }
+    }
+}
+
+int unknownWord(const TraceLines &lines, int line, const char *word, const char *object) {
+    traceVola(kFaltoCal, line, lines.function);
+    PRINT_TO_CONSOLE("Failure : Unknown args sMainOper = %s of %s \n", word, object);
+    return -1;
+}
+
+int failedSend(const TraceLines &lines, const char *object) {
+    traceVola(kFaltoCal, lines.failedSend, lines.function);
+    PRINT_TO_CONSOLE("Failure : faltocal_sendQuery() of %s \n", object);
+    return -1;
+}
+
+int send(const Request &request, bool storeOnly, const TraceLines &lines) {
+    const int result = storeOnly ? faltocal_sendQuery_ToDb(request.message) : faltocal_sendQuery(request.message);
+    return result == 0 ? 0 : failedSend(lines, request.object);
+}
+
+int addAndSend(const Request &request, Arguments arguments, const TraceLines &lines) {
+    MsgHeader *message = request.message;
+    const Path path = parsePath(request.object);
+    bool filter = false;
+    bool storeOnly = false;
+    if (message->objectList) {
+        storeOnly = isStoreOnly(request);
+    } else {
+        // A message that "set_only_db" starts is applied all the same, unless a later call repeats the word.
+        const ExtendedOperation &operation = extendedOperation(request.mainOper);
+        if (operation.mainOper == 0) {
+            return unknownWord(lines, lines.unknownMain, request.mainOper, request.object);
+        }
+        HELP_CREATE_OBJ(message, operation.mainOper, operation.listFlags, kOwnerMultiObject);
+        filter = operation.filter;
+    }
+    const uint32_t sub = subOperation(request.subOper);
+    if (sub == 0) {
+        return unknownWord(lines, lines.unknownSub, request.subOper, request.object);
+    }
+    ObjectNode *node = nullptr;
+    faltocal_FillObject(&node, message->objectList, path.text, message->mainOper, sub, SOPT_OBJVALUE);
+    const bool pairs = message->mainOper == kMainSet || filter;
+    if (node || pairs) {
+        addParameters(node, message->mainOper, filter, SOPT_OBJVALUE, request.count, arguments);
+    }
+    return path.deferred ? 0 : send(request, storeOnly, lines);
+}
+
+} // namespace
+
+int faltocal_send_main_multi_obj(MsgHeader *message, const char *object, const char *mainOper, const char *subOper,
+                                 int count, ...) {
+    constexpr TraceLines kLines = {"faltocal_send_main_multi_obj", 744, 775, 830};
+    const Request request = {message, object, mainOper, subOper, count};
+    if (isQuery(object)) {
+        if (!message->objectList) {
+            traceVola(kFaltoCal, 661);
+            PRINT_TO_CONSOLE("Failure : Received MsgHdr is NULL. can NOT do query.\n");
+            return -1;
+        }
+        return send(request, isStoreOnly(request), kLines);
+    }
+    va_list list;
+    va_start(list, count);
+    const int result = addAndSend(request, Arguments(&list), kLines);
+    va_end(list);
+    return result;
+}
+
+int faltocal_send_main_multi_obj_No_variable(MsgHeader *message, char *object, const char *mainOper,
+                                             const char *subOper, int count, const char **params) {
+    constexpr TraceLines kLines = {"faltocal_send_main_multi_obj_No_variable", 950, 981, 1050};
+    const Request request = {message, object, mainOper, subOper, count};
+    if (isQuery(object)) {
+        if (!message->objectList) {
+            TraceLines lines = kLines;
+            lines.failedSend = 1025;
+            return failedSend(lines, object);
+        }
+        return send(request, isStoreOnly(request), kLines);
+    }
+    return addAndSend(request, Arguments(params), kLines);
+}
+
+int faltocal_SendMultiObj(uint8_t send, uint32_t listFlags, uint32_t owner, MsgHeader *message, const char *object,
+                          const char *mainOper, const char *subOper, int count, ...) {
+    if (strncmp(object, "query", kPathSize) == 0) {
+        return send != 0 ? faltocal_sendQuery(message) : 0;
+    }
+    bool filter = false;
+    if (!message->objectList) {
+        filter = isKeyword(mainOper, "get_filter_by_param_value");
+        const uint32_t main = filter ? kMainGet : mainOperation(mainOper);
+        if (main == 0) {
+            return -1;
+        }
+        HELP_CREATE_OBJ(message, main, listFlags, owner);
+    }
+    const uint32_t sub = subOperation(subOper);
+    if (sub == 0) {
+        return -1;
+    }
+    ObjectNode *node = nullptr;
+    faltocal_FillObject(&node, message->objectList, object, message->mainOper, sub, listFlags);
+    va_list list;
+    va_start(list, count);
+    Arguments arguments(&list);
+    addParameters(node, message->mainOper, filter, listFlags, count, arguments);
+    va_end(list);
+    return send != 0 ? faltocal_sendQuery(message) : 0;
+}

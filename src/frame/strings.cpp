@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// Exported text helpers.
+#include "caltofal.h"
+
+#include "text.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <cstring>
+#include <strings.h>
+
+using namespace frame;
+
+int itoa(int value, char *out) {
+    char digits[12] = "";
+    if (value > 0) {
+        std::to_chars(digits, digits + sizeof(digits), value);
+    }
+    strcpy(out, digits);
+    return 0;
+}
+
+int atob(const char *text) {
+    constexpr size_t kCompared = 128;
+    return strncmp(text, "1", kCompared) == 0 || strcasecmp(text, "true") == 0 ? 1 : 0;
+}
+
+char *strupr(char *text) {
+    for (char *c = text; *c; ++c) {
+        if (*c >= 'a' && *c <= 'z') {
+            *c = static_cast<char>(*c - 32);
+        }
+    }
+    return text;
+}
+
+void reverse_string(char *text) {
+    std::reverse(text, text + strlen(text));
+}
+
+char *trim_start_space(char *text) {
+    while (*text != '\n' && isspace(static_cast<unsigned char>(*text))) {
+        ++text;
+    }
+    return text;
+}
+
+char *remove_rss_tag(char *text, const char *openTag) {
+    char element[128];
+    copyText(element, trim_start_space(text));
+    const size_t tagLength = strlen(openTag);
+    if (tagLength > strlen(element)) {
+        return text;
+    }
+    char *payload = element + tagLength;
+    reverse_string(payload);
+    const char *closingTag = strstr(payload, "/<");
+    if (!closingTag) {
+        return text;
+    }
+    char result[128];
+    copyText(result, closingTag + 2);
+    reverse_string(result);
+    strcpy(text, result); // never longer than the text it was cut from
+    return text;
+}

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// The enable switch of the roaming mesh.
+#include "lookup.h"
+#include "message.h"
+#include "range.h"
+#include "trace.h"
+
+using namespace frame;
+
+namespace {
+
+constexpr char kRoamingMesh[] = "Device.WiFi.X_ZINTU_RoamingMesh.";
+constexpr char kEnable[] = "Enable";
+
+bool isEnabled(const MsgHeader &answer) {
+    for (ObjectNode &object : objects(answer)) {
+        if (const char *enable = findValue(object, kEnable)) {
+            return atob(enable) != 0;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+int ZINTU_meshgrove_check_is_enabled(void) {
+    Message message;
+    if (faltocal_send_main_multi_obj(message, kRoamingMesh, "get", "get", 1, kEnable) == 0) {
+        return isEnabled(*message) ? 1 : 0;
+    }
+    traceError(193);
+    PRINT_TO_CONSOLE("faltocal_send_main_multi_obj function failed with object [%s] param [%s] \n", kRoamingMesh,
+                     kEnable);
+    traceVola(kMeshGrove, 210);
+    PRINT_TO_CONSOLE("[ERROR] Return [false] \n");
+    return 0;
+}
+
+int ZINTU_meshgrove_set_enable_value(uint8_t enable) {
+    traceVola(kMeshGrove, 296);
+    PRINT_TO_CONSOLE("START_FUNCTION : FAL with arg [%d] \n", enable);
+    Message message;
+    const int result =
+        faltocal_send_main_multi_obj(message, kRoamingMesh, "set", "set", 1, kEnable, enable != 0 ? "true" : "false");
+    if (result == -1) {
+        traceError(301);
+        PRINT_TO_CONSOLE("faltocal_send_main_multi_obj is Failure\n");
+    }
+    return result;
+}

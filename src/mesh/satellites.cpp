@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// The satellites of a mesh master: finding their address, and having settings pushed to them.
+#include "trace.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <unistd.h>
+
+using namespace frame;
+
+namespace {
+
+constexpr int kMasterMode = 4; // bit of the operation mode
+constexpr unsigned kSyncStartSeconds = 5;
+
+bool hasSatellite() {
+    char count[128] = "";
+    ZINTU_meshgrove_get_from_shell("gddbc -i -g /runtime/singlesignoninfo/livingslave/ishasrptslave", count);
+    return atoi(count) > 0;
+}
+
+} // namespace
+
+char *ZINTU_meshgrove_get_IP_from_MAC(char *mac) {
+    char command[512];
+    snprintf(command, sizeof(command), "%s %s", "/opt/meshgrove/scripts/find_mac_to_ip.sh", mac);
+    return get_from_shell(command, mac);
+}
+
+int ZINTU_meshgrove_sync_to_slave(void) {
+    if (ZINTU_meshgrove_check_is_enabled() == 0) {
+        traceVola(kMeshGrove, 155);
+        PRINT_TO_CONSOLE("The Meshgrove is NOT enabled. Skip waiting for SSO. \n");
+        return 0;
+    }
+    // An unknown mode (-1) has the bit too: better one sync too many.
+    if ((ZintuGet_OperMode() & kMasterMode) == 0) {
+        traceVola(kMeshGrove, 162);
+        PRINT_TO_CONSOLE("The operation mode is NOT Master. Skip waiting for SSO. \n");
+        return 0;
+    }
+    if (!hasSatellite()) {
+        traceVola(kMeshGrove, 168);
+        PRINT_TO_CONSOLE("The connected slave is NOT exist. Skip waiting for SSO. \n");
+        return 0;
+    }
+    // The daemon reads its pending command when it is signalled: an empty one asks for a sync.
+    ZINTU_meshgrove_get_from_shell("gddbc -i -s /runtime/nimbord/sysnotifycmd \"\" ; killall -SIGUSR1 nimbord",
+                                   nullptr);
+    sleep(kSyncStartSeconds);
+    return 0;
+}

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+// The first line that a shell command prints, in two variants: one insists on an output buffer and clears all of it
+// on failure, the other also runs commands for their effect alone.
+#include "pipe.h"
+#include "trace.h"
+
+#include <cstring>
+
+using namespace frame;
+
+namespace {
+
+constexpr size_t kOutputSize = 128;
+
+bool isEmpty(const char *text) {
+    return !text || !*text;
+}
+
+bool readFirstLine(const char *command, char *output) {
+    constexpr char kFunction[] = "get_from_shell";
+    if (isEmpty(command) || !output) {
+        traceVola(kMeshGrove, 95, kFunction);
+        PRINT_TO_CONSOLE("[ERROR] Received arg CMD [%s] or return buffer is NULL \n", command);
+        return false;
+    }
+    Pipe pipe(command);
+    if (!pipe.started()) {
+        traceVola(kMeshGrove, 102, kFunction);
+        PRINT_TO_CONSOLE("[ERROR] popen failed with [%s] \n", command);
+        return false;
+    }
+    if (!pipe.readLine(output, kOutputSize)) {
+        traceVola(kMeshGrove, 110, kFunction);
+        PRINT_TO_CONSOLE("[ERROR] fgets function failed. \n");
+        return false;
+    }
+    return true;
+}
+
+bool runAndReadFirstLine(const char *command, char *output) {
+    constexpr char kFunction[] = "ZINTU_meshgrove_get_from_shell";
+    if (isEmpty(command)) {
+        traceVola(kMeshGrove, 228, kFunction);
+        PRINT_TO_CONSOLE("Received arg CMD is NULL \n");
+        return false;
+    }
+    Pipe pipe(command);
+    if (!pipe.started()) {
+        traceVola(kMeshGrove, 235, kFunction);
+        PRINT_TO_CONSOLE("popen failed with [%s] \n", command);
+        return false;
+    }
+    if (!output) {
+        traceVola(kMeshGrove, 243, kFunction);
+        PRINT_TO_CONSOLE("Received return buffer is NULL. Skip get return value. \n");
+        return false;
+    }
+    if (!pipe.readLine(output, kOutputSize)) {
+        traceVola(kMeshGrove, 249, kFunction);
+        PRINT_TO_CONSOLE("fgets function failed. \n");
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+char *get_from_shell(const char *command, char *output) {
+    if (readFirstLine(command, output)) {
+        dropTrailingSpace(output);
+        return output;
+    }
+    if (output) {
+        memset(output, 0, kOutputSize);
+    }
+    traceVola(kMeshGrove, 134);
+    PRINT_TO_CONSOLE("[ERROR] Received CMD [%s] returns [%s] \n", command, output);
+    return output;
+}
+
+char *ZINTU_meshgrove_get_from_shell(const char *command, char *output) {
+    if (runAndReadFirstLine(command, output)) {
+        dropTrailingSpace(output);
+    } else if (output) {
+        *output = '\0';
+    }
+    traceVola(kMeshGrove, 272);
+    PRINT_TO_CONSOLE("Received CMD [%s] returns [%s] \n", command, output);
+    return output;
+}

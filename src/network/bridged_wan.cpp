@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+// The WAN of a device in bridge mode: its first IP interface.
+#include "forwarding.h"
+#include "lookup.h"
+#include "range.h"
+#include "request.h"
+#include "text.h"
+
+#include <cstring>
+
+using namespace frame;
+using namespace network;
+
+namespace {
+
+constexpr uint32_t kWifiWan = 2;
+constexpr uint32_t kRefused = 4;
+constexpr char kInterface[] = "Device.IP.Interface.1.";
+
+// The first value of a parameter in an answer, or nullptr.
+const char *firstValue(const Message &message, const char *name) {
+    for (ObjectNode &object : objects(*message)) {
+        if (const char *value = findValue(object, name)) {
+            return value;
+        }
+    }
+    return nullptr;
+}
+
+void writeFixedValues(uint32_t flags, ZintuWanInfo *info) {
+    copyText(info->sOperMode, "bridge");
+    copyText(info->sWanIpInterface, kInterface);
+    copyText(info->sWanIpType, "dynamic");
+    copyText(info->sWanLinkType, (flags & kWifiWan) != 0 ? "wifi" : "ethernet");
+    copyText(info->sIpv4Mode, "dynamic");
+    info->bVlanEnable = 0;
+    info->nVlanID = 0;
+}
+
+void readInterface(ZintuWanInfo *info) {
+    Message message;
+    if (getObject(message, kInterface) != 0) {
+        return;
+    }
+    if (const char *lowerLayers = firstValue(message, "LowerLayers")) {
+        copyText(info->sLowerLayers, lowerLayers);
+    }
+    if (const char *name = firstValue(message, "Name")) {
+        copyText(info->sName, name);
+    }
+}
+
+// The interface is up when it holds an address that DHCP gave.
+void readAddress(ZintuWanInfo *info) {
+    const char *description = nullptr;
+    const char *address = nullptr;
+    const char *mask = nullptr;
+    Message message;
+    if (getObject(message, "Device.IP.Interface.1.IPv4Address.1.") == 0) {
+        description = firstValue(message, "X_LANTIQ_COM_Description");
+        address = firstValue(message, "IPAddress");
+        mask = firstValue(message, "SubnetMask");
+    }
+    constexpr char kNoAddress[] = "0.0.0.0";
+    const bool up =
+        description && address && mask && strstr(description, "DHCP") && *address && !beginsWith(address, kNoAddress);
+    copyText(info->sStatus, up ? "Up" : "Down");
+    copyText(info->sDescription, up ? description : kNoAddress);
+    copyText(info->sIPAddress, up ? address : kNoAddress);
+    copyText(info->sSubnetMask, up ? mask : kNoAddress);
+}
+
+// The last qualifying entry wins.
+int readGateway(ZintuWanInfo *info) {
+    Message message;
+    const int code = getFiltered(message, kForwardingTable, "Interface", kInterface);
+    if (code != 0) {
+        return code;
+    }
+    for (ObjectNode &entry : objects(*message)) {
+        if (const char *gateway = gatewayOf(findValue(entry, "GatewayIPAddress"), findValue(entry, "Origin"))) {
+            copyText(info->sGateway, gateway);
+        }
+    }
+    return 0;
+}
+
+} // namespace
+
+int32_t ZintuGet_BrWanInfo(uint32_t flags, ZintuWanInfo *info) {
+    if ((flags & kRefused) != 0) {
+        return -1;
+    }
+    writeFixedValues(flags, info);
+    readInterface(info);
+    readAddress(info);
+    const int code = readGateway(info);
+    info->bDnsAuto = 1;
+    ZintuGet_WanDns(kInterface, info->sDNS1, info->sDNS2);
+    info->bIpv6Enable = 0;
+    copyText(info->sIpv6Type, "dhcpv6");
+    return code;
+}

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "forwarding.h"
+
+#include "text.h"
+
+using namespace frame;
+
+namespace network {
+
+const char *gatewayOf(const char *gateway, const char *origin) {
+    const bool counts =
+        gateway && origin && *gateway &&
+        (beginsWith(origin, "DHCPv4") || beginsWith(origin, "Static") || beginsWith(origin, "X_LANTIQ_COM_PPPoE"));
+    return counts ? gateway : nullptr;
+}
+
+} // namespace network

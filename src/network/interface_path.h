@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// Interface paths that compare equal with and without their final dot.
+#pragma once
+
+#include "bounded_text.h"
+
+namespace network {
+
+// A path put together: room for the path of an interface and what is appended to it.
+using Path = frame::BoundedText<288>;
+
+// A path of at most 255 characters, ending in a dot.
+class InterfacePath {
+  public:
+    explicit InterfacePath(const char *path);
+
+    // Whether a reference, given its final dot where it lacks one, is this path.
+    [[nodiscard]] bool is(const char *reference) const;
+
+  private:
+    size_t length_;
+    char path_[257];
+};
+
+} // namespace network

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+// Whether the bridge of an IPTV set-top box is in use.
+#include "lookup.h"
+#include "range.h"
+#include "request.h"
+#include "text.h"
+
+#include <cstring>
+
+using namespace frame;
+using namespace network;
+
+namespace {
+
+constexpr int kUnknown = -1;
+
+struct State {
+    int enable = kUnknown;
+    int iptv = kUnknown;
+};
+
+void insertDot(ObjectNode &object) {
+    if (strnlen(object.name, sizeof(object.name)) < sizeof(object.name) - 1) {
+        zintu_InsertDotEndofObj(object.name);
+    }
+}
+
+void takeBridge(ObjectNode &bridge, State &state) {
+    enum : uint8_t { Description, MemberPort, Count };
+    constexpr const char *kNames[Count] = {"Description", "MemberPort"};
+    const char *values[Count];
+    lookUp(bridge, kNames, values);
+    if (values[Description] && values[MemberPort] && beginsWith(values[Description], "IPTV")) {
+        state.iptv = *values[MemberPort] ? 1 : 0;
+    }
+}
+
+void take(ObjectNode &object, State &state) {
+    insertDot(object);
+    if (beginsWith(object.name, "Device.X_ZINTU_Multi_Bridge.Bridge.")) {
+        takeBridge(object, state);
+    } else if (beginsWith(object.name, "Device.X_ZINTU_Multi_Bridge.")) {
+        if (const char *enable = lookUp(object, "Enable")) {
+            state.enable = isOn(enable) ? 1 : 0;
+        }
+    }
+}
+
+} // namespace
+
+int32_t Zintu_isEnabledIptvStb(void) {
+    Message message;
+    const int code = getObject(message, "Device.X_ZINTU_Multi_Bridge.");
+    if (code != 0) {
+        return failed(code, "faltocal_send_main is Failure\n", 1811);
+    }
+    State state;
+    for (ObjectNode &object : objects(*message)) {
+        take(object, state);
+    }
+    if (state.enable == kUnknown) {
+        return kUnknown;
+    }
+    if (state.enable == 1 && state.iptv == 1) {
+        return 1;
+    }
+    return state.iptv == kUnknown ? kUnknown : 0;
+}

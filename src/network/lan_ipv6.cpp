@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+// LAN page, IPv6: state, address, DNS, DHCPv6 range, prefix delegation, manual prefix.
+#include "field_tables.h"
+#include "lookup.h"
+#include "range.h"
+#include "request.h"
+#include "text.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+using namespace frame;
+using namespace network;
+
+namespace {
+
+constexpr int32_t kPrefixLength = 64;
+constexpr int32_t kHostLength = 128;
+
+// "address/length", or an address alone. A value of one character is none.
+bool storeAddress(LANv6Info &info, const char *value) {
+    if (strnlen(value, 2) < 2) {
+        return false;
+    }
+    const char *slash = strchr(value, '/');
+    copyText(info.sIPv6Address, sizeof(info.sIPv6Address), value,
+             slash ? static_cast<size_t>(slash - value) : sizeof(info.sIPv6Address));
+    info.nPrefixLength = slash ? atoi(slash + 1) : kHostLength;
+    return true;
+}
+
+bool storeAddresses(LANv6Info &info, ObjectNode &object) {
+    bool found = false;
+    for (const ParamNode &param : params(object)) {
+        if (isNamed(param, "IPAddress")) {
+            found = storeAddress(info, param.value) || found;
+        }
+    }
+    return found;
+}
+
+void storeManualPrefix(LANv6Info &info, ObjectNode &object) {
+    for (const ParamNode &param : params(object)) {
+        if (isNamed(param, "ManualPrefixes")) {
+            copyText(info.sManualPrefix, param.value);
+            info.nManualPrefixLength = kPrefixLength;
+        }
+    }
+}
+
+// Objects are told apart by what their name contains, in this order. Whether an address was found.
+bool fillFrom(ObjectNode &object, LANv6Info &info) {
+    if (strstr(object.name, "Device.IPv6")) {
+        fill(object, kLanIpv6, info);
+    } else if (strstr(object.name, "Device.RouterAdvertisement.InterfaceSetting.1")) {
+        storeManualPrefix(info, object);
+    } else if (strstr(object.name, "Device.IP.Interface.1.IPv6Address.1")) {
+        return storeAddresses(info, object);
+    } else if (strstr(object.name, "Device.DHCPv6.Server.Pool.1")) {
+        fill(object, kLanPoolV6, info);
+    } else {
+        traceVola(kNetworkGet, 1774, "ZintuGet_LANv6Info");
+        PRINT_TO_CONSOLE("Received unhandled object = %s\n", object.name);
+    }
+    return false;
+}
+
+void synthesiseAddress(LANv6Info &info) {
+    char address[sizeof(info.sManualPrefix) + 2];
+    snprintf(address, sizeof(address), "%s1", Terminated(info.sManualPrefix).c_str());
+    copyText(info.sIPv6Address, address);
+    info.nPrefixLength = kPrefixLength;
+}
+
+struct Request {
+    const char *object;
+    int line;
+};
+
+// An "&" queues; the last one sends.
+constexpr Request kRequests[] = {
+    {"Device.IPv6.&", 1670},
+    {"Device.IP.Interface.1.IPv6Address.1.&", 1674},
+    {"Device.RouterAdvertisement.InterfaceSetting.1.&", 1678},
+    {"Device.DHCPv6.Server.Pool.1.", 1682},
+};
+
+// 0, or the source line of the call that failed.
+int request(MsgHeader *message) {
+    for (const Request &row : kRequests) {
+        if (faltocal_send_main_multi_obj(message, row.object, "get", "get", 0) == -1) {
+            return row.line;
+        }
+    }
+    return 0;
+}
+
+void traceResult(const LANv6Info &info, int line = __builtin_LINE(), const char *function = __builtin_FUNCTION()) {
+    traceVola(kNetworkGet, line, function);
+    PRINT_TO_CONSOLE("return pxLANv6Info value : bIPv6Active = %d , sIPv6Address = %s ,  nPrefixLength = %d , "
+                     "sLANv6Mode = %s , sDNSv6Primary = %s , sDNSv6Secondary = %s , sDomainNamev6 = %s , "
+                     "sDHCPv6StartIP = %s , sDHCPv6EndIP = %s , nLeaseTimeSec = %d , bPDActive = %d , "
+                     "sManualPrefix = %s , nManualPrefixLength = %d \n",
+                     info.bIPv6Active, Terminated(info.sIPv6Address).c_str(), info.nPrefixLength,
+                     Terminated(info.sLANv6Mode).c_str(), Terminated(info.sDNSv6Primary).c_str(),
+                     Terminated(info.sDNSv6Secondary).c_str(), Terminated(info.sDomainNamev6).c_str(),
+                     Terminated(info.sDHCPv6StartIP).c_str(), Terminated(info.sDHCPv6EndIP).c_str(), info.nLeaseTimeSec,
+                     info.bPDActive, Terminated(info.sManualPrefix).c_str(), info.nManualPrefixLength);
+}
+
+} // namespace
+
+int32_t ZintuGet_LANv6Info(LANv6Info *pxLANv6Info) {
+    traceVola(kNetworkGet);
+    PRINT_TO_CONSOLE("START_FUNCTION : FAL \n");
+    Message message;
+    if (const int line = request(message)) {
+        traceError(line);
+        PRINT_TO_CONSOLE("faltocal_send_main_multi_obj is Failure\n");
+        return -1;
+    }
+    bool hasAddress = false;
+    for (ObjectNode &object : objects(*message)) {
+        hasAddress = fillFrom(object, *pxLANv6Info) || hasAddress;
+    }
+    if (!hasAddress) {
+        synthesiseAddress(*pxLANv6Info);
+    }
+    traceResult(*pxLANv6Info);
+    return 0;
+}

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+// Multi-WAN: fail-over or load balancing over two connections.
+#include "lookup.h"
+#include "range.h"
+#include "request.h"
+#include "text.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+using namespace frame;
+using namespace network;
+
+namespace {
+
+enum Held : uint8_t { TypeName, FirstWan, SecondWan, Enabled, HeldCount };
+
+struct HeldRow {
+    const char *object;
+    const char *param;
+};
+
+constexpr HeldRow kHeld[HeldCount] = {
+    {"Device.X_LANTIQ_COM_Multiwan.Multiwan.1.Type", "Name"},
+    {"Device.X_LANTIQ_COM_Multiwan.Multiwan.1.WANConnections.1", "Interface"},
+    {"Device.X_LANTIQ_COM_Multiwan.Multiwan.1.WANConnections.2", "Interface"},
+    {"Device.X_LANTIQ_COM_Multiwan.Multiwan.1", "Enabled"},
+};
+
+bool isSkipped(const char *name) {
+    constexpr const char *kSkipped[] = {"TrafficSteering", "TCPPing", "MPTCP"};
+    return std::any_of(std::begin(kSkipped), std::end(kSkipped),
+                       [name](const char *part) { return strstr(name, part); });
+}
+
+void takeHeld(ObjectNode &object, const char *(&held)[HeldCount]) {
+    if (isSkipped(object.name)) {
+        return;
+    }
+    for (size_t i = 0; i < HeldCount; ++i) {
+        if (sameName(object.name, kHeld[i].object)) {
+            zintu_GetParamFromObjUnit(&object, kHeld[i].param, &held[i]);
+        }
+    }
+}
+
+struct KindRow {
+    char prefix[8];
+    int32_t kind;
+};
+
+constexpr int32_t kOther = 1;
+
+int32_t kindByPrefix(const char *text, std::span<const KindRow> rows, int32_t otherwise) {
+    for (const KindRow &row : rows) {
+        if (beginsWith(text, row.prefix)) {
+            return row.kind;
+        }
+    }
+    return otherwise;
+}
+
+int32_t kindOfInterface(const char *interface) {
+    constexpr KindRow kInterfaces[] = {{"w900", 0}, {"w901", 1}, {"w902", 2}};
+    constexpr KindRow kModes[] = {{"ETH", 0}, {"TETHER", 2}};
+    const int32_t kind = kindByPrefix(interface, kInterfaces, -1);
+    if (kind >= 0) {
+        return kind;
+    }
+    char mode[128] = "";
+    zintu_GetValueFromDBInfo("Device.X_LANTIQ_COM_NwHardware.WANConnection", "UciSection", interface, "ConnMode",
+                             nullptr, mode);
+    return kindByPrefix(mode, kModes, kOther);
+}
+
+} // namespace
+
+int32_t ZintuGet_MultiWanInfo(ZintuMultiWanInfo *info) {
+    Message message;
+    const int code = getObject(message, "Device.X_LANTIQ_COM_Multiwan.");
+    if (code != 0) {
+        return failed(code, "faltocal_send_main is Failure\n", 1875);
+    }
+    const char *held[HeldCount] = {};
+    for (ObjectNode &object : objects(*message)) {
+        takeHeld(object, held);
+    }
+    if (!held[Enabled]) {
+        info->nEnabled = -1;
+        return 0;
+    }
+    info->nEnabled = atob(held[Enabled]);
+    info->nFailOver = held[TypeName] && beginsWith(held[TypeName], "FailOver") ? 1 : 0;
+    if (held[FirstWan]) {
+        info->nWan1Type = kindOfInterface(held[FirstWan]);
+        copyText(info->sWan1Interface, held[FirstWan]);
+    }
+    if (held[SecondWan]) {
+        info->nWan2Type = kindOfInterface(held[SecondWan]);
+        copyText(info->sWan2Interface, held[SecondWan]);
+    }
+    return 0;
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// What the router is doing now.
+#include "lookup.h"
+#include "range.h"
+#include "request.h"
+
+#include <cstdlib>
+
+using namespace frame;
+using namespace network;
+
+int32_t ZintuGet_OperMode(void) {
+    Message message;
+    const int code = getObject(message, "Device.X_ZINTU_CurrentNetwork");
+    if (code != 0) {
+        return failed(code, "faltocal_send_main is Failure \n");
+    }
+    for (ObjectNode &object : objects(*message)) {
+        const char *mode = lookUp(object, "OperationMode");
+        if (mode && *mode) {
+            return atoi(mode);
+        }
+    }
+    return -1;
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// The Linux name of the current WAN interface.
+#include "lookup.h"
+#include "range.h"
+#include "request.h"
+#include "text.h"
+
+#include <cstring>
+
+using namespace frame;
+using namespace network;
+
+namespace {
+
+constexpr char kFunction[] = "zintu_GetWanIfName";
+
+int32_t readName(char *ifName) {
+    Message message;
+    ZintuWanInfo info = {};
+    ZintuGet_DefGw(&info);
+    const Terminated interface(info.sWanIpInterface);
+    if (!strstr(interface, "Device.IP.Interface.")) {
+        traceVola(kNetworkGet, 2035, kFunction);
+        PRINT_TO_CONSOLE("ZintuGet_DefGw is Failure \n");
+        return -1;
+    }
+    const int code = faltocal_SendMultiObj(1, 256, 2, message, interface, "get", "get", 1, "Name");
+    if (code != 0) {
+        return failed(code, "faltocal_SendMultiObj is Failure \n", 2018, kFunction);
+    }
+    const char *name = nullptr;
+    for (ObjectNode &object : objects(*message)) {
+        name = lookUp(object, "Name");
+        if (name) {
+            break;
+        }
+    }
+    if (!name || !*name) {
+        traceVola(kNetworkGet, 2031, kFunction);
+        PRINT_TO_CONSOLE("Can't find WanIfName\n");
+        return -1;
+    }
+    strcpy(ifName, name);
+    return 0;
+}
+
+} // namespace
+
+int32_t zintu_GetWanIfName(char *ifName) {
+    traceVola(kNetworkGet, 2012);
+    PRINT_TO_CONSOLE(">>>>>>>>>> Entering <<<<<<<<<<<<<\n");
+    const int32_t result = readName(ifName);
+    traceVola(kNetworkGet, 2039);
+    PRINT_TO_CONSOLE(">>>>>>>>>> End(%d)  :: <<<<<<<<<<<<<\n", result);
+    return result;
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "current_channel.h"
+
+#include "file.h"
+#include "formatted.h"
+#include "pipe.h"
+#include "wifi_trace.h"
+
+#include <cstring>
+
+using namespace frame;
+using namespace wifi;
+
+namespace wifi {
+
+void takeCurrentChannel(const char *line, int &channel) {
+    constexpr char kLabel[] = "Current Channel=";
+    if (const char *found = strstr(line, kLabel)) {
+        channel = ConvInt(found + sizeof(kLabel) - 1);
+    }
+}
+
+} // namespace wifi
+
+int GetCurrentChannel(const char *ifname, int /*ignored*/, int *channel) {
+    traceStart();
+    const Formatted<128> command("iwlist %s channel", ifname);
+    Pipe pipe(command);
+    if (!pipe.started()) {
+        traceVola(kWifiUtil);
+        PRINT_TO_CONSOLE("popen()");
+        return 0;
+    }
+    char line[kLineSize];
+    while (pipe.readLine(line, sizeof(line))) {
+        takeCurrentChannel(line, *channel);
+    }
+    return 1;
+}

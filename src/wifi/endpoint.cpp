@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// Which endpoint of a repeater is in use.
+#include "lookup.h"
+#include "message.h"
+#include "object_path.h"
+#include "range.h"
+#include "text.h"
+#include "wifi_trace.h"
+
+#include <cstring>
+
+using namespace frame;
+using namespace wifi;
+
+namespace {
+
+constexpr size_t kTextSize = 127; // the last byte of a field stays unused
+constexpr int kNoneEnabled = -1;
+
+struct EndPoint {
+    char enable[128] = "";
+    char ssidReference[128] = "";
+};
+
+bool askEndPoints(MsgHeader *message) {
+    return faltocal_send_main_multi_obj(message, ObjectPath(kEndPoint, 1, "&"), "get_leaf_node", "get", 2, "Enable",
+                                        "SSIDReference") != -1 &&
+           faltocal_send_main_multi_obj(message, ObjectPath(kEndPoint, 2), "get_leaf_node", "get", 2, "Enable",
+                                        "SSIDReference") != -1;
+}
+
+void take(ObjectNode &object, EndPoint &endPoint) {
+    for (const ParamNode &param : params(object)) {
+        if (sameName(param.name, "Enable")) {
+            copyText(endPoint.enable, kTextSize, param.value);
+        } else if (sameName(param.name, "SSIDReference")) {
+            copyText(endPoint.ssidReference, kTextSize, param.value);
+        }
+    }
+}
+
+// Names are compared by their beginning: instance 10 stands for instance 1.
+void read(const MsgHeader &answer, EndPoint (&endPoints)[2]) {
+    ObjectPath first(kEndPoint, 1);
+    ObjectPath second(kEndPoint, 2);
+    for (ObjectNode &object : objects(answer)) {
+        if (beginsWith(object.name, first)) {
+            take(object, endPoints[0]);
+        } else if (beginsWith(object.name, second)) {
+            take(object, endPoints[1]);
+        }
+    }
+}
+
+int firstEnabled(const EndPoint (&endPoints)[2]) {
+    for (int i = 0; i < 2; ++i) {
+        if (strcmp(endPoints[i].enable, "true") == 0) {
+            return i + 1;
+        }
+    }
+    return kNoneEnabled;
+}
+
+void copyName(const MsgHeader &answer, char *out) {
+    *out = '\0';
+    for (ObjectNode &object : objects(answer)) {
+        for (const ParamNode &param : params(object)) {
+            if (sameName(param.name, "Name")) {
+                copyText(out, kTextSize, param.value);
+            }
+        }
+    }
+}
+
+} // namespace
+
+int GetEPEnable(char *ifnameOut) {
+    Message message;
+    if (!askEndPoints(message)) {
+        traceFailedRequest();
+        return 0;
+    }
+    EndPoint endPoints[2];
+    read(*message, endPoints);
+    const int result = firstEnabled(endPoints);
+    if (result == kNoneEnabled || !ifnameOut) {
+        return result;
+    }
+    const char *ssid = endPoints[result - 1].ssidReference;
+    if (!*ssid) {
+        return result;
+    }
+    message.reset();
+    if (faltocal_send_main_multi_obj(message, ssid, "get_leaf_node", "get", 1, "Name") == -1) {
+        traceFailedRequest();
+    } else {
+        copyName(*message, ifnameOut);
+    }
+    return result;
+}
+
+int GetEPConnectionStatus(char *macOut) {
+    char ifname[128] = "";
+    return GetEPEnable(ifname) == kNoneEnabled ? 0 : GetEPContection(ifname, macOut);
+}

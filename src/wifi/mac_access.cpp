@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// The MAC filter table of an SSID, one entry a call.
+#include "lookup.h"
+#include "range.h"
+#include "text.h"
+#include "wifi_trace.h"
+
+#include <cstring>
+#include <iterator>
+
+using namespace frame;
+
+namespace {
+
+constexpr size_t kTextSize = 127; // the last byte of the fields stays unused
+
+// The instance number's text behind the table's path and its dot; "" when the name is too short to have one.
+const char *instanceText(const char *objectName, const char *prefix) {
+    const size_t start = strlen(prefix) + 1;
+    return strlen(objectName) > start ? objectName + start : "";
+}
+
+// Fills an entry; whether the object had both texts.
+bool fillEntry(ObjectNode &object, MacAccessEntry &entry) {
+    bool hasName = false;
+    bool hasAddress = false;
+    for (const ParamNode &param : params(object)) {
+        if (sameName(param.name, "name")) {
+            copyText(entry.name, kTextSize, param.value);
+            hasName = true;
+        } else if (sameName(param.name, "macAddress")) {
+            copyText(entry.macAddress, kTextSize, param.value);
+            hasAddress = true;
+        }
+    }
+    return hasName && hasAddress;
+}
+
+} // namespace
+
+int GetMacAccessList(ObjectNode *objectNode, const char *prefix, MacAccessList *list) {
+    if (!objectNode || !prefix || !list) {
+        return -1;
+    }
+    char name[256];
+    copyText(name, objectNode->name);
+    const char *instance = instanceText(name, prefix);
+    const int index = ConvInt(instance);
+    traceVola(kWifiUtil);
+    PRINT_TO_CONSOLE("\n\n>>>>>>>>>> ssid %s:%s:%s:%d<<<<<<<<<<<<<\n\n", name, instance, prefix, index);
+    if (list->count < static_cast<int32_t>(std::size(list->entries))) {
+        MacAccessEntry &entry = list->entries[list->count];
+        entry.index = index;
+        if (fillEntry(*objectNode, entry)) {
+            ++list->count;
+        }
+    }
+    return -1;
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// Checking and comparing MAC address text.
+#include "caltofal.h"
+#include "hex_text.h"
+
+using namespace wifi;
+
+namespace {
+
+constexpr int kDigits = 12;
+constexpr int kSeparators = 5;
+constexpr int kBroken = -1;
+
+bool isSeparator(char c) {
+    return c == ':' || c == '-';
+}
+
+char upperCase(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+} // namespace
+
+// Counts pairs at each separator. A text that breaks the pairing ends the scan: it is judged by what was counted.
+int isValidMacAddress(const char *text) {
+    int digits = 0;
+    int recorded = 0;
+    for (; *text; ++text) {
+        if (hexValue(*text) != kNoHexDigit) {
+            ++digits;
+        } else if (isSeparator(*text)) {
+            if (digits == 0) {
+                return 0;
+            }
+            const int groups = digits / 2;
+            if (groups - 1 != recorded) {
+                break;
+            }
+            recorded = groups;
+        } else {
+            recorded = kBroken;
+        }
+    }
+    return digits == kDigits && (recorded == kSeparators || recorded == 0) ? 1 : 0;
+}
+
+// The last difference rules, unless both texts end before position `n`: then nothing is left of it.
+int my_strnicmp(const char *s1, const char *s2, int n) {
+    if (!s1 || !s2 || n == 0) {
+        return -1;
+    }
+    int result = 0;
+    for (int i = 0; i < n; ++i) {
+        const char left = upperCase(*s1);
+        const char right = upperCase(*s2);
+        if (!left && !right) {
+            return 0;
+        }
+        if (left != right) {
+            result = left < right ? -1 : 1;
+        }
+        s1 += left ? 1 : 0;
+        s2 += right ? 1 : 0;
+    }
+    return result;
+}

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// Asking the service daemon for WPS and scan actions, over the message bus's command-line client.
+#include "formatted.h"
+#include "pipe.h"
+#include "trace.h"
+
+using namespace frame;
+using namespace wifi;
+
+namespace {
+
+// Commands are cut at these sizes, whatever their quotes.
+constexpr size_t kLongCommand = 1024;
+constexpr size_t kShortCommand = 256;
+
+// 1 when the shell ran.
+int call(const char *command, const char *function) {
+    traceVola(kWifiUtil, __LINE__, function);
+    PRINT_TO_CONSOLE("Call system function with [%s] \n", command);
+    return runShell(command) ? 1 : 0;
+}
+
+template <size_t Size>
+int requestWps(const char *action, const char *function = __builtin_FUNCTION()) {
+    const Formatted<Size> command(
+        "source /opt/lantiq/etc/ugw_notify_defs.sh; ubus call servd notify '{\"notify_id\": "
+        "'$NOTIFY_WIFI_WPS_ACTION', \"type\": false, \"pn1\": \"Action\", \"pv1\": \"%s\"}' > /dev/null\n",
+        action);
+    return call(command, function);
+}
+
+const char *orNull(const char *text) {
+    return text ? text : "(null)";
+}
+
+} // namespace
+
+int ReqWPSActive(void) {
+    return requestWps<kLongCommand>("PBC");
+}
+
+int ReqWPSCancel(void) {
+    return requestWps<kShortCommand>("CancelWPS");
+}
+
+int ReqWPSReset(void) {
+    return requestWps<kShortCommand>("ResetWPS");
+}
+
+int ReqScan(const char *ifname, const char *ssid) {
+    if (!ifname && !ssid) {
+        return 0;
+    }
+    const Formatted<kShortCommand> command(
+        "source /opt/lantiq/etc/ugw_notify_defs.sh; ubus call servd notify '{\"nid\": "
+        "'$NOTIFY_WIFI_SCAN_ACTION',\"type\": false,\"pn1\": \"Action\", \"pv1\": \"SCAN\",\"pn2\": \"Name\", "
+        "\"pv2\": \"%s\", \"pn3\": \"SSID\", \"pv3\": \"%s\"}'>/dev/null",
+        orNull(ifname), orNull(ssid));
+    return call(command, __func__);
+}

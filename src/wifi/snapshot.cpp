@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "snapshot.h"
+
+#include "message.h"
+#include "object_path.h"
+#include "range.h"
+#include "wifi_trace.h"
+
+#include <cstring>
+
+using namespace frame;
+using namespace wifi;
+
+namespace wifi {
+
+const char *findKept(const Snapshot &snapshot, const char *name) {
+    const size_t length = strnlen(name, kLongestName + 1);
+    if (length > kLongestName) {
+        return nullptr;
+    }
+    const NameIndex &index = snapshot.index;
+    for (uint8_t i = index.first[length]; i < index.first[length + 1]; ++i) {
+        const char *kept = snapshot.settings[index.order[i]].name;
+        if (*kept == *name && memcmp(kept, name, length) == 0) {
+            return kept;
+        }
+    }
+    return nullptr;
+}
+
+void keepSettings(const Snapshot &snapshot, const MsgHeader &answer, WifiParamTable *table) {
+    for (ObjectNode &object : objects(answer)) {
+        for (const ParamNode &param : params(object)) {
+            if (const char *name = findKept(snapshot, param.name)) {
+                SetParam(table, object.name, name, param.value);
+            }
+        }
+    }
+}
+
+namespace {
+
+// The request takes its names as variable arguments: it is handed as many as the longest step has and takes `count`.
+int ask(MsgHeader *message, const char *path, const Setting *settings, int count) {
+    constexpr int kMostNames = 16;
+    const char *name[kMostNames] = {};
+    for (int i = 0; i < count; ++i) {
+        name[i] = settings[i].name;
+    }
+    return faltocal_send_main_multi_obj(message, path, "get_leaf_node", "get", count, name[0], name[1], name[2],
+                                        name[3], name[4], name[5], name[6], name[7], name[8], name[9], name[10],
+                                        name[11], name[12], name[13], name[14], name[15]);
+}
+
+// Queues one object after another and sends them with the last.
+int askAll(const Snapshot &snapshot, MsgHeader *message, int own, int accessPoint) {
+    const Setting *settings = snapshot.settings;
+    int result = 0;
+    for (const Step &step : snapshot.steps) {
+        if (!*step.prefix || result == -1) {
+            break;
+        }
+        const int instance = step.instance == Instance::Own ? own : accessPoint;
+        result = ask(message, ObjectPath(step.prefix, instance, step.rest), settings, step.count);
+        settings += step.count;
+    }
+    return result;
+}
+
+int take(const Snapshot &snapshot, int own, int accessPoint, WifiParamTable *table, const char *function) {
+    Message message(Message::Empty::Skip);
+    const int result = askAll(snapshot, message, own, accessPoint);
+    if (result == -1) {
+        traceFailedRequest(__LINE__, function);
+    } else {
+        keepSettings(snapshot, *message, table);
+    }
+    return result;
+}
+
+} // namespace
+} // namespace wifi
+
+int GetSsIdInfoFromFapiToBuff(int ssidIndex, WifiParamTable *table) {
+    traceStart();
+    return take(kSsidSnapshot, ssidIndex, ssidIndex, table, __func__);
+}
+
+int GetWireInfoFromFapiToBuff(int radioIndex, WifiParamTable *table) {
+    traceStart();
+    const int result = take(kRadioSnapshot, radioIndex, ConvSsidIdxToFapi(radioIndex, 0), table, __func__);
+    traceVola(kWifiUtil);
+    PRINT_TO_CONSOLE("return [%d] \n", result);
+    return result;
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+// Snapshots of what the configuration layer holds for an SSID or a radio: which objects are asked, and which of their
+// parameters are kept.
+//
+// All texts stand inline: tables without pointers need no relocation and stay in shared read-only pages.
+#pragma once
+
+#include "caltofal.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace wifi {
+
+// What a snapshot does with a parameter.
+enum class Use : uint8_t {
+    AskAndKeep,
+    Ask,  // ask for it and drop the answer
+    Keep, // comes without being named
+};
+
+struct Setting {
+    char name[35];
+    Use use;
+};
+
+// Which instance number an object path gets.
+enum class Instance : uint8_t { Own, AccessPoint };
+
+// One object of the request. It asks for the next `count` settings of its snapshot, for all it has when there are none.
+struct Step {
+    char prefix[25];
+    char rest[22];
+    Instance instance;
+    uint8_t count;
+};
+
+inline constexpr size_t kMostSettings = 32;
+inline constexpr size_t kMostSteps = 4;
+inline constexpr size_t kLongestName = 32;
+
+// Kept settings by the length of their names: those of n characters are order[first[n]] up to order[first[n + 1]].
+struct NameIndex {
+    uint8_t first[kLongestName + 2];
+    uint8_t order[kMostSettings];
+};
+
+struct Snapshot {
+    Step steps[kMostSteps]; // up to one without a prefix
+    Setting settings[kMostSettings];
+    NameIndex index;
+};
+
+extern const Snapshot kSsidSnapshot;
+extern const Snapshot kRadioSnapshot;
+
+// The name of a parameter as the snapshot keeps it, or nullptr when it does not.
+const char *findKept(const Snapshot &snapshot, const char *name);
+
+// Appends the parameters of an answer that the snapshot keeps; what the table has no room for is lost.
+void keepSettings(const Snapshot &snapshot, const MsgHeader &answer, WifiParamTable *table);
+
+} // namespace wifi

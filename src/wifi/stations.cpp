@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "stations.h"
+
+#include "file.h"
+#include "formatted.h"
+#include "pipe.h"
+#include "text.h"
+#include "wifi_trace.h"
+#include "words.h"
+
+#include <cstring>
+#include <iterator>
+
+using namespace frame;
+using namespace wifi;
+
+namespace wifi {
+namespace {
+
+constexpr size_t kMacSize = 127; // the last byte of the field stays unused
+constexpr int kWeakestRssi = -127;
+
+struct Line {
+    const char *value;
+    const char *description;
+};
+
+// As "%s : %s" splits it, but for the description's end: only its start is looked at.
+Line split(char *line) {
+    char *value = skipSpace(line);
+    char *end = skipWord(value);
+    char *colon = skipSpace(end);
+    const char *description = *colon == ':' ? skipSpace(colon + 1) : "";
+    *end = '\0';
+    return {value, description};
+}
+
+// The mean of the antennas that gave a value; 0 when none did.
+int averageRssi(const WifiStaEntry &station) {
+    int sum = 0;
+    int count = 0;
+    for (const int rssi : station.rssi) {
+        if (rssi >= kWeakestRssi && rssi < 0) {
+            sum += rssi;
+            ++count;
+        }
+    }
+    return count > 0 ? sum / count : 0;
+}
+
+} // namespace
+
+void StationParser::addLine(char *line) {
+    const Line parts = split(line);
+    if (!station_) {
+        addStation(parts.value);
+    } else if (beginsWith(parts.description, "Short-term")) {
+        addAntenna(ConvInt(parts.value));
+    } else {
+        station_ = nullptr; // whatever this line is, it goes with the station that it ends
+    }
+}
+
+void StationParser::addStation(const char *mac) {
+    if (list_.count >= std::size(list_.entries) || isValidMacAddress(mac) == 0 || !isWanted(mac)) {
+        return;
+    }
+    station_ = &list_.entries[list_.count++];
+    antenna_ = 0;
+    copyText(station_->mac, kMacSize, mac);
+}
+
+void StationParser::addAntenna(int rssi) {
+    station_->rssi[antenna_++] = rssi;
+    station_->rssiAverage = averageRssi(*station_);
+    if (antenna_ == static_cast<int>(std::size(station_->rssi))) {
+        station_ = nullptr;
+    }
+}
+
+bool StationParser::isWanted(const char *mac) const {
+    return !filter_ || my_strnicmp(mac, filter_, static_cast<int>(strlen(filter_))) == 0;
+}
+
+} // namespace wifi
+
+int GetStaInfo(const char *ifname, const char *macFilter, WifiStaList *list) {
+    traceStart();
+    if (!ifname || !*ifname || !list) {
+        traceError();
+        PRINT_TO_CONSOLE("arg is Failure\n");
+        return list ? static_cast<int>(list->count) : 0;
+    }
+    memset(list, 0, sizeof(*list));
+    const Formatted<128> path("/tmp/wlan_wave/sta_info_%s", ifname);
+    const Formatted<200> command("cat /proc/net/mtlk/%s/PeerFlowStatus | "
+                                 "grep 'STA MAC\\| Short-term RSSI average per antenna' > %s",
+                                 ifname, path.c_str());
+    if (!runShell(command)) {
+        traceVola(kWifiUtil);
+        PRINT_TO_CONSOLE("system is Failure\n");
+        return 0;
+    }
+    File file(path);
+    if (!file.opened()) {
+        traceVola(kWifiUtil);
+        PRINT_TO_CONSOLE("%s does not exist\n", path.c_str());
+        return 0;
+    }
+    StationParser parser(macFilter && isValidMacAddress(macFilter) != 0 ? macFilter : nullptr, *list);
+    char line[kLineSize];
+    while (file.readLine(line)) {
+        parser.addLine(line);
+    }
+    return static_cast<int>(list->count);
+}

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+// Reading a survey's result file.
+#include "file.h"
+#include "survey_parse.h"
+#include "wifi_trace.h"
+
+#include <cstdlib>
+#include <cstring>
+
+using namespace frame;
+using namespace wifi;
+
+namespace {
+
+constexpr char kFunction[] = "GetSiteSurveyList";
+constexpr size_t kSsidCompared = 127;
+
+// Collects the lines of one file.
+class SurveyReader {
+  public:
+    // `capacity` entries fit into the list; `ssidFilter` is the one network wanted, or nullptr.
+    SurveyReader(SiteSurveyList &list, int capacity, const char *ssidFilter)
+        : list_(list), capacity_(capacity), filter_(ssidFilter) {}
+
+    void addLine(char *text) {
+        const SurveyLine line = splitSurveyLine(text);
+        if (!line.isComplete()) {
+            report(line);
+        } else if (isWanted(line.column[SurveyLine::Ssid]) && list_.count < capacity_) {
+            fillSurveyEntry(line, list_.entries[list_.count++]);
+        }
+    }
+
+  private:
+    [[nodiscard]] bool isWanted(const char *ssid) const {
+        return !filter_ || strncmp(ssid, filter_, kSsidCompared) == 0;
+    }
+
+    void report(const SurveyLine &line) const {
+        traceVola(kWifiUtil, __LINE__, kFunction);
+        PRINT_TO_CONSOLE("invalid scan result entry\n");
+        const char *const *column = line.column;
+        printf("scan[%d] ssid:%s channel:%s rssi:%s security:%s encryption:%s macaddr:%s bandwidth:%s phymode:%s "
+               "sideband:%s product:%s\n",
+               list_.count, column[0], column[1], column[2], column[3], column[4], column[5], column[6], column[7],
+               column[8], column[9]);
+    }
+
+    SiteSurveyList &list_;
+    int capacity_;
+    const char *filter_;
+};
+
+} // namespace
+
+int GetSiteSurveyList(const char *path, SiteSurveyList *list, const char *ssidFilter) {
+    traceStart();
+    if (!path || !*path) {
+        traceVola(kWifiUtil);
+        PRINT_TO_CONSOLE("s_file_path is invlid parameter \n");
+        return list->count;
+    }
+    const int lines = GetFileLineCnt(path);
+    if (lines == 0) {
+        traceVola(kWifiUtil);
+        PRINT_TO_CONSOLE("%s does not exist of line count zero \n", path);
+        return list->count;
+    }
+    list->entries = static_cast<SiteSurveyEntry *>(malloc(static_cast<size_t>(lines) * sizeof(SiteSurveyEntry)));
+    if (!list->entries) {
+        traceVola(kWifiUtil);
+        PRINT_TO_CONSOLE("fail to alloc memory");
+        return list->count;
+    }
+    File file(path);
+    if (!file.opened()) {
+        traceVola(kWifiUtil);
+        PRINT_TO_CONSOLE("%s does not exist\n", "/tmp/wlan_wave/%s_scan_by_User.result");
+        return list->count;
+    }
+    SurveyReader reader(*list, lines, *ssidFilter ? ssidFilter : nullptr);
+    char line[kLineSize];
+    while (file.readLine(line)) {
+        reader.addLine(line);
+    }
+    return list->count;
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// Lines of a survey's result file.
+#pragma once
+
+#include "caltofal.h"
+
+namespace wifi {
+
+// The texts of a line's columns; "" for those that it does not reach.
+struct SurveyLine {
+    enum Column : unsigned char {
+        Ssid,
+        Channel,
+        Rssi,
+        Security,
+        Encryption,
+        MacAddr,
+        Bandwidth,
+        PhyMode,
+        SideBand,
+        Product,
+        Columns
+    };
+
+    // Whether every column holds something.
+    [[nodiscard]] bool isComplete() const { return *column[Columns - 1] != '\0'; }
+
+    const char *column[Columns];
+};
+
+// Cuts a line into columns, in place, as the scan format "%[^\t]\t%[^\t]\t..." of ten columns does: a tab ends a
+// column, white space of any kind and length in front of the next one is passed over, a column that would be empty
+// ends the line.
+SurveyLine splitSurveyLine(char *line);
+
+// Fills an entry from a complete line; texts are cut to 126 characters.
+void fillSurveyEntry(const SurveyLine &line, SiteSurveyEntry &entry);
+
+} // namespace wifi
