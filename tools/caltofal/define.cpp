@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// The nouns' arguments as the parser takes them.
+#include "arguments.h"
+
+#include <CLI/CLI.hpp>
+
+namespace cli {
+
+void addArgument(CLI::App &command, const char *name, std::string &target, const char *what) {
+    command.add_option(name, target, what)->required()->option_text(" ");
+}
+
+void addOptionalArgument(CLI::App &command, const char *name, std::string &target, const char *what) {
+    command.add_option(name, target, what)->option_text(" ");
+}
+
+void addArguments(CLI::App &command, const char *name, std::vector<std::string> &target, const char *type,
+                  const char *what) {
+    command.add_option(name, target, what)->required()->option_text(type);
+}
+
+void addFlag(CLI::App &command, const char *name, bool &target, const char *what) {
+    command.add_flag(name, target, what);
+}
+
+void addOption(CLI::App &command, const char *name, std::string &target, const char *type, const char *what) {
+    command.add_option(name, target, what)->type_name(type);
+}
+
+void addOption(CLI::App &command, const char *name, std::vector<std::string> &target, const char *type,
+               const char *what) {
+    command.add_option(name, target, what)->type_name(type)->allow_extra_args(false);
+}
+
+} // namespace cli

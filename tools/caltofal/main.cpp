@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "command_line.h"
+#include "console_capture.h"
+#include "error.h"
+#include "request_log.h"
+#include "stdio_capture.h"
+#include "trace.h"
+
+#include "caltofal.h"
+
+#include <algorithm>
+#include <clocale>
+#include <cstdlib>
+#include <new>
+#include <string_view>
+
+namespace {
+
+using namespace cli;
+
+constexpr uint16_t kLogToStdout = 2; // of unfaltocalLogType
+
+// A wrong command line is reported in the form that it asks for all the same.
+bool asksForJson(int argc, char **argv) {
+    return std::any_of(argv, argv + argc, [](const char *word) { return std::string_view(word) == "--json"; });
+}
+
+// A device's console keeps its trace, as with every other program there, unless it is to be shown here.
+void arrangeTrace(const Options &options) {
+    if (options.trace) {
+        showTrace();
+        unfaltocalLogType |= kLogToStdout;
+    }
+    if (options.trace || isSandbox()) {
+        captureConsole();
+    }
+}
+
+void runCommand(int argc, char **argv) {
+    Options options;
+    const Run run = parse(argc, argv, options);
+    if (!run) {
+        return;
+    }
+    if (!options.gateway.empty()) {
+        setenv("CALTOFAL_GATEWAY", options.gateway.c_str(), 1);
+    }
+    arrangeTrace(options);
+    const StdioCapture capture;
+    const Report report = run();
+    traceCollect();
+    print(report, options.json);
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    setlocale(LC_CTYPE, "");
+    const auto failed = [&](const Failure &failure) {
+        traceCollect();
+        printError(failure, asksForJson(argc, argv));
+        return static_cast<int>(failure.exit());
+    };
+    try {
+        runCommand(argc, argv);
+        return static_cast<int>(Exit::Done);
+    } catch (const Failure &failure) {
+        return failed(failure);
+    } catch (const std::bad_alloc &) {
+        return failed({Exit::Failed, "out of memory"});
+    } catch (const std::exception &error) {
+        return failed({Exit::Failed, error.what()});
+    }
+}

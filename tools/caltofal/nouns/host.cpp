@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "nouns/nouns.h"
+
+#include "arguments.h"
+#include "caltofal.h"
+#include "page.h"
+#include "page_call.h"
+
+#include <memory>
+
+namespace cli {
+namespace {
+
+Report run(const std::string &address) {
+    if (zintu_isValidMacAddress(address.c_str()) != 0 && zintu_isValidIPv4Address(address.c_str()) != 0) {
+        throw Usage("\"" + address + "\" is neither a MAC address (with colons) nor an IPv4 address");
+    }
+    std::string identifier = address;
+    const auto call = [&] {
+        const int instance = GetDeviceID(identifier.data());
+        return instance > 0 ? instance : -1;
+    };
+    const int instance = ask(call, {"Device.Hosts.Host: none has the address " + address});
+    return report(Page{{{"",
+                         "",
+                         {
+                             {"instance", "Instance", instance, {}},
+                             {"object", "Object", "Device.Hosts.Host." + std::to_string(instance), {}},
+                         }}},
+                       {}});
+}
+
+Run define(CLI::App &command) {
+    const auto address = std::make_shared<std::string>();
+    addArgument(command, "ADDRESS", *address, "A MAC or IPv4 address");
+    return [address] { return run(*address); };
+}
+
+} // namespace
+
+const Noun kHostNoun = {"host", "Find a host of the LAN by its address", "00:00:5e:00:53:10\n192.168.1.10", define};
+
+} // namespace cli

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "nouns/nouns.h"
+
+namespace cli {
+
+std::span<const Noun *const> nouns() {
+    static constexpr const Noun *kNouns[] = {
+        &kStatusNoun, &kModeNoun, &kGatewayNoun,  &kWanNoun,  &kDnsNoun,  &kIpv6Noun,        &kDslNoun,
+        &kAtmNoun,    &kLanNoun,  &kMultiWanNoun, &kIptvNoun, &kHostNoun, &kLowerLayersNoun, &kAddressNoun,
+        &kGetNoun,    &kSetNoun,  &kAddNoun,      &kDelNoun,  &kFindNoun,
+    };
+    return kNouns;
+}
+
+} // namespace cli

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// Messages of one's own: several objects, one exchange with the configuration layer.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace cli {
+
+struct Parameter {
+    std::string name, value;
+};
+
+// An object of a request or of an answer.
+struct Object {
+    std::string name;
+    std::vector<Parameter> parameters;
+    std::vector<Parameter> filters = {}; // of a get
+};
+
+// How a get goes about it: the message's list flags.
+enum class Reading : uint32_t {
+    Whole = 0x1004,  // the object and all below it
+    Leaf = 0x1100,   // its own parameters; with filters, the instances that match
+    Defaults = 0x44, // the values after a factory reset
+};
+
+// Sub-operations of a change.
+enum class Change : uint32_t { Add = 1, Delete = 2, Set = 4 };
+
+// The objects of the answer. Parameters' values count in filters only. Throws Failure.
+std::vector<Object> get(const std::vector<Object> &objects, Reading reading);
+
+// Changes everything or nothing; answers the objects as the layer left them in the message. `storeOnly`: not applied.
+// Throws Failure.
+std::vector<Object> change(const std::vector<Object> &objects, Change what, bool storeOnly);
+
+} // namespace cli

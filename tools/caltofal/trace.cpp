@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "trace.h"
+
+#include "console_capture.h"
+#include "words.h"
+
+#include <array>
+#include <iostream>
+
+namespace cli {
+namespace {
+
+constexpr std::array<std::string_view, 4> kTags = {"console", "stderr", "log", "request"};
+
+bool shown = false;
+std::array<std::string, kTags.size()> unfinished;
+
+void show(std::string_view tag, std::string_view line) {
+    const size_t start = line.find_first_not_of(" \t\r");
+    if (start != std::string_view::npos) {
+        std::cerr << "[" << tag << "] " << printable(line.substr(start)) << std::endl;
+    }
+}
+
+} // namespace
+
+void showTrace() {
+    shown = true;
+}
+
+bool traceShown() {
+    return shown;
+}
+
+void traceText(Source source, std::string_view text) {
+    if (!shown) {
+        return;
+    }
+    const auto index = static_cast<size_t>(source);
+    std::string &line = unfinished[index];
+    line += text;
+    for (size_t end = line.find('\n'); end != std::string::npos; end = line.find('\n')) {
+        show(kTags[index], std::string_view(line).substr(0, end));
+        line.erase(0, end + 1);
+    }
+}
+
+void traceCollect() {
+    traceText(Source::Console, takeConsole());
+}
+
+} // namespace cli
