@@ -1,0 +1,76 @@
+# SPDX-License-Identifier: MIT
+"""What is asked of the tool, and what it must say. Expected pages stand in expected/GATEWAY/COMMAND.txt and .json."""
+
+# Gateway -> commands that succeed.
+PAGES = {
+    "home": [
+        "status", "mode", "gateway", "wan", "dns", "dns Device.IP.Interface.4", "ipv6", "dsl", "atm", "lan",
+        "multiwan", "iptv", "host 192.168.1.13", "host 00:00:5e:00:53:20", "lower-layers Device.IP.Interface.3",
+        "lower-layers Device.IP.Interface.3 --walk", "wan --if-name", "wan --ethernet", "lan --ipv6",
+        "gateway --mode-section ADSL_ATM", "address 192.168.1.1", "address fe80::1", "address 02:00:5E:10:00:01",
+        "find Device.X_LANTIQ_COM_NwHardware.WANConnection ConnMode ETH UciSection",
+        "get Device.WiFi.Radio.1 Channel Enable Device.IP.Interface.3 Name",
+        "get Device.WiFi.Radio.1.Channel", "get Device.WiFi.Radio.1 Channel --defaults",
+        "get Device.Ethernet.Interface.1 --leaf",
+        "get Device.Hosts.Host --where Active=false HostName IPAddress",
+        "get Device.Hosts.Host --where Active=true --where InterfaceType=Ethernet --leaf",
+    ],
+    "dhcp": ["wan", "dns", "dsl", "ipv6"],
+    "static": ["wan", "status"],
+    "bridge": ["mode", "wan --bridge", "lan --ipv4"],
+    "atm": ["wan", "atm", "dsl", "lan", "ipv6", "dns"],
+    "dual": ["status", "multiwan", "iptv", "wan", "get Device.WiFi.SSID.2 SSID"],
+    "repeater": ["wan --bridge"],
+    "mesh": ["wan"],
+}
+
+# Gateway, command (a list where a word holds blanks), exit code, the layer's code, what standard error says.
+FAILURES = [
+    ("home", "get Device.Nope", 10, -202, "Device.Nope: no such object"),
+    ("home", "get Device.WiFi.Radio.1 Channel Foo", 10, -203, 'Device.WiFi.Radio.1: no parameter "Foo"'),
+    ("home", "get Device.WiFi.Radio.1.Foo", 10, -202, "Device.WiFi.Radio.1.Foo: no such object"),
+    ("home", "get Device.Hosts.Host --where HostName=zzz", 10, -208,
+     'Device.Hosts.Host: no instance has HostName = "zzz"'),
+    ("home", "get Device.Hosts.Host --where Active=true Foo", 10, None,
+     "Device.Hosts.Host.Foo: no object here has that parameter"),
+    ("home", "set Device.WiFi.Radio.1 Channel=abc", 5, -205,
+     'Device.WiFi.Radio.1.Channel: "abc" is not of type unsignedInt(1:255)'),
+    ("home", "set Device.WiFi.Radio.1.Channel=9999", 5, -206,
+     'Device.WiFi.Radio.1.Channel: "9999" is outside unsignedInt(1:255)'),
+    ("home", "set Device.WiFi.Radio.1 MaxBitRate=3", 5, -204, "Device.WiFi.Radio.1.MaxBitRate: read-only"),
+    ("home", "set Device.WiFi.Radio.1 Channel=3 Device.WiFi.Radio.2 Channel=abc", 5, -205,
+     'Device.WiFi.Radio.2.Channel: "abc" is not of type unsignedInt(1:255)'),
+    ("home", "add Device.WiFi.Radio.1", 5, -207, "Device.WiFi.Radio.1: not a table, nothing can be added"),
+    ("home", "del Device.WiFi.Radio.1", 5, -204, "Device.WiFi.Radio.1: the table is read-only"),
+    ("home", "wan --bridge", 10, None, "the gateway is no bridge: its operation mode is 4"),
+    ("home", "host 192.0.2.1", 10, None, "Device.Hosts.Host: none has the address 192.0.2.1"),
+    ("home", "lower-layers Device.Nope", 10, -202, "request on Device.Nope failed: no such object"),
+    ("home", "gateway --mode-section XYZ", 10, -208,
+     'request on Device.X_LANTIQ_COM_NwHardware.WANConnection failed: no instance has ConnMode = "XYZ"'),
+    ("home", "find Device.X_LANTIQ_COM_NwHardware.WANConnection ConnMode ETH Nope", 10, None,
+     'Device.X_LANTIQ_COM_NwHardware.WANConnection: no instance whose ConnMode is "ETH" has a parameter Nope'),
+    ("home", "address 192.168.1.256", 5, None, '"192.168.1.256" is neither an IPv4 nor an IPv6 nor a MAC address'),
+    ("static", "dsl", 10, -202, "request on Device.DSL.Line.1. failed: no such object"),
+    ("static", "atm", 10, -202, "request on Device.ATM.Link.1. failed: no such object"),
+    ("nowhere", "mode", 4, -209, "request on Device.X_ZINTU_CurrentNetwork failed: there is no gateway "),
+    ("nowhere", "status", 4, -209, "request on Device.X_ZINTU_CurrentNetwork failed: there is no gateway "),
+    ("nowhere", "get Device.Hosts", 4, -209, "there is no gateway "),
+    ("home", "", 2, None, "what to do is missing; see caltofal --help"),
+    ("home", "frobnicate", 2, None, '"frobnicate" is neither a noun nor an option; see caltofal --help'),
+    ("home", "mode --loud", 2, None, "mode: The following argument was not expected: --loud; see caltofal mode --help"),
+    ("home", "get", 2, None, "get: OBJECT is required; see caltofal get --help"),
+    ("home", "get Device.Hosts.Host --where Active", 2, None, '"Active" is not of the form NAME=VALUE'),
+    ("home", "get Device.WiFi Device.IP --where A=b", 2, None, "--where goes with one object"),
+    ("home", "get Device.WiFi --leaf --defaults", 2, None, "--defaults goes with neither --leaf nor --where"),
+    ("home", "set Device.WiFi.Radio.1", 2, None, "Device.WiFi.Radio.1: nothing to set"),
+    ("home", "set Device.WiFi.Radio.1 Channel", 2, None, '"Channel" is not of the form NAME=VALUE'),
+    ("home", "set Device.WiFi.Radio.1 =6", 2, None, '"=6" names no parameter'),
+    ("home", "set Channel=3", 2, None, '"Channel=3" stands before any object'),
+    ("home", ["set", "Device.WiFi.SSID.1", "SSID=" + "x" * 1024], 2, None, 'value "' + "x" * 40 +
+     '..." has 1024 bytes: the most is 1023'),
+    ("home", ["get", "Device." + "x" * 249], 2, None, 'object path "Device.' + "x" * 33 +
+     '..." has 256 bytes: the most is 255'),
+    ("home", ["get", "Device.\x1b[31m"], 10, -202, None),  # its escape must not reach the terminal
+    ("home", "host gateway", 2, None, '"gateway" is neither a MAC address (with colons) nor an IPv4 address'),
+    ("home", "wan --bridge --if-name", 2, None, "--bridge, --if-name and --ethernet exclude each other"),
+]

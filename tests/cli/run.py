@@ -1,0 +1,238 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""run.py TOOL SANDBOX [--update | unittest arguments]: tests the tool, or writes the expected output anew. SANDBOX is
+caltofal-sandbox, by which requests are made to fail."""
+import json
+import os
+import re
+import sys
+import unittest
+
+sys.dont_write_bytecode = True
+
+from cases import FAILURES, PAGES
+from tool import Tool, expected_file
+
+tool = Tool(sys.argv[1], sys.argv[2])
+
+
+def every_page():
+    for gateway, commands in PAGES.items():
+        for command in commands:
+            for ending, options in ((".txt", []), (".json", ["--json"])):
+                yield gateway, command, ending, ["-g", gateway, *command.split(), *options]
+
+
+def update():
+    for gateway, command, ending, words in every_page():
+        result = tool.run(*words)
+        if result.code != 0 or result.err:
+            sys.exit(f"{' '.join(words)}: exit code {result.code}: {result.err}")
+        path = expected_file(gateway, command, ending)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "wb") as file:
+            file.write(result.out)
+
+
+class Pages(unittest.TestCase):
+    maxDiff = None
+
+    def test_pages_are_as_expected(self):
+        for gateway, command, ending, words in every_page():
+            with self.subTest(" ".join(words)):
+                result = tool.run(*words)
+                with open(expected_file(gateway, command, ending), "rb") as file:
+                    self.assertEqual(result.out.decode(), file.read().decode())
+                self.assertEqual((result.code, result.err), (0, ""))
+                if ending == ".json":
+                    json.loads(result.out)
+
+    def test_no_expected_file_is_left_over(self):
+        wanted = {expected_file(gateway, command, ending) for gateway, command, ending, _ in every_page()}
+        folder = os.path.dirname(os.path.dirname(next(iter(wanted))))
+        present = {os.path.join(place, name) for place, _, names in os.walk(folder) for name in names}
+        self.assertEqual(present, wanted)
+
+    def test_examples_of_the_help_work(self):
+        nouns = re.findall(r"^  ([a-z0-9-]+)  ", tool.run("--help").out.decode().split("Subcommands:")[1], re.M)
+        self.assertGreater(len(nouns), 15)
+        for noun in nouns:
+            text = tool.run(noun, "--help").out.decode()
+            examples = re.findall(r"^  caltofal (.+)$", text, re.M) + [""] * ("\n  caltofal\n" in text)
+            self.assertTrue(examples, noun)
+            folder = tool.folder()
+            for example in examples:
+                with self.subTest(example):
+                    result = tool.run(*example.split(), folder=folder)
+                    self.assertEqual((result.code, result.err), (0, ""))
+
+
+class Failures(unittest.TestCase):
+    maxDiff = None
+
+    def test_failures_name_the_culprit(self):
+        for gateway, command, code, layer_code, message in FAILURES:
+            words = ["-g", gateway, *(command.split() if isinstance(command, str) else command)]
+            with self.subTest(" ".join(words)[:100]):
+                plain = tool.run(*words)
+                self.assertEqual((plain.code, plain.out), (code, b""), plain.err)
+                self.assertRegex(plain.err, r"^caltofal: [^\n\x1b]+\n$")
+                if message and not message.endswith(" "):
+                    self.assertEqual(plain.err, f"caltofal: {message}\n")
+                elif message:
+                    self.assertIn(message, plain.err)
+
+                as_json = tool.run(*words, "--json")
+                self.assertEqual((as_json.code, as_json.out), (code, b""))
+                error = json.loads(as_json.err)["error"]
+                self.assertEqual(as_json.err.count("\n"), 1)
+                self.assertEqual((error["exit"], error["code"]), (code, layer_code))
+                self.assertIn("object", error)
+                if message:
+                    self.assertEqual(f"caltofal: {error['message']}\n", plain.err)
+
+    def test_a_full_disk_is_a_failure(self):
+        with open("/dev/full", "wb") as full:
+            result = tool.run("mode", stdout=full)
+        self.assertEqual((result.code, result.err), (1, "caltofal: standard output can not be written\n"))
+
+
+class Changes(unittest.TestCase):
+    def setUp(self):
+        self.folder = tool.folder()
+
+    def run_tool(self, *words):
+        return tool.run(*words, folder=self.folder)
+
+    def value(self, path):
+        return self.run_tool("get", path, "--values").out.decode()
+
+    def everything(self):
+        return self.run_tool("get", "Device.").out
+
+    def test_several_objects_change_in_one_message(self):
+        result = self.run_tool("set", "Device.WiFi.Radio.1", "AutoChannelEnable=false", "Channel=3",
+                               "Device.WiFi.Radio.2.Channel=36", "--trace")
+        self.assertEqual((result.code, result.out), (0, b""))
+        self.assertEqual(result.err, "[request] set Device.WiFi.Radio.1, Device.WiFi.Radio.2. -> 0\n")
+        self.assertEqual(self.value("Device.WiFi.Radio.1.Channel"), "3\n")
+        self.assertEqual(self.value("Device.WiFi.Radio.2.Channel"), "36\n")
+
+    def test_a_refused_set_changes_nothing(self):
+        before = self.everything()
+        self.assertGreater(before.count(b"\n"), 1000)
+        for words in (["Device.WiFi.Radio.1", "Channel=3", "Device.WiFi.Radio.2", "Channel=abc"],
+                      ["Device.WiFi.Radio.1", "Channel=3", "Foo=1"], ["Device.WiFi.Radio.1", "Channel=3", "Device.Nope",
+                                                                     "A=1"]):
+            with self.subTest(" ".join(words)):
+                self.assertIn(self.run_tool("set", *words).code, (5, 10))
+                self.assertEqual(self.everything(), before)
+
+    def test_db_only_is_stored_and_not_in_force(self):
+        self.assertEqual(self.run_tool("set", "Device.WiFi.Radio.1.Channel=11", "--db-only", "--trace").err,
+                         "[request] store Device.WiFi.Radio.1. -> 0\n")
+        self.assertEqual(self.value("Device.WiFi.Radio.1.Channel"), "6\n")
+
+    def test_values_travel_unchanged(self):
+        for value in ("a b", "a=b", "", "\u00fc\u20ac", "'\"$`\\", "Device.WiFi."):
+            with self.subTest(value):
+                self.assertEqual(self.run_tool("set", "Device.WiFi.SSID.1", "SSID=" + value).code, 0)
+                self.assertEqual(self.value("Device.WiFi.SSID.1.SSID"), value + "\n")
+
+    def test_added_instances_are_named_and_deleted(self):
+        table = "Device.DHCPv4.Server.Pool.1.StaticAddress"
+        before = self.everything()
+        added = json.loads(self.run_tool("add", table, "Yiaddr=192.168.1.50", "--json").out)["added"][0]
+        self.assertTrue(added["object"].startswith(table + "."))
+        self.assertEqual(self.value(added["object"] + ".Yiaddr"), "192.168.1.50\n")
+        self.assertEqual(self.run_tool("del", added["object"]).code, 0)
+        self.assertEqual(self.everything(), before)
+
+    def test_json_keeps_digits_that_are_text(self):
+        self.assertEqual(self.run_tool("set", "Device.WiFi.SSID.1.SSID=12345678").code, 0)
+        answer = json.loads(self.run_tool("get", "Device.WiFi.SSID.1", "SSID", "--json").out)
+        self.assertEqual(answer, {"Device.WiFi.SSID.1": {"SSID": "12345678"}})
+
+
+class FailedRequests(unittest.TestCase):
+    """A page asks for several objects and answers one code: the tool says which request it was."""
+
+    def setUp(self):
+        self.folder = tool.folder()
+
+    def make_fail(self, path, code):
+        tool.sandbox("fault", "add", path, "--code", code, folder=self.folder)
+
+    def assert_fails(self, words, code, message):
+        result = tool.run(*words.split(), folder=self.folder)
+        self.assertEqual((result.code, result.out, result.err), (code, b"", f"caltofal: {message}\n"))
+
+    def test_a_late_request_of_a_page_is_named(self):
+        self.make_fail("Device.DSL.Channel.1.Stats.Total", "store-busy")
+        self.assert_fails("dsl", 4, "request on Device.DSL.Channel.1.Stats.Total. failed: fault 1 hit "
+                          "Device.DSL.Channel.1.Stats.Total")
+
+    def test_one_of_several_objects_of_a_request(self):
+        self.make_fail("Device.DHCPv4.Server.Pool.1", "no-memory")
+        self.assert_fails("lan --ipv4", 1, "request on Device.IP.Interface.1.IPv4Address.1., "
+                          "Device.DHCPv4.Server.Pool.1., Device.Ethernet.Interface.1. failed: fault 1 hit "
+                          "Device.DHCPv4.Server.Pool.1")
+
+    def test_requests_that_a_page_can_do_without_are_not_blamed(self):
+        self.make_fail("Device.Ethernet.VLANTermination.1", "store-busy")
+        self.make_fail("Device.Routing.Router.1.IPv6Forwarding.3", "absent-object")
+        self.assert_fails("wan", 4, "request on Device.Ethernet.VLANTermination.1. failed: fault 1 hit "
+                          "Device.Ethernet.VLANTermination.1")
+
+    def test_a_gateway_without_uci_section_is_still_shown(self):
+        self.make_fail("Device.X_LANTIQ_COM_NwHardware", "absent-object")
+        result = tool.run("gateway", folder=self.folder)
+        self.assertEqual(result.code, 0)
+        self.assertIn(b"UCI section         -\n", result.out)
+        self.assertIn("WANConnection. failed", result.err)
+
+    def test_a_wan_without_route_is_shown_with_a_note(self):
+        for entry in ("1", "2"):
+            tool.run("del", "Device.Routing.Router.1.IPv4Forwarding." + entry, folder=self.folder)
+        result = tool.run("wan", folder=self.folder)
+        self.assertEqual((result.code, result.err),
+                         (0, "caltofal: no IPv4 forwarding entry tells the gateway of Device.IP.Interface.3\n"))
+        self.assertIn(b"Gateway               -\n", result.out)
+
+    def test_status_goes_on_behind_failed_pages(self):
+        self.make_fail("Device.DSL", "store-failed")
+        result = tool.run("status", "--json", folder=self.folder)
+        pages = json.loads(result.out)
+        self.assertEqual(result.code, 0)
+        self.assertEqual((pages["dsl"]["error"]["exit"], pages["lan"]["ipv4"]["dhcp_active"]), (4, True))
+
+
+class Words(unittest.TestCase):
+    def test_the_library_is_silent_without_trace(self):
+        result = tool.run("-g", "static", "dsl")
+        self.assertEqual(result.err.count("\n"), 1)
+
+    def test_trace_shows_requests_and_the_librarys_lines_in_order(self):
+        result = tool.run("-g", "static", "dsl", "--trace")
+        lines = result.err.splitlines()
+        self.assertEqual(lines[:2], ["[request] get Device.DSL.Line.1. -> -202 (Device.DSL.Line.1: no such object)",
+                                     "[stderr] Get test failure"])
+        self.assertRegex(lines[2], r"^\[console\] \[ZintuGet_LineInfo : \d+\] \(-1\)faltocal_SendMultiObj is Failure")
+        self.assertEqual(lines[3:], ["caltofal: request on Device.DSL.Line.1. failed: no such object"])
+
+    def test_colour_is_for_terminals_only(self):
+        self.assertIn(b"\x1b[", tool.on_terminal("status"))
+        self.assertNotIn(b"\x1b[", tool.on_terminal("status", NO_COLOR="1"))
+        self.assertNotIn(b"\x1b[", tool.on_terminal("status", TERM="dumb"))
+        self.assertNotIn(b"\x1b[", tool.run("status").out)
+
+    def test_common_options_stand_anywhere(self):
+        self.assertEqual(tool.run("mode", "-g", "bridge", "--json").out, tool.run("--json", "-g", "bridge", "mode").out)
+        self.assertRegex(tool.run("--version").out.decode(), r"^caltofal \d+\.\d+\.\d+\n$")
+
+
+if __name__ == "__main__":
+    if sys.argv[3:] == ["--update"]:
+        update()
+    else:
+        unittest.main(argv=[sys.argv[0], *sys.argv[3:]])

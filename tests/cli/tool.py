@@ -1,0 +1,65 @@
+# SPDX-License-Identifier: MIT
+"""Running the tool in a sandbox folder of its own."""
+import os
+import pty
+import re
+import subprocess
+import tempfile
+from dataclasses import dataclass
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+
+
+@dataclass
+class Result:
+    code: int
+    out: bytes
+    err: str
+
+
+class Tool:
+    """The executable with an environment in which nothing of the caller's shows."""
+
+    def __init__(self, executable, sandbox):
+        self.executable = executable
+        self.sandbox_executable = sandbox
+        self.folders = tempfile.TemporaryDirectory(prefix="caltofal-cli-")
+        self.shared = self.folder()
+
+    def folder(self):
+        """A new sandbox folder, in which every demo gateway is still as delivered."""
+        return tempfile.mkdtemp(dir=self.folders.name)
+
+    def environment(self, folder):
+        kept = {name: os.environ[name] for name in ("PATH", "LSAN_OPTIONS", "ASAN_OPTIONS") if name in os.environ}
+        return {**kept, "CALTOFAL_SANDBOX_DIR": folder or self.shared, "LC_ALL": "C.UTF-8", "TERM": "xterm"}
+
+    def run(self, *words, folder=None, stdout=subprocess.PIPE):
+        done = subprocess.run([self.executable, *words], env=self.environment(folder), stdin=subprocess.DEVNULL,
+                              stdout=stdout, stderr=subprocess.PIPE, timeout=60, check=False)
+        return Result(done.returncode, done.stdout, done.stderr.decode())
+
+    def sandbox(self, *words, folder):
+        subprocess.run([self.sandbox_executable, *words], env=self.environment(folder), stdout=subprocess.DEVNULL,
+                       timeout=60, check=True)
+
+    def on_terminal(self, *words, **variables):
+        """What the tool writes when its standard output is a terminal."""
+        ours, theirs = pty.openpty()
+        with subprocess.Popen([self.executable, *words], env={**self.environment(None), **variables}, stdout=theirs,
+                              stderr=subprocess.DEVNULL) as process:
+            os.close(theirs)
+            text = b""
+            try:
+                while chunk := os.read(ours, 65536):
+                    text += chunk
+            except OSError:  # how a terminal ends
+                pass
+            process.wait()
+        os.close(ours)
+        return text
+
+
+def expected_file(gateway, command, ending):
+    name = re.sub("[^A-Za-z0-9.-]+", "_", command.replace(" --", " "))
+    return os.path.join(HERE, "expected", gateway, name + ending)

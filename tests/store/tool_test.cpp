@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+//
+// caltofal-sandbox as a person runs it.
+#include "sandbox_fixture.h"
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <sys/wait.h>
+
+namespace {
+
+struct Result {
+    int code;
+    std::string out;
+    std::string errors;
+};
+
+class ToolTest : public SandboxTest {
+  protected:
+    // Runs the tool by the shell; {} in `arguments` stands for the test's directory.
+    Result run(const std::string &arguments) {
+        const std::string errorFile = directory_ + "/stderr";
+        std::string command = std::string(SANDBOX_TOOL) + " " + arguments + " 2>" + errorFile;
+        for (size_t at = command.find("{}"); at != std::string::npos; at = command.find("{}")) {
+            command.replace(at, 2, directory_);
+        }
+        Result result{-1, {}, {}};
+        FILE *pipe = popen(command.c_str(), "r");
+        std::array<char, 4096> buffer{};
+        for (size_t count = 0; (count = fread(buffer.data(), 1, buffer.size(), pipe)) != 0;) {
+            result.out.append(buffer.data(), count);
+        }
+        result.code = WEXITSTATUS(pclose(pipe));
+        result.errors = readFile(errorFile);
+        return result;
+    }
+
+    void write(const std::string &name, const std::string &text) const {
+        std::ofstream(directory_ + "/" + name) << text;
+    }
+};
+
+TEST_F(ToolTest, CopiesAGatewayThroughEveryFormat) {
+    ASSERT_EQ(cal_setValueToDb(&Message::set()->with("Device.Info", kSet, {{"Name", "a,\"b\""}}).header), 0);
+    const std::string original = run("export lab").out;
+    EXPECT_NE(original.find("Device.Info.Name [string(1:16) rw default=\"none\" running=\"lab\"] = a,\"b\"\n"),
+              std::string::npos)
+        << original;
+    for (const std::string format : {"tr181", "csv"}) {
+        EXPECT_EQ(run("export lab --format " + format + " > {}/copy." + format).code, 0);
+        EXPECT_EQ(run("import " + format + " {}/copy." + format).code, 0);
+        EXPECT_EQ(run("export " + format).out, original) << format;
+        EXPECT_EQ(run("diff lab " + format).code, 0);
+    }
+    // JSON carries values: written onto a gateway with the same types they make the same again.
+    EXPECT_EQ(run("export --format json > {}/values.json").code, 0);
+    EXPECT_EQ(run("export --format json --stored | grep -F Info.Name").out,
+              "  \"Device.Info.Name\": \"a,\\\"b\\\"\",\n");
+    const std::string json = readFile(directory_ + "/values.json");
+    for (const char *line :
+         {"\n  \"Device.Info.UpTime\": 42,\n", "\n  \"Device.Info.Serial\": \"0001\",\n",
+          "\n  \"Device.Net.Host.2.Active\": true,\n", "\n  \"Device.Info.Text\": {\"hex\":\"74776f0a"}) {
+        EXPECT_NE(json.find(line), std::string::npos) << line << json;
+    }
+    setOne("Device.Net.Host.2", {{"Level", "1"}, {"Active", "false"}});
+    setOne("Device.Info", {{"Text", "other"}});
+    EXPECT_EQ(run("import lab {}/values.json").code, 0);
+    EXPECT_EQ(run("export --format json").out, json);
+}
+
+TEST_F(ToolTest, NamesFileAndLineOfAMistake) {
+    struct Case {
+        const char *file;
+        const char *text;
+        const char *message;
+    };
+    const Case cases[] = {
+        {"a.tr181", "# x\nDevice.A\n", "a.tr181:2: \"Device.A\" has no value: \" = \" is missing"},
+        {"a.csv", "path,value\nDevice.A.B,1\n\nDevice.Info.UpTime,x\n",
+         "a.csv:4: Device.Info.UpTime: \"x\" is not of type unsignedInt"},
+        {"b.csv", "path,value\nDevice.A.B,\"1\n2\"\nDevice.A.C\n", "b.csv:4: 1 fields where the header has 2"},
+        {"c.csv", "path,amount\n", "c.csv:1: \"amount\" is no column: path, value, type, access, default, running"},
+        {"d.csv", "path,value\nDevice.A.B,\"x\n", "d.csv:2: a quoted field does not end"},
+        {"a.json", "{\n  \"Device.A.B\": 1,\n  \"Device.A.C\": null\n}\n", "a.json:3: null is no value"},
+        {"b.json", "{\n  \"Device.Info.UpTime\": -5\n}\n",
+         "b.json:2: Device.Info.UpTime: \"-5\" is outside unsignedInt"},
+        {"c.json", "{\n  \"Device.A.B\": {\"hex\": \"0\"}\n}\n",
+         "c.json:2: \"0\" is no row of pairs of hexadecimal digits"},
+        {"d.json", "[1]\n", "d.json:1: an array is no value"},
+    };
+    const Lines before = exported();
+    for (const Case &row : cases) {
+        write(row.file, row.text);
+        const Result result = run(std::string("import lab {}/") + row.file);
+        EXPECT_EQ(result.code, 1) << row.file;
+        EXPECT_EQ(result.errors, "caltofal-sandbox: " + directory_ + "/" + row.message + "\n");
+        EXPECT_EQ(result.out, "");
+    }
+    EXPECT_EQ(exported(), before);
+}
+
+TEST_F(ToolTest, ImportsTables) {
+    write("hosts.csv",
+          "value,path,access\r\nnine,Device.Net.Host.9.Name,\r\n\"say \"\"hi\"\"\",Device.Info.Motto,rw\r\n");
+    EXPECT_EQ(run("import lab {}/hosts.csv").code, 0);
+    EXPECT_EQ(valueOf("Device.Net.Host.9", "Name"), "nine");
+    EXPECT_EQ(valueOf("Device.Net.Host.9", "Level"), "0");
+    EXPECT_EQ(setOne("Device.Info", {{"Motto", valueOf("Device.Info", "Motto") + "!"}}), 0);
+    EXPECT_EQ(valueOf("Device.Info", "Motto"), "say \"hi\"!");
+    EXPECT_EQ(run("import lab {}/hosts.csv --replace").code, 0);
+    EXPECT_EQ(run("export lab --format json").out,
+              "{\n  \"Device.Info.Motto\": \"say \\\"hi\\\"\",\n  \"Device.Net.Host.9.Name\": \"nine\"\n}\n");
+}
+
+TEST_F(ToolTest, ShowsDifferencesAndBoots) {
+    EXPECT_EQ(run("diff lab").out, "");
+    const auto message = Message::set();
+    message->with("Device.Net.Host.7", kSet, {{"Name", "a \"b\""}}).with("Device.Net.Host", kAdd, {});
+    message->with("Device.Net.Host.2", kDelete, {});
+    ASSERT_EQ(cal_setValueToDb(&message->header), 0);
+    const std::string changes = "- Device.Net.Host.2\n+ Device.Net.Host.11\n"
+                                "~ Device.Net.Host.7.Name: \"seven\" -> \"a \\\"b\\\"\"\n";
+    const Result different = run("diff lab");
+    EXPECT_EQ(different.out, changes);
+    EXPECT_EQ(different.code, 1);
+    EXPECT_EQ(run("boot").out, changes);
+    EXPECT_EQ(run("diff lab").code, 0);
+
+    EXPECT_EQ(run("new other --from lab.nothing").code, 1);
+    EXPECT_EQ(run("export lab | " SANDBOX_TOOL " import other -").code, 0);
+    setOne("Device.Info", {{"Name", "x"}});
+    cal_setValue(&Message::set()->with("Device.Net.Host.10.Address", kAdd, {{"IP", "::1"}}).header);
+    EXPECT_EQ(run("diff other lab").out, "~ Device.Info.Name: \"lab\" -> \"x\"\n"
+                                         "~ Device.Net.Host.10.AddressNumberOfEntries: \"0\" -> \"1\"\n"
+                                         "+ Device.Net.Host.10.Address.1.IP = \"::1\"\n");
+    EXPECT_NE(run("diff lab other").out.find("- Device.Net.Host.10.Address.1.IP = \"::1\"\n"), std::string::npos);
+}
+
+TEST_F(ToolTest, KeepsGateways) {
+    EXPECT_EQ(run("new bench --from home").code, 0);
+    EXPECT_EQ(run("new bench").code, 1);
+    EXPECT_EQ(run("-g bench path").out, directory_ + "/bench.db\n");
+    const std::string list = run("list").out;
+    EXPECT_NE(list.find("\n  home      demo, made on first use\n"), std::string::npos) << list;
+    EXPECT_NE(list.find("\n* lab  "), std::string::npos) << list;
+    EXPECT_NE(run("list --json").out.find("\"name\": \"lab\",\n    \"exists\": true,\n    \"demo\": false"),
+              std::string::npos);
+    EXPECT_NE(run("-g bench export Device.Hosts.Host.1 | grep -c Address").out, "0\n");
+    EXPECT_EQ(run("remove bench").code, 0);
+    EXPECT_EQ(run("remove bench").code, 10);
+    EXPECT_EQ(run("export bench").code, 10);
+    EXPECT_EQ(run("export lab Device.Nope.").code, 10);
+}
+
+TEST_F(ToolTest, OrdersFaults) {
+    EXPECT_EQ(run("fault add Device.Info. --code no-match --nth 2 --on get").out,
+              "1: Device.Info, get, request 2 from now: -208 no-match\n");
+    EXPECT_EQ(valueOf("Device.Info", "Name"), "lab");
+    EXPECT_EQ(run("fault list").out, "1: Device.Info, get, request 1 from now: -208 no-match\n");
+    EXPECT_EQ(valueOf("Device.Info", "Name"), "?-208");
+    EXPECT_EQ(run("fault list --json").out, "[]\n");
+    EXPECT_EQ(run("fault add any --late 5").out, "1: any object, get and set, every request: late by 5 ms\n");
+    EXPECT_EQ(run("fault clear 7").code, 10);
+    EXPECT_EQ(run("fault clear 1").code, 0);
+    EXPECT_EQ(run("fault list").out, "");
+}
+
+TEST_F(ToolTest, TellsWrongUseApart) {
+    for (const char *arguments : {"", "nosuch", "fault add", "fault add any --code 5", "fault add 1.2",
+                                  "export --format xml", "import lab", "list --nope"}) {
+        EXPECT_EQ(run(arguments).code, 2) << arguments;
+    }
+    for (const char *arguments : {"--help", "--version", "fault add --help"}) {
+        EXPECT_EQ(run(arguments).code, 0) << arguments;
+    }
+    EXPECT_EQ(run("export > /dev/full").code, 1) << "an output that is lost is no success";
+}
+
+} // namespace

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// Every exported function that asks the configuration layer, as rows: for tests that treat them all alike.
+#pragma once
+
+#include "platform.h"
+
+#include <functional>
+
+namespace test {
+
+struct Getter {
+    const char *name;
+    size_t leftMessages; // messages that it leaves unreleased on purpose
+    // Calls it on records of its own; the result and what the records hold, as bytes.
+    std::function<std::string()> run;
+};
+
+const std::vector<Getter> &getters();
+
+// One answer that suits them all: an object with every parameter that the pages read.
+Reply richAnswer();
+
+} // namespace test
