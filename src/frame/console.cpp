@@ -5,16 +5,16 @@
 
 #include "caltofal.h"
 
+#include <algorithm>
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace frame {
 namespace {
 
-// Formats "%s" and "%d"; false when the format holds anything else.
-bool formatSimple(ConsoleLine &line, const char *format, va_list arguments) {
-    for (;;) {
-        const char *sign = strchrnul(format, '%');
+// Formats "%s" and "%d"; false when the format holds anything else. `sign` is the format's first '%'.
+bool formatSimple(ConsoleLine &line, const char *format, const char *sign, va_list arguments) {
+    for (;; sign = strchrnul(format, '%')) {
         line.append(format, static_cast<size_t>(sign - format));
         if (!*sign) {
             return true;
@@ -33,12 +33,12 @@ bool formatSimple(ConsoleLine &line, const char *format, va_list arguments) {
 
 } // namespace
 
-int writeToConsole(const ConsoleLine &line) {
+int writeToConsole(const char *line, size_t length) {
     const int console = open("/dev/console", O_RDWR);
     if (console < 0) {
         return console;
     }
-    [[maybe_unused]] const ssize_t written = write(console, line, line.length());
+    [[maybe_unused]] const ssize_t written = write(console, line, length);
     return close(console);
 }
 
@@ -47,10 +47,14 @@ int writeToConsole(const ConsoleLine &line) {
 using namespace frame;
 
 int PRINT_TO_CONSOLE(const char *format, ...) {
+    const char *sign = strchrnul(format, '%');
+    if (!*sign) {
+        return writeToConsole(format, std::min(static_cast<size_t>(sign - format), kConsoleSize - 1));
+    }
     ConsoleLine line;
     va_list arguments;
     va_start(arguments, format);
-    const bool simple = formatSimple(line, format, arguments);
+    const bool simple = formatSimple(line, format, sign, arguments);
     va_end(arguments);
     if (!simple) {
         va_start(arguments, format);

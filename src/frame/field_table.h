@@ -37,6 +37,7 @@ struct alignas(4) Field {
     uint16_t offset;
     uint16_t size;
     Rule rule;
+    uint8_t length; // of the name
 };
 
 template <class Member>
@@ -76,7 +77,11 @@ consteval Field bindField(std::string_view name, size_t offset, Rule rule = defa
     if (name.size() < sizeof(uint32_t) || name.size() >= sizeof(Field::name)) {
         aRowHoldsNamesOf4To27Characters();
     }
-    Field field = {{}, static_cast<uint16_t>(offset), static_cast<uint16_t>(sizeof(Member)), rule};
+    Field field = {{},
+                   static_cast<uint16_t>(offset),
+                   static_cast<uint16_t>(sizeof(Member)),
+                   rule,
+                   static_cast<uint8_t>(name.size())};
     std::copy(name.begin(), name.end(), field.name);
     return field;
 }
@@ -98,9 +103,16 @@ struct Fields {
             filter.add(field.name);
         }
     }
+    // The same with a name in its filter that has no row: a parameter that the page reads itself.
+    [[nodiscard]] consteval Fields with(const char *name) const {
+        Fields more = *this;
+        more.filter.add(name);
+        return more;
+    }
 };
 
-// The row of a parameter, or nullptr.
+// The row of a parameter, or nullptr. The name stands in a node: it is read as far as the names of rows
+// reach.
 const Field *findField(const Fields &fields, const char *name);
 
 // Stores a value into the record by the row's rule.

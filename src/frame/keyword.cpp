@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "keyword.h"
 
-#include <cstring>
-#include <span>
+#include <cstddef>
 
 namespace frame {
 namespace {
@@ -35,36 +34,57 @@ constexpr ExtendedOperation kExtended[] = {
 
 constexpr ExtendedOperation kUnknown = {"", 0, 0, false};
 
-uint32_t codeOf(const char *word, std::span<const Keyword> table) {
-    for (const Keyword &row : table) {
-        if (isKeyword(word, row.word)) {
-            return row.code;
+// Words are too short for a call of strcmp().
+bool same(const char *word, const char *keyword) {
+    for (; *word == *keyword; ++word, ++keyword) {
+        if (!*word) {
+            return true;
         }
     }
-    return 0;
+    return false;
+}
+
+constexpr bool isGet(const char *word) {
+    return word[0] == 'g' && word[1] == 'e' && word[2] == 't' && word[3] == '\0';
+}
+
+static_assert(isGet(kMain[0].word) && isGet(kSub[0].word) && isGet(kExtended[0].word));
+
+// The row of a word, or nullptr. Almost every request is a get, the first row of each table.
+template <class Row, size_t Count>
+const Row *find(const Row (&table)[Count], const char *word) {
+    if (word) {
+        if (isGet(word)) {
+            return table;
+        }
+        for (const Row &row : table) {
+            if (same(word, row.word)) {
+                return &row;
+            }
+        }
+    }
+    return nullptr;
+}
+
+template <size_t Count>
+uint32_t codeOf(const Keyword (&table)[Count], const char *word) {
+    const Keyword *row = find(table, word);
+    return row ? row->code : 0;
 }
 
 } // namespace
 
 uint32_t mainOperation(const char *word) {
-    return codeOf(word, kMain);
+    return codeOf(kMain, word);
 }
 
 uint32_t subOperation(const char *word) {
-    return codeOf(word, kSub);
-}
-
-bool isKeyword(const char *word, const char *keyword) {
-    return word && strcmp(word, keyword) == 0;
+    return codeOf(kSub, word);
 }
 
 const ExtendedOperation &extendedOperation(const char *word) {
-    for (const ExtendedOperation &row : kExtended) {
-        if (isKeyword(word, row.word)) {
-            return row;
-        }
-    }
-    return kUnknown;
+    const ExtendedOperation *row = find(kExtended, word);
+    return row ? *row : kUnknown;
 }
 
 } // namespace frame

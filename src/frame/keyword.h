@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 
 namespace frame {
 
@@ -13,7 +14,9 @@ uint32_t mainOperation(const char *word);
 uint32_t subOperation(const char *word);
 
 // Whether a word is there and equals a keyword, in case too.
-bool isKeyword(const char *word, const char *keyword);
+inline bool isKeyword(const char *word, const char *keyword) {
+    return word && *word == *keyword && strcmp(word, keyword) == 0;
+}
 
 // What a new multi-object message gets from its main keyword.
 struct ExtendedOperation {

@@ -5,7 +5,7 @@
 #include "keyword.h"
 #include "trace.h"
 
-#include <cstdio>
+#include <algorithm>
 #include <cstring>
 #include <strings.h>
 
@@ -32,36 +32,52 @@ struct Request {
     int count;
 };
 
-struct Path {
-    char text[kPathSize];
-    bool deferred; // add it without sending yet
-};
+// The object's path as it is sent: at most 255 characters, and without the "&".
+class Path {
+  public:
+    explicit Path(const char *object) : text_(object) {
+        const char *end = strchrnul(object, '&');
+        deferred_ = *end != '\0';
+        // Wherever the '&' stands, it is the last character that goes.
+        const bool inside = deferred_ && end[1];
+        const size_t length = static_cast<size_t>(end - object) + (inside ? strlen(end + 1) : 0);
+        if (deferred_ || length >= kPathSize) {
+            *static_cast<char *>(mempcpy(cut_, object, std::min(length, kPathSize - 1))) = '\0';
+            text_ = cut_;
+        }
+    }
+    Path(const Path &) = delete;
+    Path &operator=(const Path &) = delete;
 
-Path parsePath(const char *object) {
-    Path path = {{}, strchr(object, '&') != nullptr};
-    // Wherever the '&' stands, it is the last character that goes.
-    const size_t length = strlen(object) - (path.deferred ? 1 : 0);
-    memcpy(path.text, object, length < kPathSize ? length : kPathSize - 1);
-    return path;
-}
+    [[nodiscard]] const char *text() const { return text_; }
+    // Whether it is added without sending yet.
+    [[nodiscard]] bool deferred() const { return deferred_; }
+
+  private:
+    const char *text_;
+    bool deferred_;
+    char cut_[kPathSize]; // only where the caller's text does not serve
+};
 
 bool isStoreOnly(const Request &request) {
     return isKeyword(request.mainOper, "set_only_db");
 }
 
 bool isQuery(const char *object) {
-    return strncasecmp(object, "query", kPathSize) == 0;
+    return (*object == 'q' || *object == 'Q') && strncasecmp(object, "query", kPathSize) == 0;
 }
 
 // Takes `count` parameters. A null node is handed on; what becomes of it is the helper library's affair.
 void addParameters(ObjectNode *node, uint32_t mainOper, bool filter, uint32_t listFlags, int count,
                    Arguments &arguments) {
-    for (int i = 0; i < count; ++i) {
-        const char *name = arguments.next();
-        if (mainOper == kMainSet || filter) {
+    if (mainOper == kMainSet || filter) {
+        for (; count > 0; --count) {
+            const char *name = arguments.next();
             HELP_PARAM_SET(node, name, arguments.next());
-        } else if (mainOper == kMainGet) {
-            HELP_PARAM_GET(node, name, listFlags);
+        }
+    } else if (mainOper == kMainGet) {
+        for (; count > 0; --count) {
+            HELP_PARAM_GET(node, arguments.next(), listFlags);
         }
     }
 }
@@ -85,7 +101,7 @@ int send(const Request &request, bool storeOnly, const TraceLines &lines) {
 
 int addAndSend(const Request &request, Arguments arguments, const TraceLines &lines) {
     MsgHeader *message = request.message;
-    const Path path = parsePath(request.object);
+    const Path path(request.object);
     bool filter = false;
     bool storeOnly = false;
     if (message->objectList) {
@@ -104,12 +120,12 @@ int addAndSend(const Request &request, Arguments arguments, const TraceLines &li
         return unknownWord(lines, lines.unknownSub, request.subOper, request.object);
     }
     ObjectNode *node = nullptr;
-    faltocal_FillObject(&node, message->objectList, path.text, message->mainOper, sub, SOPT_OBJVALUE);
+    faltocal_FillObject(&node, message->objectList, path.text(), message->mainOper, sub, SOPT_OBJVALUE);
     const bool pairs = message->mainOper == kMainSet || filter;
     if (node || pairs) {
         addParameters(node, message->mainOper, filter, SOPT_OBJVALUE, request.count, arguments);
     }
-    return path.deferred ? 0 : send(request, storeOnly, lines);
+    return path.deferred() ? 0 : send(request, storeOnly, lines);
 }
 
 } // namespace
@@ -150,7 +166,7 @@ int faltocal_send_main_multi_obj_No_variable(MsgHeader *message, char *object, c
 
 int faltocal_SendMultiObj(uint8_t send, uint32_t listFlags, uint32_t owner, MsgHeader *message, const char *object,
                           const char *mainOper, const char *subOper, int count, ...) {
-    if (strncmp(object, "query", kPathSize) == 0) {
+    if (*object == 'q' && strncmp(object, "query", kPathSize) == 0) {
         return send != 0 ? faltocal_sendQuery(message) : 0;
     }
     bool filter = false;

@@ -3,21 +3,39 @@
 // comparison.
 #pragma once
 
+#include <bit>
 #include <cstdint>
+#include <cstring>
+#include <type_traits>
 
 namespace frame {
 
-// A bit for each combination of two first characters. Names have at least one character, or stand in a larger buffer.
+// The first four bytes of a name, which has that many or stands in a larger buffer.
+constexpr uint32_t firstBytes(const char *name) {
+    if (std::is_constant_evaluated()) {
+        struct {
+            char bytes[4];
+        } const first = {{name[0], name[1], name[2], name[3]}};
+        return std::bit_cast<uint32_t>(first);
+    }
+    uint32_t bytes = 0;
+    memcpy(&bytes, name, sizeof(bytes));
+    return bytes;
+}
+
+// A bit for each hash of first bytes. A name of fewer than three characters, which has no four bytes of its own, makes
+// the filter let everything pass.
 class NameFilter {
   public:
-    constexpr void add(const char *name) { bits_ |= uint32_t{1} << bucket(name); }
-    // False: no such name was added.
+    constexpr void add(const char *name) {
+        const bool isLong = name[0] && name[1] && name[2];
+        bits_ |= isLong ? uint32_t{1} << bucket(name) : ~uint32_t{0};
+    }
+    // False: no such name was added. The name stands in a node.
     [[nodiscard]] constexpr bool mayHold(const char *name) const { return ((bits_ >> bucket(name)) & 1) != 0; }
 
   private:
-    static constexpr uint32_t bucket(const char *name) {
-        return (3U * static_cast<unsigned char>(name[0]) + static_cast<unsigned char>(name[1])) % 32;
-    }
+    static constexpr uint32_t bucket(const char *name) { return firstBytes(name) * 0x9E3779B1U >> 27; }
 
     uint32_t bits_ = 0;
 };

@@ -30,11 +30,13 @@ int sendOne(const Request &request, Arguments arguments, uint32_t owner, Sender 
     }
     ObjectNode *node = nullptr;
     faltocal_FillObject(&node, request.message->objectList, request.object, main, sub, SOPT_OBJVALUE);
-    for (int i = 0; i < request.count; ++i) {
-        if (main == kMainSet) {
+    if (main == kMainSet) {
+        for (int i = 0; i < request.count; ++i) {
             const char *name = arguments.next();
             HELP_PARAM_SET(node, name, arguments.next());
-        } else if (main == kMainGet) {
+        }
+    } else if (main == kMainGet) {
+        for (int i = 0; i < request.count; ++i) {
             HELP_PARAM_GET(node, arguments.next(), SOPT_OBJVALUE);
         }
     }

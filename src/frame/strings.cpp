@@ -22,8 +22,11 @@ int itoa(int value, char *out) {
 }
 
 int atob(const char *text) {
-    constexpr size_t kCompared = 128;
-    return strncmp(text, "1", kCompared) == 0 || strcasecmp(text, "true") == 0 ? 1 : 0;
+    if (text[0] == 't' && text[1] == 'r' && text[2] == 'u' && text[3] == 'e' && text[4] == '\0') {
+        return 1; // what the layer answers
+    }
+    const bool isOne = text[0] == '1' && text[1] == '\0';
+    return isOne || strcasecmp(text, "true") == 0 ? 1 : 0;
 }
 
 char *strupr(char *text) {

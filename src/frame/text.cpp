@@ -40,17 +40,14 @@ int number(const char *text) {
     const bool negative = *text == '-';
     const char *first = text + (negative ? 1 : 0);
     const char *digit = first;
-    int value = 0;
-    for (; *digit >= '0' && *digit <= '9'; ++digit) {
-        if (digit - first == kDigits) {
-            return atoi(text);
-        }
-        value = value * 10 + (*digit - '0');
+    unsigned value = 0; // of too many digits: anything
+    for (unsigned next = 0; (next = static_cast<unsigned>(*digit - '0')) <= 9; ++digit) {
+        value = value * 10 + next;
     }
-    if (digit == first) {
+    if (digit == first || digit - first > kDigits) {
         return atoi(text);
     }
-    return negative ? -value : value;
+    return static_cast<int>(negative ? -value : value);
 }
 
 bool isOn(const char *text) {

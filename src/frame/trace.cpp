@@ -17,6 +17,10 @@ void traceVola(const char *unit, int line, const char *function) {
     writeToConsole(tag);
 }
 
+void traceVola(const VolaTag &tag) {
+    writeToConsole(tag.text(), tag.length());
+}
+
 void traceError(int line, const char *function) {
     PRINT_TO_CONSOLE("\n\n\t[%s : %d] ", function, line);
 }

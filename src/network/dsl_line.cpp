@@ -19,7 +19,7 @@ struct Request {
 };
 
 constexpr Request kRequests[] = {
-    {"Device.DSL.Line.1.", kDslLine},
+    {"Device.DSL.Line.1.", Fields(kDslLine).with("Status")},
     {"Device.DSL.Channel.1.", kDslChannel},
     {"Device.DSL.Line.1.TestParams.", kDslTestParams},
     {"Device.DSL.Channel.1.Stats.Total.", kDslTotals},
@@ -40,6 +40,9 @@ void storeStatus(const char *value, char (&status)[16]) {
 
 void fillLine(ObjectNode &line, const Fields &fields, ZintuDslLineInfo &info) {
     for (const ParamNode &param : params(line)) {
+        if (!fields.filter.mayHold(param.name)) {
+            continue;
+        }
         if (isNamed(param, "Status")) {
             storeStatus(param.value, info.sStatus);
         } else {

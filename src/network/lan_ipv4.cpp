@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // LAN page, IPv4: address, DHCP server, MAC address.
+#include "console.h"
 #include "field_tables.h"
 #include "lookup.h"
 #include "range.h"
 #include "request.h"
-#include "text.h"
+
+#include <cstring>
 
 using namespace frame;
 using namespace network;
@@ -23,9 +25,14 @@ constexpr Page kPages[] = {
     {"Device.Ethernet.Interface.1", kLanEthernet},
 };
 
+// contains() for an object's name, which may be compared as far as the part reaches.
+bool nameContains(const ObjectNode &object, std::string_view part) {
+    return memcmp(object.name, part.data(), part.size()) == 0 || (*object.name && strstr(object.name + 1, part.data()));
+}
+
 void fillFrom(ObjectNode &object, LANv4Info &info) {
     for (const Page &page : kPages) {
-        if (contains(object.name, page.namePart)) {
+        if (nameContains(object, page.namePart)) {
             fill(object, page.fields, info);
             return;
         }
@@ -50,7 +57,7 @@ int request(MsgHeader *message) {
 // The server-wide switch overrides the pool's.
 void applyServerSwitch(const Message &message, LANv4Info &info) {
     for (ObjectNode &object : objects(*message)) {
-        if (!contains(object.name, "Device.DHCPv4.Server")) {
+        if (!nameContains(object, "Device.DHCPv4.Server")) {
             continue;
         }
         for (const ParamNode &param : params(object)) {
@@ -61,19 +68,19 @@ void applyServerSwitch(const Message &message, LANv4Info &info) {
     }
 }
 
-void traceResult(const LANv4Info &info, int line = __builtin_LINE(), const char *function = __builtin_FUNCTION()) {
-    traceVola(kNetworkGet, line, function);
-    PRINT_TO_CONSOLE("return pxLANv4Info value : sIPv4Address = %s , sIPv4Subnet = %s , bDHCPv4Active = %d , "
-                     "sDHCPv4StartIP = %s , sDHCPv4EndIP = %s , nLeaseTimeSec = %d , sMACAddr = %s \n",
-                     Terminated(info.sIPv4Address).c_str(), Terminated(info.sIPv4Subnet).c_str(), info.bDHCPv4Active,
-                     Terminated(info.sDHCPv4StartIP).c_str(), Terminated(info.sDHCPv4EndIP).c_str(), info.nLeaseTimeSec,
-                     Terminated(info.sMACAddr).c_str());
+void traceResult(const LANv4Info &info) {
+    writePartsToConsole("return pxLANv4Info value : sIPv4Address = ", FieldText{info.sIPv4Address},
+                        " , sIPv4Subnet = ", FieldText{info.sIPv4Subnet}, " , bDHCPv4Active = ", info.bDHCPv4Active,
+                        " , sDHCPv4StartIP = ", FieldText{info.sDHCPv4StartIP},
+                        " , sDHCPv4EndIP = ", FieldText{info.sDHCPv4EndIP}, " , nLeaseTimeSec = ", info.nLeaseTimeSec,
+                        " , sMACAddr = ", FieldText{info.sMACAddr}, " \n");
 }
 
 } // namespace
 
 int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info) {
-    traceVola(kNetworkGet);
+    static constexpr VolaTag kStart(kNetworkGet);
+    traceVola(kStart);
     PRINT_TO_CONSOLE("START_FUNCTION : FAL \n");
     Message message;
     if (const int line = request(message)) {
@@ -92,6 +99,8 @@ int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info) {
         return -1;
     }
     applyServerSwitch(message, *pxLANv4Info);
+    static constexpr VolaTag kResult(kNetworkGet);
+    traceVola(kResult);
     traceResult(*pxLANv4Info);
     return code;
 }
