@@ -13,11 +13,10 @@ using namespace wifi;
 
 namespace wifi {
 
-void takeCurrentChannel(const char *line, int &channel) {
+const char *findCurrentChannel(const char *line) {
     constexpr char kLabel[] = "Current Channel=";
-    if (const char *found = strstr(line, kLabel)) {
-        channel = ConvInt(found + sizeof(kLabel) - 1);
-    }
+    const char *found = strstr(line, kLabel);
+    return found ? found + sizeof(kLabel) - 1 : nullptr;
 }
 
 } // namespace wifi
@@ -33,7 +32,9 @@ int GetCurrentChannel(const char *ifname, int /*ignored*/, int *channel) {
     }
     char line[kLineSize];
     while (pipe.readLine(line, sizeof(line))) {
-        takeCurrentChannel(line, *channel);
+        if (const char *number = findCurrentChannel(line)) {
+            *channel = ConvInt(number);
+        }
     }
     return 1;
 }

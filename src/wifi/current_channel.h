@@ -4,7 +4,7 @@
 
 namespace wifi {
 
-// Stores the number behind "Current Channel=" of a line of `iwlist IF channel`; without it `channel` is untouched.
-void takeCurrentChannel(const char *line, int &channel);
+// The number's text behind "Current Channel=" in a line of `iwlist IF channel`, or nullptr.
+const char *findCurrentChannel(const char *line);
 
 } // namespace wifi

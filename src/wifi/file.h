@@ -31,6 +31,9 @@ class File {
         return fgets(line, Size, stream_) != nullptr;
     }
 
+    // Reads at most `size` bytes; fewer at the end of the file only.
+    size_t read(char *buffer, size_t size) { return fread(buffer, 1, size, stream_); }
+
   private:
     FILE *stream_;
 };

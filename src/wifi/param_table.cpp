@@ -1,20 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "param_table.h"
 
-#include "text.h"
+#include "field.h"
 
-using namespace frame;
 using namespace wifi;
 
+namespace wifi {
+
+bool appendRow(WifiParamTable &table, std::string_view object, std::string_view parameter, std::string_view value) {
+    if (table.count >= kTableRows) {
+        return false;
+    }
+    WifiParamRow &row = table.rows[table.count];
+    copyField(row.object, object.data(), object.size());
+    copyField(row.parameter, parameter.data(), parameter.size());
+    copyField(row.value, value.data(), value.size());
+    ++table.count;
+    return true;
+}
+
+} // namespace wifi
+
 int SetParam(WifiParamTable *table, const char *object, const char *parameter, const char *value) {
-    if (!table || !object || !parameter || !value || table->count >= kTableRows) {
+    if (!table || !object || !parameter || !value) {
         return -1;
     }
-    WifiParamRow &row = table->rows[table->count];
-    // The last byte of each field stays unused.
-    copyText(row.object, sizeof(row.object) - 1, object);
-    copyText(row.parameter, sizeof(row.parameter) - 1, parameter);
-    copyText(row.value, sizeof(row.value) - 1, value);
-    ++table->count;
-    return 0;
+    return appendRow(*table, object, parameter, value) ? 0 : -1;
 }

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string_view>
 
 namespace wifi {
 
@@ -16,5 +17,8 @@ inline std::span<const WifiParamRow> rows(const WifiParamTable &table) {
     const int32_t count = table.count < kTableRows ? table.count : kTableRows;
     return {table.rows, static_cast<size_t>(count > 0 ? count : 0)};
 }
+
+// Appends a row, its texts cut as SetParam() cuts them; false when the table is full.
+bool appendRow(WifiParamTable &table, std::string_view object, std::string_view parameter, std::string_view value);
 
 } // namespace wifi

@@ -3,6 +3,7 @@
 
 #include "message.h"
 #include "object_path.h"
+#include "param_table.h"
 #include "range.h"
 #include "wifi_trace.h"
 
@@ -13,26 +14,31 @@ using namespace wifi;
 
 namespace wifi {
 
-const char *findKept(const Snapshot &snapshot, const char *name) {
+std::string_view findKept(const Snapshot &snapshot, const char *name) {
     const size_t length = strnlen(name, kLongestName + 1);
     if (length > kLongestName) {
-        return nullptr;
+        return {};
     }
     const NameIndex &index = snapshot.index;
     for (uint8_t i = index.first[length]; i < index.first[length + 1]; ++i) {
-        const char *kept = snapshot.settings[index.order[i]].name;
+        const char *kept = snapshot.names + snapshot.nameAt[index.order[i]];
         if (*kept == *name && memcmp(kept, name, length) == 0) {
-            return kept;
+            return {kept, length};
         }
     }
-    return nullptr;
+    return {};
 }
 
 void keepSettings(const Snapshot &snapshot, const MsgHeader &answer, WifiParamTable *table) {
+    if (!table) {
+        return;
+    }
     for (ObjectNode &object : objects(answer)) {
+        const std::string_view objectName = object.name;
         for (const ParamNode &param : params(object)) {
-            if (const char *name = findKept(snapshot, param.name)) {
-                SetParam(table, object.name, name, param.value);
+            const std::string_view name = findKept(snapshot, param.name);
+            if (name.data()) {
+                appendRow(*table, objectName, name, param.value);
             }
         }
     }
@@ -41,11 +47,12 @@ void keepSettings(const Snapshot &snapshot, const MsgHeader &answer, WifiParamTa
 namespace {
 
 // The request takes its names as variable arguments: it is handed as many as the longest step has and takes `count`.
-int ask(MsgHeader *message, const char *path, const Setting *settings, int count) {
+int ask(MsgHeader *message, const char *path, const char *names, int count) {
     constexpr int kMostNames = 16;
     const char *name[kMostNames] = {};
     for (int i = 0; i < count; ++i) {
-        name[i] = settings[i].name;
+        name[i] = names;
+        names += strlen(names) + 1;
     }
     return faltocal_send_main_multi_obj(message, path, "get_leaf_node", "get", count, name[0], name[1], name[2],
                                         name[3], name[4], name[5], name[6], name[7], name[8], name[9], name[10],
@@ -54,15 +61,15 @@ int ask(MsgHeader *message, const char *path, const Setting *settings, int count
 
 // Queues one object after another and sends them with the last.
 int askAll(const Snapshot &snapshot, MsgHeader *message, int own, int accessPoint) {
-    const Setting *settings = snapshot.settings;
+    const uint16_t *nameAt = snapshot.nameAt;
     int result = 0;
     for (const Step &step : snapshot.steps) {
         if (!*step.prefix || result == -1) {
             break;
         }
         const int instance = step.instance == Instance::Own ? own : accessPoint;
-        result = ask(message, ObjectPath(step.prefix, instance, step.rest), settings, step.count);
-        settings += step.count;
+        result = ask(message, ObjectPath(step.prefix, instance, step.rest), snapshot.names + *nameAt, step.count);
+        nameAt += step.count;
     }
     return result;
 }

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace wifi {
 
@@ -20,7 +21,7 @@ enum class Use : uint8_t {
 };
 
 struct Setting {
-    char name[35];
+    const char *name;
     Use use;
 };
 
@@ -35,7 +36,7 @@ struct Step {
     uint8_t count;
 };
 
-inline constexpr size_t kMostSettings = 32;
+inline constexpr size_t kMostSettings = 29;
 inline constexpr size_t kMostSteps = 4;
 inline constexpr size_t kLongestName = 32;
 
@@ -45,17 +46,19 @@ struct NameIndex {
     uint8_t order[kMostSettings];
 };
 
+// Made from settings at compile time.
 struct Snapshot {
-    Step steps[kMostSteps]; // up to one without a prefix
-    Setting settings[kMostSettings];
+    Step steps[kMostSteps];         // up to one without a prefix
+    char names[496];                // one behind the other, each terminated
+    uint16_t nameAt[kMostSettings]; // where each setting's begins
     NameIndex index;
 };
 
 extern const Snapshot kSsidSnapshot;
 extern const Snapshot kRadioSnapshot;
 
-// The name of a parameter as the snapshot keeps it, or nullptr when it does not.
-const char *findKept(const Snapshot &snapshot, const char *name);
+// The name of a parameter as the snapshot keeps it; one without data when it does not.
+std::string_view findKept(const Snapshot &snapshot, const char *name);
 
 // Appends the parameters of an answer that the snapshot keeps; what the table has no room for is lost.
 void keepSettings(const Snapshot &snapshot, const MsgHeader &answer, WifiParamTable *table);

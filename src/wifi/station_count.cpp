@@ -53,6 +53,15 @@ Ssid read(const MsgHeader &answer, char *lowerLayers) {
     return ssid;
 }
 
+// Starts over for the next SSID. A message without a list is not released here, only when it is the last.
+void restart(Message &message) {
+    if ((*message).objectList) {
+        message.reset();
+    } else {
+        *message.header() = {};
+    }
+}
+
 } // namespace
 
 int GetAssociatedDeviceNumberOfEntries(int radioIndex) {
@@ -64,8 +73,9 @@ int GetAssociatedDeviceNumberOfEntries(int radioIndex) {
     // Kept from one SSID to the next: one that does not name its radio counts as its predecessor does.
     char lowerLayers[128] = "";
     int total = 0;
+    Message message;
     for (int i = 0; i < kSsidsOfRadio; ++i) {
-        Message message;
+        restart(message);
         if (!ask(message, ConvSsidIdxToFapi(radioIndex, i))) {
             traceFailedRequest();
             break;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Reading a survey's result file.
 #include "file.h"
+#include "line_blocks.h"
 #include "survey_parse.h"
 #include "wifi_trace.h"
 
@@ -26,7 +27,7 @@ class SurveyReader {
         const SurveyLine line = splitSurveyLine(text);
         if (!line.isComplete()) {
             report(line);
-        } else if (isWanted(line.column[SurveyLine::Ssid]) && list_.count < capacity_) {
+        } else if (isWanted(line.column[SurveyLine::Ssid].data) && list_.count < capacity_) {
             fillSurveyEntry(line, list_.entries[list_.count++]);
         }
     }
@@ -39,11 +40,11 @@ class SurveyReader {
     void report(const SurveyLine &line) const {
         traceVola(kWifiUtil, __LINE__, kFunction);
         PRINT_TO_CONSOLE("invalid scan result entry\n");
-        const char *const *column = line.column;
+        const SurveyLine::Text *column = line.column;
         printf("scan[%d] ssid:%s channel:%s rssi:%s security:%s encryption:%s macaddr:%s bandwidth:%s phymode:%s "
                "sideband:%s product:%s\n",
-               list_.count, column[0], column[1], column[2], column[3], column[4], column[5], column[6], column[7],
-               column[8], column[9]);
+               list_.count, column[0].data, column[1].data, column[2].data, column[3].data, column[4].data,
+               column[5].data, column[6].data, column[7].data, column[8].data, column[9].data);
     }
 
     SiteSurveyList &list_;
@@ -79,8 +80,8 @@ int GetSiteSurveyList(const char *path, SiteSurveyList *list, const char *ssidFi
         return list->count;
     }
     SurveyReader reader(*list, lines, *ssidFilter ? ssidFilter : nullptr);
-    char line[kLineSize];
-    while (file.readLine(line)) {
+    LineBlocks<kLineSize> blocks(file);
+    while (char *line = blocks.next()) {
         reader.addLine(line);
     }
     return list->count;

@@ -3,6 +3,7 @@
 #include "caltofal.h"
 #include "file.h"
 #include "formatted.h"
+#include "line_blocks.h"
 #include "pipe.h"
 
 #include <unistd.h>
@@ -25,11 +26,7 @@ int GetFileLineCnt(const char *path) {
     if (!file.opened()) {
         return 0;
     }
-    int count = 0;
-    for (char line[1000]; file.readLine(line);) {
-        ++count;
-    }
-    return count;
+    return LineBlocks<1000>(file).count();
 }
 
 int CombineScanResultFiles(const char *first, const char *second, const char *target) {

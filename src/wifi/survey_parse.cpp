@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "survey_parse.h"
 
+#include "field.h"
 #include "text.h"
 #include "words.h"
 
@@ -11,35 +12,16 @@ namespace {
 
 // The next tab, the text's end at the latest.
 char *skipToTab(char *text) {
-    for (;; ++text) {
-        // Both are below whatever a column usually holds: one comparison passes that.
-        const auto c = static_cast<unsigned char>(*text);
-        if (c <= '\t' && (c == '\t' || c == '\0')) {
-            return text;
-        }
+    // Both are below whatever a column usually holds: one comparison passes that.
+    while (static_cast<unsigned char>(*text) > '\t' || (*text != '\t' && *text != '\0')) {
+        ++text;
     }
+    return text;
 }
 
-// As ConvInt(), without its costs for the short numbers that columns usually hold.
-int toInt(const char *column) {
-    constexpr int kSafeDigits = 9;
-    const bool negative = *column == '-';
-    const char *first = column + (negative ? 1 : 0);
-    const char *digit = first;
-    int value = 0;
-    for (; *digit >= '0' && *digit <= '9' && digit - first < kSafeDigits; ++digit) {
-        value = value * 10 + (*digit - '0');
-    }
-    if (digit == first || digit - first == kSafeDigits) {
-        return ConvInt(column);
-    }
-    return negative ? -value : value;
-}
-
-// The last byte of each field stays unused.
 template <size_t Size>
-void copyColumn(char (&field)[Size], const char *column) {
-    copyText(field, Size - 1, column);
+void copyColumn(char (&field)[Size], const SurveyLine::Text &column) {
+    copyField(field, column.data, column.length);
 }
 
 } // namespace
@@ -50,9 +32,10 @@ SurveyLine splitSurveyLine(char *line) {
     }
     SurveyLine parts;
     char *cursor = line;
-    for (const char *&column : parts.column) {
-        column = cursor;
+    for (SurveyLine::Text &column : parts.column) {
+        const char *start = cursor;
         cursor = skipToTab(cursor);
+        column = {start, static_cast<size_t>(cursor - start)};
         if (*cursor) {
             *cursor = '\0';
             cursor = skipSpace(cursor + 1);
@@ -63,15 +46,15 @@ SurveyLine splitSurveyLine(char *line) {
 
 void fillSurveyEntry(const SurveyLine &line, SiteSurveyEntry &entry) {
     copyColumn(entry.ssid, line.column[SurveyLine::Ssid]);
-    entry.channel = toInt(line.column[SurveyLine::Channel]);
-    entry.rssi = toInt(line.column[SurveyLine::Rssi]);
+    entry.channel = number(line.column[SurveyLine::Channel].data);
+    entry.rssi = number(line.column[SurveyLine::Rssi].data);
     copyColumn(entry.security, line.column[SurveyLine::Security]);
     copyColumn(entry.encryption, line.column[SurveyLine::Encryption]);
     copyColumn(entry.macaddr, line.column[SurveyLine::MacAddr]);
-    entry.bandwidth = toInt(line.column[SurveyLine::Bandwidth]);
+    entry.bandwidth = number(line.column[SurveyLine::Bandwidth].data);
     copyColumn(entry.phymode, line.column[SurveyLine::PhyMode]);
     copyColumn(entry.sideband, line.column[SurveyLine::SideBand]);
-    entry.product = toInt(line.column[SurveyLine::Product]);
+    entry.product = number(line.column[SurveyLine::Product].data);
 }
 
 } // namespace wifi

@@ -4,10 +4,16 @@
 
 #include "caltofal.h"
 
+#include <cstddef>
+
 namespace wifi {
 
-// The texts of a line's columns; "" for those that it does not reach.
+// The columns of a line; "" for those that it does not reach.
 struct SurveyLine {
+    struct Text {
+        const char *data; // terminated
+        size_t length;
+    };
     enum Column : unsigned char {
         Ssid,
         Channel,
@@ -23,9 +29,9 @@ struct SurveyLine {
     };
 
     // Whether every column holds something.
-    [[nodiscard]] bool isComplete() const { return *column[Columns - 1] != '\0'; }
+    [[nodiscard]] bool isComplete() const { return column[Columns - 1].length > 0; }
 
-    const char *column[Columns];
+    Text column[Columns];
 };
 
 // Cuts a line into columns, in place, as the scan format "%[^\t]\t%[^\t]\t..." of ten columns does: a tab ends a

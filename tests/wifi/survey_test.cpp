@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "survey_parse.h"
 #include "wifi_support.h"
 
 using namespace test;
@@ -10,178 +9,136 @@ using Survey = WifiTest;
 
 constexpr char kFile[] = "/tmp/wlan_wave/wlan0_scan_by_User.result";
 
-std::string join(const char *const (&columns)[10]) {
+// What reading a file leaves: its entries, and what is printed about the lines that are none.
+struct Result {
+    std::string entries, printed;
+};
+
+std::string text(const SiteSurveyEntry &e) {
     std::string text;
-    for (const char *column : columns) {
+    for (const char *column : {e.ssid, e.security, e.encryption, e.macaddr, e.phymode, e.sideband}) {
         text += column + std::string("|");
     }
-    return text;
+    for (const int32_t number : {e.channel, e.rssi, e.bandwidth, e.product}) {
+        text += std::to_string(number) + "|";
+    }
+    return text + "\n";
 }
 
-std::string splitByScan(const char *line) {
-    char c[10][128] = {};
-    sscanf(line, "%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]", c[0], c[1], c[2],
-           c[3], c[4], c[5], c[6], c[7], c[8], c[9]);
-    return join({c[0], c[1], c[2], c[3], c[4], c[5], c[6], c[7], c[8], c[9]});
+Result read(const char *filter) {
+    SiteSurveyList list = {0, nullptr};
+    testing::internal::CaptureStdout();
+    const int count = GetSiteSurveyList(kFile, &list, filter);
+    Result result = {"", testing::internal::GetCapturedStdout()};
+    for (int i = 0; i < count; ++i) {
+        result.entries += text(list.entries[i]);
+    }
+    free(list.entries);
+    return result;
+}
+
+// The same by the plain scan format.
+Result readByScan(const std::string &content, const std::string &filter) {
+    Result result;
+    size_t count = 0;
+    const size_t room = linesOf(content, 1000).size();
+    for (const std::string &line : linesOf(content, 128)) {
+        char c[10][128] = {};
+        sscanf(line.c_str(), "%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]", c[0],
+               c[1], c[2], c[3], c[4], c[5], c[6], c[7], c[8], c[9]);
+        if (!*c[9]) {
+            char text[1500];
+            snprintf(
+                text, sizeof(text),
+                "scan[%zu] ssid:%s channel:%s rssi:%s security:%s encryption:%s macaddr:%s bandwidth:%s phymode:%s "
+                "sideband:%s product:%s\n",
+                count, c[0], c[1], c[2], c[3], c[4], c[5], c[6], c[7], c[8], c[9]);
+            result.printed += text;
+        } else if ((filter.empty() || filter == c[0]) && count < room) {
+            for (const int i : {0, 3, 4, 5, 7, 8}) {
+                result.entries += c[i] + std::string("|");
+            }
+            for (const int i : {1, 2, 6, 9}) {
+                result.entries += std::to_string(atoi(c[i])) + "|";
+            }
+            result.entries += "\n";
+            ++count;
+        }
+    }
+    return result;
 }
 
 TEST_F(Survey, LikeTheScanFormat) {
-    const std::vector<std::string> pieces = {"\t",
-                                             "\t",
-                                             "\t",
-                                             "\t",
-                                             "Home Net",
-                                             "1",
-                                             "-5",
-                                             " ",
-                                             "\n",
-                                             "\r",
-                                             "\v\f",
-                                             "x",
-                                             "\x01",
-                                             "\x08",
-                                             "\xff",
-                                             std::string(1, '\0'),
-                                             std::string(50, 'y')};
-    std::mt19937 random(3); // NOLINT: the same lines in every run
-    for (int i = 0; i < 4000; ++i) {
-        for (std::string &line : linesOf(randomText(random, pieces, random() % 60))) {
-            const std::string expected = splitByScan(line.c_str());
-            ASSERT_EQ(expected, join(wifi::splitSurveyLine(std::string(line).data()).column))
-                << ::testing::PrintToString(line);
-        }
+    constexpr std::string_view kCharacters("\t\t\t\t15x \n\n\n\r\v\f\x01\x08\xff\0", 18);
+    const auto pieces = parts("Home&-5&" + std::string(50, 'y') + "&" + std::string(1000, 'z') +
+                              "&Home\t+7\t-123456789\tWPA2\tAES\tm\t1234567890\tn\tupper\t99999999999999999999\n"
+                              "&Home\t-2147483648\t--5\tWPA2\tAES \tm\t 007\tn\tupper\t12x"
+                              "&Home Net\tx\t-\tWPA2\tAES\tm\t5 6\tn\tupper\t\n1\n");
+    std::mt19937 random(3); // NOLINT: the same files in every run
+    for (int i = 0; i < 150; ++i) {
+        const std::string content = randomText(random, kCharacters, pieces, random() % 400);
+        putFile(kFile, content);
+        ASSERT_EQ(linesOf(content, 1000).size(), GetFileLineCnt(kFile)) << ::testing::PrintToString(content);
+        const char *filter = i % 3 == 0 ? "Home" : "";
+        const Result expected = readByScan(content, filter);
+        const Result result = read(filter);
+        ASSERT_EQ(expected.entries, result.entries) << ::testing::PrintToString(content);
+        ASSERT_EQ(expected.printed, result.printed) << ::testing::PrintToString(content);
+        takeConsole();
     }
-}
-
-TEST_F(Survey, ColumnsBecomeFields) {
-    const std::string longText(127, 't');
-    for (const char *number : {"0", "-65", "2437", "+7", "123456789", "1234567890", "-2147483648", "12x", "x", "-",
-                               "--5", "007", "5 6", "99999999999999999999"}) {
-        const wifi::SurveyLine line = {{longText.c_str(), number, number, "s", "e", "m", number, "p", "b", number}};
-        SiteSurveyEntry entry;
-        memset(&entry, 'x', sizeof(entry));
-        wifi::fillSurveyEntry(line, entry);
-        EXPECT_EQ(longText.substr(1), entry.ssid);
-        EXPECT_STREQ("s", entry.security);
-        EXPECT_STREQ("e", entry.encryption);
-        EXPECT_STREQ("m", entry.macaddr);
-        EXPECT_STREQ("p", entry.phymode);
-        EXPECT_STREQ("b", entry.sideband);
-        for (const int32_t value : {entry.channel, entry.rssi, entry.bandwidth, entry.product}) {
-            EXPECT_EQ(atoi(number), value) << number;
-        }
-    }
-}
-
-std::string line(const std::string &ssid, const std::string &encryption = "AES") {
-    return ssid + "\t6\t-60\tWPA2\t" + encryption + "\t00:11:22:33:44:55\t40\tn\tupper\t1\n";
-}
-
-struct Freed {
-    explicit Freed(SiteSurveyList &list) : entries(list.entries) {}
-    ~Freed() { free(entries); }
-    SiteSurveyEntry *entries;
-};
-
-TEST_F(Survey, ListAndReport) {
-    putFile(kFile, line("Home Net") + line("Office", "") + "\n" + line("Home2") + line("Home"));
-    const std::string start = tag("GetSiteSurveyList") + "START_FUNCTION \n";
-    SiteSurveyList list = {0, nullptr};
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(3, GetSiteSurveyList(kFile, &list, ""));
-    EXPECT_EQ("scan[1] ssid:Office channel:6 rssi:-60 security:WPA2 encryption:00:11:22:33:44:55 macaddr:40 "
-              "bandwidth:n phymode:upper sideband:1\n product:\n"
-              "scan[1] ssid:\n channel: rssi: security: encryption: macaddr: bandwidth: phymode: sideband: product:\n",
-              testing::internal::GetCapturedStdout());
-    const std::string invalid = tag("GetSiteSurveyList") + "invalid scan result entry\n";
-    EXPECT_EQ(start + invalid + invalid, console());
-    const Freed all(list);
-    EXPECT_STREQ("Home Net", list.entries[0].ssid);
-    EXPECT_EQ(1, list.entries[2].product); // the newline behind it does no harm
-
-    list = {0, nullptr};
-    putFile(kFile, line("Home2") + line("Home") + line("home") + line("Home"));
-    EXPECT_EQ(2, GetSiteSurveyList(kFile, &list, "Home"));
-    const Freed filtered(list);
-    EXPECT_STREQ("Home", list.entries[0].ssid);
 }
 
 TEST_F(Survey, LongLineNeverLeavesTheArray) {
-    // One line that is read in pieces, each of which is a whole entry.
-    std::string content;
+    const std::string entry = "s\t6\t-60\tWPA2\tAES\tm\t40\tn\tupper\t1";
+    std::string content; // one line that is read in pieces, each of which is a whole entry
     for (int i = 0; i < 5; ++i) {
-        const std::string entry = line("s");
-        content += std::string(127 - (entry.size() - 1), 'l') + entry.substr(0, entry.size() - 1);
+        content += std::string(127 - entry.size(), 'l') + entry;
     }
     putFile(kFile, content + "\n");
-    SiteSurveyList list = {0, nullptr};
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(1, GetSiteSurveyList(kFile, &list, ""));
-    testing::internal::GetCapturedStdout();
-    free(list.entries);
+    EXPECT_EQ(1, std::ranges::count(read("").entries, '\n'));
 }
 
-TEST_F(Survey, Failures) {
+TEST_F(Survey, ReportsAndFailures) {
     const std::string function = tag("GetSiteSurveyList");
-    const std::string start = function + "START_FUNCTION \n" + function;
+    const std::string start = function + "START_FUNCTION \n";
+    putFile(kFile, "Home\t6\t-60\tWPA2\t\t00:11:22:33:44:55\t40\tn\tupper\t1\n");
     SiteSurveyEntry untouched;
     SiteSurveyList list = {5, &untouched};
-    for (const char *path : {static_cast<const char *>(nullptr), ""}) {
+    for (const auto &[path, report] :
+         {std::pair<const char *, const char *>{nullptr, "s_file_path is invlid parameter \n"},
+          {"", "s_file_path is invlid parameter \n"},
+          {"/tmp/wlan_wave/none", "/tmp/wlan_wave/none does not exist of line count zero \n"}}) {
         EXPECT_EQ(5, GetSiteSurveyList(path, &list, ""));
-        EXPECT_EQ(start + "s_file_path is invlid parameter \n", console());
+        EXPECT_EQ(start + function + report, console());
+        EXPECT_EQ(0, GetFileLineCnt(path));
     }
-    EXPECT_EQ(5, GetSiteSurveyList("/tmp/wlan_wave/none", &list, ""));
-    EXPECT_EQ(start + "/tmp/wlan_wave/none does not exist of line count zero \n", console());
     EXPECT_EQ(&untouched, list.entries);
-
-    putFile(kFile, line("Home"));
     failOpen(2); // it vanishes once its lines are counted
     EXPECT_EQ(5, GetSiteSurveyList(kFile, &list, ""));
-    EXPECT_EQ(start + "/tmp/wlan_wave/%s_scan_by_User.result does not exist\n", console());
-    EXPECT_NE(&untouched, list.entries);
+    EXPECT_EQ(start + function + "/tmp/wlan_wave/%s_scan_by_User.result does not exist\n", console());
+    EXPECT_NE(&untouched, list.entries); // the caller's to free
     free(list.entries);
+    EXPECT_EQ("", read("").entries);
+    EXPECT_EQ(start + function + "invalid scan result entry\n", console());
 }
 
-TEST_F(Survey, LineCount) {
-    const std::pair<std::string, int> rows[] = {{"", 0},
-                                                {"a", 1},
-                                                {"a\n", 1},
-                                                {"\n\nb", 3},
-                                                {std::string(999, 'x'), 1},
-                                                {std::string(998, 'x') + "\n", 1},
-                                                {std::string(999, 'x') + "\n", 2},
-                                                {std::string(2000, 'x') + "\n", 3}};
-    for (const auto &[content, count] : rows) {
-        putFile(kFile, content);
-        EXPECT_EQ(count, GetFileLineCnt(kFile)) << content.size();
-    }
-    EXPECT_EQ(0, GetFileLineCnt(""));
-    EXPECT_EQ(0, GetFileLineCnt(nullptr));
-    EXPECT_EQ(0, GetFileLineCnt("/tmp/wlan_wave/none"));
-}
-
-TEST_F(Survey, Combine) {
+TEST_F(Survey, Files) {
     putFile("/tmp/wlan_wave/all", "1\n2\n3\n");
     EXPECT_EQ(3, CombineScanResultFiles("a b", "c", "/tmp/wlan_wave/all"));
     EXPECT_EQ(3, CombineScanResultFiles("", "c", "/tmp/wlan_wave/all"));
-    EXPECT_EQ((std::vector<std::string>{"cat a b > /tmp/wlan_wave/all; cat c >> /tmp/wlan_wave/all",
-                                        "cat  > /tmp/wlan_wave/all; cat c >> /tmp/wlan_wave/all"}),
-              shell().commands);
     EXPECT_EQ(0, CombineScanResultFiles(nullptr, "c", "d"));
     EXPECT_EQ(0, CombineScanResultFiles("a", "", "d"));
     EXPECT_EQ(0, CombineScanResultFiles("a", "c", ""));
-    EXPECT_EQ(2U, shell().commands.size());
-    CombineScanResultFiles(std::string(1100, 'x').c_str(), "c", "d");
-    EXPECT_EQ(1023U, shell().commands.back().size());
-}
-
-TEST_F(Survey, RemoveConfs) {
     removeFile("/opt/lantiq/wave/confs");
     EXPECT_EQ(0, Remove_Confs_File());
-    EXPECT_TRUE(shell().commands.empty());
     putFile("/opt/lantiq/wave/confs", "");
     EXPECT_EQ(0, Remove_Confs_File());
-    EXPECT_EQ(std::vector<std::string>{"rm -rf /opt/lantiq/wave/confs/*"}, shell().commands);
+    EXPECT_EQ((std::vector<std::string>{"cat a b > /tmp/wlan_wave/all; cat c >> /tmp/wlan_wave/all",
+                                        "cat  > /tmp/wlan_wave/all; cat c >> /tmp/wlan_wave/all",
+                                        "rm -rf /opt/lantiq/wave/confs/*"}),
+              shell().commands);
+    CombineScanResultFiles(std::string(1100, 'x').c_str(), "c", "d");
+    EXPECT_EQ(1023U, shell().commands.back().size());
 }
 
 } // namespace

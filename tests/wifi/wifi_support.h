@@ -5,10 +5,12 @@
 #include "device.h"
 #include "platform.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <memory>
 #include <random>
+#include <sstream>
 
 namespace test {
 
@@ -35,25 +37,45 @@ inline std::string console() {
     return withoutLines(takeConsole());
 }
 
-// `count` pieces taken at random, one behind the other.
-inline std::string randomText(std::mt19937 &random, const std::vector<std::string> &pieces, size_t count) {
+// The parts of a text that '&' separates.
+inline std::vector<std::string> parts(const std::string &text) {
+    std::vector<std::string> result;
+    std::istringstream stream(text);
+    for (std::string part; std::getline(stream, part, '&');) {
+        result.push_back(part);
+    }
+    return result;
+}
+
+// Rows "input=answer&input=answer": each input must get its answer.
+inline void expectEach(const std::string &rows, const std::function<std::string(const std::string &)> &answer) {
+    for (const std::string &row : parts(rows)) {
+        const size_t equals = row.find('=');
+        EXPECT_EQ(row.substr(equals + 1), answer(row.substr(0, equals))) << row;
+    }
+}
+
+// `count` of the characters and of the longer pieces, taken at random, one behind the other.
+inline std::string randomText(std::mt19937 &random, std::string_view characters, const std::vector<std::string> &pieces,
+                              size_t count) {
     std::string text;
-    for (size_t i = 0; i < count; ++i) {
-        text += pieces[random() % pieces.size()];
+    for (; count > 0; --count) {
+        const size_t choice = random() % (characters.size() + pieces.size());
+        text += choice < pieces.size() ? pieces[choice] : std::string(1, characters[choice - pieces.size()]);
     }
     return text;
 }
 
-// The texts that fgets() cuts out of a file with a buffer of 128 bytes.
-inline std::vector<std::string> linesOf(const std::string &content) {
+// The texts that fgets() cuts out of a file with a buffer of some size.
+inline std::vector<std::string> linesOf(std::string content, size_t size) {
     std::vector<std::string> lines;
-    if (content.empty()) {
-        return lines;
+    std::string line(size, '\0');
+    FILE *file = content.empty() ? nullptr : fmemopen(content.data(), content.size(), "r");
+    while (file && fgets(line.data(), static_cast<int>(size), file)) {
+        lines.emplace_back(line.c_str());
     }
-    const std::unique_ptr<FILE, int (*)(FILE *)> file(fmemopen(const_cast<char *>(content.data()), content.size(), "r"),
-                                                      fclose);
-    for (char line[128]; fgets(line, sizeof(line), file.get());) {
-        lines.emplace_back(line);
+    if (file) {
+        fclose(file);
     }
     return lines;
 }
