@@ -11,7 +11,9 @@
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
 #include <strings.h>
+#include <unistd.h>
 
 namespace by_hand {
 
@@ -22,6 +24,7 @@ inline constexpr uint32_t kMulti = 2;
 inline constexpr uint32_t kPlain = SOPT_OBJVALUE;
 inline constexpr uint32_t kMultiPlain = 0x1004;
 inline constexpr uint32_t kLeaf = 256;
+inline constexpr uint32_t kMultiLeaf = 0x1100;
 
 // Starts a message; false when memory is short.
 inline bool begin(MsgHeader &message, uint32_t mainOper, uint32_t listFlags, uint32_t owner) {
@@ -69,6 +72,20 @@ inline int getFiltered(MsgHeader &message, const char *path, const char *name, c
     }
     param(object(message, path), name, value);
     return locked(cal_getValue, message);
+}
+
+// Writes a console line.
+inline void print(const char *line, size_t length) {
+    const int console = open("/dev/console", O_RDWR);
+    if (console >= 0) {
+        [[maybe_unused]] const ssize_t written = write(console, line, length);
+        close(console);
+    }
+}
+
+template <size_t Size>
+void print(const char (&line)[Size]) {
+    print(line, Size - 1);
 }
 
 // The first four bytes of a name of at least three characters.
@@ -120,6 +137,12 @@ template <size_t Size>
 char *append(char *end, const char (&literal)[Size]) {
     memcpy(end, literal, Size);
     return end + Size - 1;
+}
+
+// A field's text, which has no terminator when it fills the field.
+template <size_t Size>
+char *appendField(char *end, const char (&field)[Size]) {
+    return static_cast<char *>(mempcpy(end, field, strnlen(field, Size)));
 }
 
 inline char *append(char *end, int value) {

@@ -2,7 +2,10 @@
 #include "check.h"
 
 #include "allocations.h"
+#include "console.h"
 #include "platform/platform.h"
+
+#include <regex>
 
 namespace bench {
 namespace {
@@ -11,14 +14,23 @@ struct Run {
     int code;
     std::string record;
     std::string calls;
+    std::string console;
     bool operator==(const Run &) const = default;
 };
+
+// The source lines that location tags name are free.
+std::string withoutSourceLines(const std::string &console) {
+    static const std::regex tag(R"((\[ZINTU VOLA FAL\] \([A-Za-z]+:)[0-9]+)");
+    return std::regex_replace(console, tag, "$1N");
+}
 
 Run record(const Page &page, Side side) {
     Run run;
     run.record.resize(page.recordSize);
     recordCalls(&run.calls);
+    startConsole();
     run.code = runOnce(page, side, run.record.data());
+    run.console = withoutSourceLines(takeConsole());
     recordCalls(nullptr);
     return run;
 }
@@ -46,6 +58,9 @@ std::string findFault(const Page &page) {
     }
     if (library.record != floor.record) {
         return "records differ";
+    }
+    if (library.console != floor.console && !floor.console.empty()) {
+        return "console lines differ; the library's:\n" + library.console + "\nthe floor's:\n" + floor.console;
     }
     const uint64_t allocations = costOf(page, page.library).allocations;
     return allocations == 0 ? "" : std::to_string(allocations) + " heap allocations";

@@ -18,8 +18,8 @@ struct Cost {
 // Measures a run after one that fills the pools.
 Cost costOf(const Page &page, Side side);
 
-// Compares code, record and platform calls of both sides, which must be equal, and looks for heap allocations of the
-// library's own; what is wrong, or "".
+// Compares code, record and platform calls of both sides, which must be equal, and the console lines of a floor that
+// writes any; looks for heap allocations of the library's own. What is wrong, or "".
 std::string findFault(const Page &page);
 
 } // namespace bench

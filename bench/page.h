@@ -22,6 +22,7 @@ struct Page {
     Side library;
     Side floor;
     double totalLimit = 1.05; // the most that the library may cost where the floor costs 1, the platform included
+    double ownLimit = 2.5;    // the most that its own work may be where the floor's is 1; 0 here or above: no limit
 };
 
 // All pages, in the order of their names.

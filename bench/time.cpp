@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// caltofal_bench: the time of each page, beside that of its floor.
+// caltofal_bench: the time of each page, beside that of its floor; that of reading surveys, beside a bare splitter.
 #include "check.h"
 #include "page.h"
 #include "platform/platform.h"
+#include "survey.h"
 
 #include <benchmark/benchmark.h>
 #include <map>
@@ -21,6 +22,24 @@ void run(benchmark::State &state, const Page &page, Side side) {
     state.counters["calls"] = static_cast<double>(cost.calls);
     state.counters["nodes"] = static_cast<double>(cost.nodes);
     state.counters["mallocs"] = static_cast<double>(cost.allocations);
+}
+
+void runSurvey(benchmark::State &state, const SurveyReader &reader, int lines) {
+    const SurveyFile file(lines);
+    for (auto _ : state) {
+        SurveyRun run(file);
+        benchmark::DoNotOptimize(reader.read(&run));
+    }
+}
+
+void registerSurveys() {
+    for (const int lines : {200, 20000}) {
+        for (const char *name : {"split", "scan", "library"}) {
+            const std::string row = "survey-" + std::to_string(lines) + '/' + name;
+            benchmark::RegisterBenchmark(row.c_str(), runSurvey, surveyReader(name), lines)
+                ->Unit(benchmark::kMicrosecond);
+        }
+    }
 }
 
 // Adds to each row the ratio of its time to that of the page's floor, which runs first.
@@ -52,6 +71,7 @@ int main(int argc, char **argv) {
             benchmark::RegisterBenchmark((page.name + name).c_str(), run, page, side)->Unit(benchmark::kMicrosecond);
         }
     }
+    registerSurveys();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;

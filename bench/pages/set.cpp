@@ -53,6 +53,13 @@ int floorPage(Record *record) {
     return record->code = code;
 }
 
-const bench::AddPage setPage(bench::page<libraryPage, floorPage>("set", kAnswers, bench::Growth::None));
+// Without limits: there is no answer to read, so that the request is all that the library's share is measured by.
+bench::Page setPage() {
+    bench::Page page = bench::page<libraryPage, floorPage>("set", kAnswers, bench::Growth::None);
+    page.totalLimit = page.ownLimit = 0;
+    return page;
+}
+
+const bench::AddPage added(setPage());
 
 } // namespace
