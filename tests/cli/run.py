@@ -5,66 +5,51 @@ caltofal-sandbox, by which requests are made to fail."""
 import json
 import os
 import re
+import subprocess
 import sys
 import unittest
 
 sys.dont_write_bytecode = True
 
-from cases import FAILURES, PAGES
-from tool import Tool, expected_file
+from cases import BOX_PAGES, BOX_VERBS, CONVERSIONS, FAILURES, PAGES
+from expect import check_examples, check_pages, every_page, write_pages
+from tool import HERE, Tool, expected_file
 
 tool = Tool(sys.argv[1], sys.argv[2])
-
-
-def every_page():
-    for gateway, commands in PAGES.items():
-        for command in commands:
-            for ending, options in ((".txt", []), (".json", ["--json"])):
-                yield gateway, command, ending, ["-g", gateway, *command.split(), *options]
-
-
-def update():
-    for gateway, command, ending, words in every_page():
-        result = tool.run(*words)
-        if result.code != 0 or result.err:
-            sys.exit(f"{' '.join(words)}: exit code {result.code}: {result.err}")
-        path = expected_file(gateway, command, ending)
-        os.makedirs(os.path.dirname(path), exist_ok=True)
-        with open(path, "wb") as file:
-            file.write(result.out)
 
 
 class Pages(unittest.TestCase):
     maxDiff = None
 
     def test_pages_are_as_expected(self):
-        for gateway, command, ending, words in every_page():
-            with self.subTest(" ".join(words)):
-                result = tool.run(*words)
-                with open(expected_file(gateway, command, ending), "rb") as file:
-                    self.assertEqual(result.out.decode(), file.read().decode())
-                self.assertEqual((result.code, result.err), (0, ""))
-                if ending == ".json":
-                    json.loads(result.out)
+        check_pages(self, tool, PAGES)
 
     def test_no_expected_file_is_left_over(self):
-        wanted = {expected_file(gateway, command, ending) for gateway, command, ending, _ in every_page()}
+        pages = [*every_page(PAGES), *every_page(BOX_PAGES)]
+        wanted = {expected_file(gateway, command, ending) for gateway, command, ending, _ in pages}
         folder = os.path.dirname(os.path.dirname(next(iter(wanted))))
         present = {os.path.join(place, name) for place, _, names in os.walk(folder) for name in names}
         self.assertEqual(present, wanted)
 
     def test_examples_of_the_help_work(self):
-        nouns = re.findall(r"^  ([a-z0-9-]+)  ", tool.run("--help").out.decode().split("Subcommands:")[1], re.M)
-        self.assertGreater(len(nouns), 15)
-        for noun in nouns:
-            text = tool.run(noun, "--help").out.decode()
-            examples = re.findall(r"^  caltofal (.+)$", text, re.M) + [""] * ("\n  caltofal\n" in text)
-            self.assertTrue(examples, noun)
-            folder = tool.folder()
-            for example in examples:
-                with self.subTest(example):
-                    result = tool.run(*example.split(), folder=folder)
-                    self.assertEqual((result.code, result.err), (0, ""))
+        self.assertGreater(check_examples(self, tool, lambda words: words not in BOX_VERBS, tool.folder()), 30)
+
+    def test_conversions(self):
+        for table, value, to, wanted in CONVERSIONS:
+            with self.subTest(f"{table} {value} --to {to}"):
+                self.assertEqual(tool.run("wifi", "convert", table, value, "--to", to).out.decode(), wanted + "\n")
+
+    def test_every_wifi_and_mesh_name_of_the_library_is_used(self):
+        symbols = subprocess.run(["nm", "-D", tool.executable], stdout=subprocess.PIPE, check=True).stdout.decode()
+        with open(os.path.join(HERE, "../../src/caltofal.map"), encoding="ascii") as file:
+            names = re.findall(r"^ +(\w+);", file.read(), re.M)
+        names = names[names.index("ZINTU_meshgrove_check_is_enabled"):]
+        self.assertGreater(len(names), 60)
+        self.assertEqual([name for name in names if not re.search(rf" {name}@", symbols)], [])
+
+    def test_escapes(self):
+        for value, wanted in (("it's", r"it'\''s"), ('a"b', r'a\"b'), ("\\", "\\\\"), ("", "")):
+            self.assertEqual(tool.run("wifi", "escape", value).out.decode(), wanted + "\n")
 
 
 class Failures(unittest.TestCase):
@@ -90,6 +75,15 @@ class Failures(unittest.TestCase):
                 self.assertIn("object", error)
                 if message:
                     self.assertEqual(f"caltofal: {error['message']}\n", plain.err)
+
+    def test_no_box_is_said_in_one_line(self):
+        for words in ("wifi stations wlan0", "mesh status"):
+            plain = tool.run(*words.split(), PATH="/nowhere")
+            self.assertEqual((plain.code, plain.out), (77, b""))
+            self.assertRegex(plain.err, r"^caltofal-sandbox: [^\n]*bwrap is not installed[^\n]*\n$")
+            as_json = tool.run(*words.split(), "--json", PATH="/nowhere")
+            self.assertEqual((as_json.code, as_json.out), (77, b""))
+            self.assertIn("bwrap is not installed", json.loads(as_json.err)["error"]["message"])
 
     def test_a_full_disk_is_a_failure(self):
         with open("/dev/full", "wb") as full:
@@ -152,6 +146,59 @@ class Changes(unittest.TestCase):
         self.assertEqual(self.run_tool("set", "Device.WiFi.SSID.1.SSID=12345678").code, 0)
         answer = json.loads(self.run_tool("get", "Device.WiFi.SSID.1", "SSID", "--json").out)
         self.assertEqual(answer, {"Device.WiFi.SSID.1": {"SSID": "12345678"}})
+
+
+class WifiChanges(unittest.TestCase):
+    """`wifi set`: a snapshot, a comparison, one message with what differs."""
+
+    def setUp(self):
+        self.folder = tool.folder()
+
+    def set(self, *words):
+        result = tool.run("wifi", "set", *words, "--json", "--trace", folder=self.folder)
+        self.assertEqual(result.code, 0, result.err)
+        answer = json.loads(result.out)
+        changes = {change["parameter"]: (change["from"], change["to"]) for change in answer["changes"]}
+        written = re.findall(r"^\[request\] (set|store) (.+) -> 0$", result.err, re.M)
+        self.assertEqual(answer["written"], bool(written))
+        return changes, written, result.err
+
+    def test_only_what_differs_is_written(self):
+        changes, written, _ = self.set("ssid", "1", "SSID=attic", "IsolationEnable=false", "ModeEnabled=WPA2-Personal",
+                                       "SSIDAdvertisementEnabled=false")
+        self.assertEqual(changes, {"SSID": ("VOLA Home", "attic"), "SSIDAdvertisementEnabled": (True, False)})
+        self.assertEqual(written, [("set", "Device.WiFi.SSID.1, Device.WiFi.AccessPoint.1")])
+        self.assertEqual(self.set("ssid", "1", "SSID=attic")[:2], ({}, []))
+        self.assertEqual(self.set("ssid", "1", "SSID=attic", "--force")[:2],
+                         ({"SSID": ("attic", "attic")}, [("set", "Device.WiFi.SSID.1")]))
+
+    def test_a_dry_run_and_a_stored_value_are_not_in_force(self):
+        changes, written, _ = self.set("radio", "1", "--ui", "OperatingChannelBandwidth=40", "TransmitPower=low",
+                                       "--dry-run")
+        self.assertEqual(changes, {"OperatingChannelBandwidth": ("20MHz", "40MHz"), "TransmitPower": (100, 25)})
+        self.assertEqual(written, [])
+        self.assertEqual(self.set("radio", "1", "Channel=11", "--db-only")[1], [("store", "Device.WiFi.Radio.1")])
+        changes, _, notes = self.set("radio", "1", "Channel=11", "--dry-run")
+        self.assertEqual(changes, {"Channel": (6, 11)})
+        self.assertIn("AutoChannelEnable is true", notes)
+        self.assertNotIn("AutoChannelEnable is true",
+                         self.set("radio", "1", "Channel=11", "AutoChannelEnable=false", "--dry-run")[2])
+
+    def test_an_ssid_may_be_any_bytes(self):
+        for ssid in (b"a'b\"c\\d$e`f", b"a\nb\x1b[31m", bytes(range(0xE0, 0x100)), "Gr\u00fc\u00dfe \u2602".encode(),
+                     b"x" * 32):
+            with self.subTest(ssid):
+                self.assertEqual(tool.run("wifi", "set", "ssid", "1", b"SSID=" + ssid, folder=self.folder).code, 0)
+                shown = tool.run("wifi", "ssid", "1", folder=self.folder).out
+                line = next(line for line in shown.split(b"\n") if line.startswith(b"SSID.1.SSID "))
+                self.assertNotRegex(shown, rb"[\x00-\x09\x0b-\x1f]")
+                found = json.loads(tool.run("wifi", "ssid", "1", "--json", folder=self.folder).out)
+                settings = found["settings"]["Device.WiFi.SSID.1"]
+                try:
+                    self.assertEqual((settings["SSID"], settings.get("SSID_hex")), (ssid.decode(), None))
+                except UnicodeDecodeError:
+                    self.assertEqual(settings["SSID_hex"], ssid.hex())
+                    self.assertIn(rb"\xe0\xe1", line)
 
 
 class FailedRequests(unittest.TestCase):
@@ -233,6 +280,6 @@ class Words(unittest.TestCase):
 
 if __name__ == "__main__":
     if sys.argv[3:] == ["--update"]:
-        update()
+        write_pages(tool, PAGES)
     else:
         unittest.main(argv=[sys.argv[0], *sys.argv[3:]])

@@ -5,6 +5,7 @@ import pty
 import re
 import subprocess
 import tempfile
+import time
 from dataclasses import dataclass
 
 HERE = os.path.dirname(os.path.abspath(__file__))
@@ -34,14 +35,14 @@ class Tool:
         kept = {name: os.environ[name] for name in ("PATH", "LSAN_OPTIONS", "ASAN_OPTIONS") if name in os.environ}
         return {**kept, "CALTOFAL_SANDBOX_DIR": folder or self.shared, "LC_ALL": "C.UTF-8", "TERM": "xterm"}
 
-    def run(self, *words, folder=None, stdout=subprocess.PIPE):
-        done = subprocess.run([self.executable, *words], env=self.environment(folder), stdin=subprocess.DEVNULL,
-                              stdout=stdout, stderr=subprocess.PIPE, timeout=60, check=False)
+    def run(self, *words, folder=None, stdout=subprocess.PIPE, **variables):
+        done = subprocess.run([self.executable, *words], env={**self.environment(folder), **variables},
+                              stdin=subprocess.DEVNULL, stdout=stdout, stderr=subprocess.PIPE, timeout=60, check=False)
         return Result(done.returncode, done.stdout, done.stderr.decode())
 
     def sandbox(self, *words, folder):
-        subprocess.run([self.sandbox_executable, *words], env=self.environment(folder), stdout=subprocess.DEVNULL,
-                       timeout=60, check=True)
+        return subprocess.run([self.sandbox_executable, *words], env=self.environment(folder), stdout=subprocess.PIPE,
+                              timeout=60, check=True).stdout
 
     def on_terminal(self, *words, **variables):
         """What the tool writes when its standard output is a terminal."""
@@ -58,6 +59,25 @@ class Tool:
             process.wait()
         os.close(ours)
         return text
+
+
+def interrupted(tool, words, number, delay, folder, terminal=False):
+    """The tool with a signal to its process group after a while, as a terminal's key sends it."""
+    ours, theirs = pty.openpty() if terminal else os.pipe()
+    with subprocess.Popen([tool.executable, *words], env=tool.environment(folder), stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE, stderr=theirs, start_new_session=True) as process:
+        os.close(theirs)
+        time.sleep(delay)
+        os.killpg(process.pid, number)
+        out = process.communicate(timeout=30)[0]
+        err = b""
+        try:
+            while chunk := os.read(ours, 65536):
+                err += chunk
+        except OSError:  # how a terminal ends
+            pass
+    os.close(ours)
+    return Result(process.returncode, out, err.decode())
 
 
 def expected_file(gateway, command, ending):

@@ -4,6 +4,7 @@
 
 #include "query.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,8 @@ const std::string &checkedPath(const std::string &path);
 // What a noun takes. The targets live until its Run is gone; `type` stands behind the name in the help.
 void addArgument(CLI::App &command, const char *name, std::string &target, const char *what);
 void addOptionalArgument(CLI::App &command, const char *name, std::string &target, const char *what);
+// Likewise; the result tells whether it was given, be it "".
+std::function<bool()> addCountedArgument(CLI::App &command, const char *name, std::string &target, const char *what);
 void addArguments(CLI::App &command, const char *name, std::vector<std::string> &target, const char *type,
                   const char *what);
 void addFlag(CLI::App &command, const char *name, bool &target, const char *what);

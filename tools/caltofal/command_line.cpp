@@ -1,33 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "command_line.h"
 
+#include "command.h"
 #include "failure.h"
 
 #include <CLI/CLI.hpp>
 #include <iostream>
 #include <memory>
-#include <sstream>
 
 namespace cli {
 namespace {
 
 constexpr const char *kExitCodes = R"(Data goes to standard output, words to standard error.
 Exit codes: 0 done, 1 failed, 2 wrong usage, 3 time out, 4 no gateway,
-            5 value refused (read-only, type, range), 10 no such object, parameter or match
+            5 value refused (read-only, type, range), 10 no such object, parameter or match,
+            77 no device box in this sandbox, 130 interrupted
 
 `caltofal NOUN --help` shows a noun's arguments and examples.)";
 
-std::string examplesOf(const Noun &noun) {
-    std::string result = "Examples:";
-    std::istringstream lines(noun.examples);
-    std::string line;
-    do {
-        line.clear();
-        std::getline(lines, line);
-        result += std::string("\n  caltofal ") + noun.name + (line.empty() ? "" : " ") + line;
-    } while (!lines.eof() && !lines.fail());
-    return result;
-}
+constexpr const char *kVerbMissing = "A subcommand is required"; // the parser's words
 
 void addCommonOptions(CLI::App &app, Options &options) {
     app.add_flag("--json", options.json, "Print JSON, errors too");
@@ -37,20 +28,33 @@ void addCommonOptions(CLI::App &app, Options &options) {
     app.set_help_flag("-h,--help", "Print this help");
 }
 
+// "wifi channels": the noun, and the verb where it has some.
+std::string chosenWords(const CLI::App &app) {
+    std::string words;
+    for (const CLI::App *command = &app; !command->get_subcommands().empty();) {
+        command = command->get_subcommands().front();
+        words += (words.empty() ? "" : " ") + command->get_name();
+    }
+    return words;
+}
+
 // The parser's words, with the culprit where it names none.
 std::string reasonOf(const CLI::App &app, const CLI::ParseError &error) {
-    const std::vector<CLI::App *> chosen = app.get_subcommands();
     const std::string message = std::string(error.what()).substr(0, std::string(error.what()).find('\n'));
-    if (!chosen.empty()) {
-        const std::string noun = chosen.front()->get_name();
-        return noun + ": " + message + "; see caltofal " + noun + " --help";
+    const bool missing = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError);
+    if (const std::string words = chosenWords(app); !words.empty()) {
+        const std::string verb = app.remaining(true).empty() ? "" : app.remaining(true).front();
+        if (missing && message == kVerbMissing) {
+            return words + ": " + (verb.empty() ? "what to do is missing" : "\"" + verb + "\" is no verb of it") +
+                   "; see caltofal " + words + " --help";
+        }
+        return words + ": " + message + "; see caltofal " + words + " --help";
     }
     const std::vector<std::string> rest = app.remaining();
     if (!rest.empty()) {
         return "\"" + rest.front() + "\" is neither a noun nor an option; see caltofal --help";
     }
-    const bool noNoun = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError);
-    return (noNoun ? "what to do is missing" : message) + "; see caltofal --help";
+    return (missing ? "what to do is missing" : message) + "; see caltofal --help";
 }
 
 } // namespace
@@ -61,13 +65,9 @@ Run parse(int argc, char **argv, Options &options) {
     app.require_subcommand(1);
     app.footer(kExitCodes);
     app.get_formatter()->column_width(26);
-    Run chosen;
+    const auto chosen = std::make_shared<Run>();
     for (const Noun *noun : nouns()) {
-        CLI::App *command = app.add_subcommand(noun->name, noun->summary);
-        command->fallthrough();
-        command->footer(examplesOf(*noun));
-        const Run run = noun->define(*command);
-        command->callback([&chosen, run] { chosen = run; });
+        addCommand(app, "caltofal", *noun, chosen);
     }
     try {
         app.parse(argc, argv);
@@ -77,7 +77,7 @@ Run parse(int argc, char **argv, Options &options) {
     } catch (const CLI::ParseError &error) {
         throw Usage(reasonOf(app, error));
     }
-    return chosen;
+    return *chosen;
 }
 
 } // namespace cli

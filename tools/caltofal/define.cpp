@@ -14,6 +14,11 @@ void addOptionalArgument(CLI::App &command, const char *name, std::string &targe
     command.add_option(name, target, what)->option_text(" ");
 }
 
+std::function<bool()> addCountedArgument(CLI::App &command, const char *name, std::string &target, const char *what) {
+    const CLI::Option *option = command.add_option(name, target, what)->option_text(" ");
+    return [option] { return option->count() > 0; };
+}
+
 void addArguments(CLI::App &command, const char *name, std::vector<std::string> &target, const char *type,
                   const char *what) {
     command.add_option(name, target, what)->required()->option_text(type);

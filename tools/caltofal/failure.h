@@ -15,6 +15,7 @@ enum class Exit {
     NoLayer = 4, // no gateway, or its store can not be used
     Refused = 5, // read-only, wrong type, out of range
     Absent = 10, // no such object, parameter or match
+    NoBox = 77,  // the sandbox's device box can not be entered here
 };
 
 // The message is one line that names the culprit.
@@ -38,6 +39,16 @@ class Failure : public std::runtime_error {
 class Usage : public Failure {
   public:
     explicit Usage(const std::string &message) : Failure(Exit::Usage, message) {}
+};
+
+// Ended by a signal that the command was waiting for beside its work.
+class Interrupted : public Failure {
+  public:
+    explicit Interrupted(int signal, const std::string &message)
+        : Failure(static_cast<Exit>(kExitSignal + signal), message) {}
+
+  private:
+    static constexpr int kExitSignal = 128;
 };
 
 } // namespace cli

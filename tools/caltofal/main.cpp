@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command_line.h"
 #include "console_capture.h"
+#include "device.h"
 #include "error.h"
 #include "request_log.h"
 #include "stdio_capture.h"
@@ -56,6 +57,7 @@ void runCommand(int argc, char **argv) {
 
 int main(int argc, char **argv) {
     setlocale(LC_CTYPE, "");
+    rememberCommandLine(argv, asksForJson(argc, argv));
     const auto failed = [&](const Failure &failure) {
         traceCollect();
         printError(failure, asksForJson(argc, argv));

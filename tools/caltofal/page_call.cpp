@@ -56,4 +56,14 @@ int ask(const std::function<int()> &call, const Expectation &expectation) {
     throw Failure(exitOf(result), expectation.absent + ": " + meaningOf(result), {}, result);
 }
 
+int askEvery(const std::function<int()> &call) {
+    const auto strict = [&] {
+        const size_t before = requests().size();
+        const int result = call();
+        const std::span<const Request> asked = requests().subspan(before);
+        return std::any_of(asked.begin(), asked.end(), [](const Request &one) { return one.code != 0; }) ? -1 : result;
+    };
+    return ask(strict, {"the library failed"});
+}
+
 } // namespace cli

@@ -23,4 +23,7 @@ struct Expectation {
 // What `call` answers; throws a Failure when it is negative and not tolerated.
 int ask(const std::function<int()> &call, const Expectation &expectation);
 
+// Likewise for a function that hides a failed request behind what it found until then: each of its requests counts.
+int askEvery(const std::function<int()> &call);
+
 } // namespace cli

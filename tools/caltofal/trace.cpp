@@ -2,10 +2,11 @@
 #include "trace.h"
 
 #include "console_capture.h"
+#include "terminal.h"
 #include "words.h"
 
 #include <array>
-#include <iostream>
+#include <unistd.h>
 
 namespace cli {
 namespace {
@@ -13,12 +14,13 @@ namespace {
 constexpr std::array<std::string_view, 4> kTags = {"console", "stderr", "log", "request"};
 
 bool shown = false;
+int output = STDERR_FILENO;
 std::array<std::string, kTags.size()> unfinished;
 
 void show(std::string_view tag, std::string_view line) {
     const size_t start = line.find_first_not_of(" \t\r");
     if (start != std::string_view::npos) {
-        std::cerr << "[" << tag << "] " << printable(line.substr(start)) << std::endl;
+        writeAll(output, "[" + std::string(tag) + "] " + printable(line.substr(start)) + "\n");
     }
 }
 
@@ -26,6 +28,10 @@ void show(std::string_view tag, std::string_view line) {
 
 void showTrace() {
     shown = true;
+}
+
+void traceTo(int descriptor) {
+    output = descriptor;
 }
 
 bool traceShown() {

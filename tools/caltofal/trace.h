@@ -12,6 +12,9 @@ enum class Source { Console, Stderr, Log, Request };
 void showTrace();
 bool traceShown();
 
+// Where the lines go: standard error, unless told otherwise.
+void traceTo(int descriptor);
+
 // Adds a piece of text of a source, in the order in which the pieces were written.
 void traceText(Source source, std::string_view text);
 

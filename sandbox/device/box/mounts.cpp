@@ -65,7 +65,9 @@ void appendSystem(Arguments &arguments) {
 }
 
 void appendKernel(Arguments &arguments) {
-    append(arguments, {"--dir", "/proc/net/mtlk", "--proc", "/proc/.kernel", "--tmpfs", "/dev"});
+    // The init makes the other links of /proc, but needs this one from its first moment.
+    append(arguments, {"--dir", "/proc/net/mtlk", "--proc", "/proc/.kernel", "--symlink", ".kernel/self", "/proc/self",
+                       "--tmpfs", "/dev"});
     for (const char *device : kDevices) {
         append(arguments, {"--dev-bind-try", std::string("/dev/") + device, std::string("/dev/") + device});
     }

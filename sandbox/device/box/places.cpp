@@ -48,7 +48,7 @@ Places findPlaces() {
     places.prefix = own.parent_path().string();
     places.device = (own / CALTOFAL_DEVICE_FILES).lexically_normal().string();
     places.programs = (own / CALTOFAL_DEVICE_PROGRAMS).lexically_normal().string();
-    for (const std::string &part : {places.device, places.programs}) {
+    for (const std::string &part : {places.device, places.programs + "/caltofal-box-init"}) {
         if (!fs::exists(part)) {
             throw Obstacle(part + " is missing: install caltofal-sandbox as a whole");
         }

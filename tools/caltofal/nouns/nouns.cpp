@@ -7,7 +7,7 @@ std::span<const Noun *const> nouns() {
     static constexpr const Noun *kNouns[] = {
         &kStatusNoun, &kModeNoun, &kGatewayNoun,  &kWanNoun,  &kDnsNoun,  &kIpv6Noun,        &kDslNoun,
         &kAtmNoun,    &kLanNoun,  &kMultiWanNoun, &kIptvNoun, &kHostNoun, &kLowerLayersNoun, &kAddressNoun,
-        &kGetNoun,    &kSetNoun,  &kAddNoun,      &kDelNoun,  &kFindNoun,
+        &kGetNoun,    &kSetNoun,  &kAddNoun,      &kDelNoun,  &kFindNoun, &kWifiNoun,        &kMeshNoun,
     };
     return kNouns;
 }

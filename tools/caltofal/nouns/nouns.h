@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// All nouns; each is defined in the file of its name.
+// All nouns; each is defined in the file of its name, or in a directory of that name.
 #pragma once
 
 #include "noun.h"
@@ -25,5 +25,7 @@ extern const Noun kIptvNoun;
 extern const Noun kHostNoun;
 extern const Noun kLowerLayersNoun;
 extern const Noun kAddressNoun;
+extern const Noun kWifiNoun;
+extern const Noun kMeshNoun;
 
 } // namespace cli

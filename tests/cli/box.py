@@ -1,0 +1,113 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""box.py TOOL SANDBOX [--update | unittest arguments]: tests the commands that need the device box, or writes their
+expected output anew. Exit code 77 where there can be no box."""
+import json
+import os
+import signal
+import subprocess
+import sys
+import unittest
+
+sys.dont_write_bytecode = True
+
+from cases import BOX_PAGES, BOX_VERBS
+from expect import check_examples, check_pages, write_pages
+from tool import HERE, Tool, interrupted
+
+tool = Tool(sys.argv[1], sys.argv[2])
+QUICK = {"CALTOFAL_BOX_SCAN_MS": "50", "CALTOFAL_BOX_WPS_MS": "50"}
+
+
+class Box(unittest.TestCase):
+    maxDiff = None
+
+    def setUp(self):
+        self.folder = tool.folder()
+
+    def run_tool(self, *words, **variables):
+        return tool.run(*words, folder=self.folder, **variables)
+
+    def test_pages_are_as_expected(self):
+        check_pages(self, tool, BOX_PAGES, notes=True)
+
+    def test_examples_of_the_help_work(self):
+        self.assertEqual(check_examples(self, tool, lambda words: words in BOX_VERBS, self.folder), len(BOX_VERBS))
+        self.assertEqual(tool.sandbox("run", "-g", "mesh", "--", "gddbc", "-i", "-g", "/runtime/nimbord/pushes",
+                                      folder=self.folder), b"1\n", "one of the examples is a synchronisation")
+
+    def test_bad_tools_and_files(self):
+        """All in one box, by hostile.py."""
+        done = subprocess.run([tool.sandbox_executable, "run", "-b", HERE, "--", sys.executable,
+                               os.path.join(HERE, "hostile.py"), tool.executable], env=tool.environment(self.folder),
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=120, check=False)
+        self.assertEqual(done.returncode, 0, done.stdout.decode(errors="replace"))
+
+    def test_options_and_exit_codes_go_through(self):
+        result = self.run_tool("-g", "repeater", "wifi", "endpoint", "--json", "--trace")
+        self.assertEqual((result.code, json.loads(result.out)["peer"]), (0, "02:00:5E:10:01:01"))
+        self.assertIn("[request] get Device.WiFi.EndPoint.1, Device.WiFi.EndPoint.2 -> 0\n", result.err)
+        for words, code, message in (
+                ("wifi endpoint", 10, "no end point is enabled"),
+                ("wifi stations wlan9", 10, "wlan9: no SSID of the gateway is on that interface"),
+                ("wifi survey wlan2", 10, "wlan2 has no result; caltofal wifi scan wlan2 makes one"),
+                ("wifi stations wlan2 --mac 00:00:5e:00:53:99", 10, "00:00:5e:00:53:99 is no station of wlan2"),
+                ("mesh ip 02:00:5e:20:00:99", 10, "02:00:5e:20:00:99: no satellite and no host has that MAC address"),
+                ("wifi scan wlan2 --pace 1", 3, "the scan on wlan2 brought no result: is its radio on?")):
+            with self.subTest(words):
+                plain = self.run_tool(*words.split())
+                self.assertEqual((plain.code, plain.out, plain.err), (code, b"", f"caltofal: {message}\n"))
+
+    def test_a_stale_result_is_not_taken_for_a_new_one(self):
+        self.assertEqual(self.run_tool("wifi", "scan", "wlan0", "--pace", "10", **QUICK).code, 0)
+        stale = self.run_tool("wifi", "scan", "wlan0", "--pace", "1", CALTOFAL_BOX_SCAN_MS="5000")
+        self.assertEqual((stale.code, stale.out), (3, b""))
+
+    def test_wps(self):
+        def wps(*words, **variables):
+            result = self.run_tool("wifi", "wps", *words, **{**QUICK, **variables})
+            return result.code, result.out.decode() + result.err
+
+        self.assertEqual(wps("start", "--pace", "20"), (0, "Success\n"))
+        self.assertEqual(wps("cancel"), (0, "Success\ncaltofal: nothing was in progress\n"))
+        self.assertEqual(wps("reset"), (0, "Idle\n"))
+        self.assertEqual(wps("start", "--pace", "20", CALTOFAL_BOX_WPS="timeout"),
+                         (3, "caltofal: WPS: nobody pressed the button of the other device\n"))
+        self.assertEqual(wps("start", "--pace", "1", CALTOFAL_BOX_WPS_MS="5000"),
+                         (3, "caltofal: WPS is still in progress: caltofal wifi wps cancel ends it\n"))
+        for access_point in (1, 9):
+            self.run_tool("set", f"Device.WiFi.AccessPoint.{access_point}.WPS", "Enable=false")
+        self.assertEqual(wps("start", "--pace", "1"), (1, "caltofal: WPS: Failed\n"))
+
+    def test_a_key_ends_a_wait(self):
+        for words, number, message in (
+                ("wifi scan wlan0", signal.SIGINT, "interrupted: the scan on wlan0 goes on by itself"),
+                ("wifi wps start", signal.SIGINT, "interrupted: WPS cancelled"),
+                ("mesh sync -g mesh", signal.SIGTERM, "interrupted: the satellites take the settings all the same")):
+            with self.subTest(words):
+                result = interrupted(tool, words.split(), number, 1.5, self.folder)
+                self.assertEqual((result.code, result.out, result.err), (128 + number, b"", f"caltofal: {message}\n"))
+        on_terminal = interrupted(tool, ["wifi", "scan", "wlan0"], signal.SIGINT, 2, self.folder, terminal=True)
+        self.assertRegex(on_terminal.err, r"scanning on wlan0: 1 s\r\x1b\[Kcaltofal: interrupted: [^\r]+\r\n$")
+
+    def test_mesh_sync_does_nothing_where_nothing_is_to_do(self):
+        for steps, reason in (((), "the mesh is off"),
+                              (("mesh enable",), "no satellite is connected"),
+                              (("set Device.X_ZINTU_CurrentNetwork OperationMode=2",),
+                               "this gateway is not the master")):
+            for step in steps:
+                self.assertEqual(self.run_tool(*step.split()).code, 0, step)
+            result = self.run_tool("mesh", "sync", "--json")
+            self.assertEqual((result.code, json.loads(result.out)),
+                             (0, {"synced": False, "satellites": 0, "reason": reason}))
+
+
+if __name__ == "__main__":
+    check = subprocess.run([tool.sandbox_executable, "run", "--check"], env=tool.environment(None), check=False,
+                           stdout=subprocess.DEVNULL)
+    if check.returncode == 77:
+        sys.exit(77)
+    if sys.argv[3:] == ["--update"]:
+        write_pages(tool, BOX_PAGES, notes=True)
+    else:
+        unittest.main(argv=[sys.argv[0], *sys.argv[3:]])
