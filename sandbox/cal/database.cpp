@@ -12,6 +12,17 @@ namespace {
 constexpr std::chrono::microseconds kShortestNap(200);
 constexpr std::chrono::microseconds kNapGrowth(100); // with each attempt, fifty times
 
+// An unchanging file needs neither locks nor a log beside it.
+std::string unchangingUri(const std::string &file) {
+    std::string uri = "file:";
+    for (const char c : file) {
+        const bool special = c == '%' || c == '?' || c == '#';
+        uri += special ? "%" : "";
+        uri += special ? (c == '%' ? "25" : c == '?' ? "3f" : "23") : std::string(1, c);
+    }
+    return uri + "?immutable=1";
+}
+
 } // namespace
 
 bool DatabaseError::busy() const {
@@ -23,8 +34,12 @@ bool DatabaseError::noMemory() const {
 }
 
 Database::Database(const std::string &file, Open how, std::chrono::milliseconds patience) : patience_(patience) {
-    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (how == Open::New ? SQLITE_OPEN_CREATE : 0);
-    const int result = sqlite3_open_v2(file.c_str(), &handle_, flags, nullptr);
+    int flags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_READWRITE | (how == Open::New ? SQLITE_OPEN_CREATE : 0);
+    if (how == Open::Unchanging) {
+        flags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
+    }
+    const std::string name = how == Open::Unchanging ? unchangingUri(file) : file;
+    const int result = sqlite3_open_v2(name.c_str(), &handle_, flags, nullptr);
     if (result != SQLITE_OK) {
         const std::string message = handle_ ? sqlite3_errmsg(handle_) : sqlite3_errstr(result);
         sqlite3_close(handle_);

@@ -33,7 +33,8 @@ class DatabaseError : public std::runtime_error {
 // One connection; for one thread at a time.
 class Database {
   public:
-    enum class Open { Existing, New };
+    // Unchanging: a file that nobody can change, on a disk that is mounted for reading.
+    enum class Open { Existing, New, Unchanging };
 
     // Waits up to `patience` for other processes' locks. Throws DatabaseError.
     Database(const std::string &file, Open how, std::chrono::milliseconds patience);

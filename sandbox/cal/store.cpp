@@ -55,6 +55,19 @@ void makeDirectory(const std::string &directory) {
     }
 }
 
+// How to open a store that is there: on a disk that is mounted for reading, SQLite could not keep its log beside it.
+Database::Open howToOpen(const Location &location) {
+    if (access(location.directory.c_str(), W_OK) == 0 || errno != EROFS) {
+        return Database::Open::Existing;
+    }
+    const std::string log = location.storeFile() + "-wal";
+    struct stat status {};
+    if (stat(log.c_str(), &status) == 0 && status.st_size > 0) {
+        throw Refusal(CALTOFAL_STORE_FAILED, log + " holds changes that can not be taken in on a read-only disk");
+    }
+    return Database::Open::Unchanging;
+}
+
 // Keeps other processes from making or removing gateways in the directory, up to scope end.
 class DirectoryLock {
   public:
@@ -164,7 +177,7 @@ std::unique_ptr<Database> openStore(const Location &location) {
     if (!storeExists(location)) {
         createFromDemo(location);
     }
-    std::unique_ptr<Database> database = openDatabase(location.storeFile(), Database::Open::Existing);
+    std::unique_ptr<Database> database = openDatabase(location.storeFile(), howToOpen(location));
     // With a write-ahead log this loses nothing when a process dies, only when the machine does.
     database->execute("PRAGMA synchronous = NORMAL");
     checkSchema(*database, location.storeFile());
