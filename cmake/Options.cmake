@@ -9,6 +9,7 @@ if(NOT CALTOFAL_PLATFORM MATCHES "^(sandbox|system)$")
 endif()
 
 string(COMPARE EQUAL "${CALTOFAL_PLATFORM}" sandbox is_sandbox)
+option(CALTOFAL_TOOLS "Build the command-line tool" ON)
 option(CALTOFAL_TESTS "Build the tests" ${is_sandbox})
 option(CALTOFAL_BENCH "Build the benchmarks" OFF)
 
@@ -38,6 +39,8 @@ endif()
 # What optimising costs at build time is spent on the library; tests and tools spend theirs in the store.
 set(CMAKE_CXX_FLAGS_RELEASE "-O1 -DNDEBUG")
 set(CMAKE_C_FLAGS_RELEASE "-O1 -DNDEBUG")
+
+set(CALTOFAL_LIBRARY_FLAGS -O2 CACHE STRING "How a release build optimises the library; '-Os' where flash is dear")
 
 # Large headers of other libraries are parsed once a target instead of once a file.
 option(CALTOFAL_PRECOMPILE "Precompile the large headers of other libraries" ON)
