@@ -60,8 +60,12 @@ std::string realPath(const std::string &path) {
 
 void putFile(const std::string &path, const std::string &content) {
     const fs::path real = realPath(path);
-    fs::create_directories(real.parent_path());
-    std::ofstream(real, std::ios::binary) << content;
+    std::ofstream stream(real, std::ios::binary);
+    if (!stream) {
+        fs::create_directories(real.parent_path());
+        stream.open(real, std::ios::binary);
+    }
+    stream << content;
 }
 
 void removeFile(const std::string &path) {
@@ -152,7 +156,7 @@ FILE *popen(const char *command, const char *mode) {
         return real(command, mode);
     }
     const std::string output = shell().onPopen ? shell().onPopen(command) : "";
-    FILE *stream = tmpfile();
+    FILE *stream = fdopen(memfd_create("output", MFD_CLOEXEC), "w+");
     fwrite(output.data(), 1, output.size(), stream);
     rewind(stream);
     return stream;
@@ -163,7 +167,7 @@ int pclose(FILE *stream) {
     return shell().real ? real(stream) : fclose(stream);
 }
 
-void syslog(int priority, const char *format, ...) {
+[[gnu::format(printf, 2, 3)]] void syslog(int priority, const char *format, ...) {
     char line[512];
     va_list arguments;
     va_start(arguments, format);

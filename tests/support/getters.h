@@ -13,6 +13,8 @@ struct Getter {
     size_t leftMessages; // messages that it leaves unreleased on purpose
     // Calls it on records of its own; the result and what the records hold, as bytes.
     std::function<std::string()> run;
+    // How a failed test names it.
+    friend void PrintTo(const Getter &getter, std::ostream *out) { *out << getter.name; }
 };
 
 const std::vector<Getter> &getters();

@@ -169,8 +169,10 @@ int Platform::answer(const char *function, MsgHeader *message) {
         return sendCode_;
     }
     std::deque<Reply> &queue = replies_[call.objects.empty() ? "" : call.objects.back().name];
-    Reply reply = otherwise_;
-    if (!queue.empty()) {
+    Reply reply;
+    if (queue.empty()) {
+        reply = otherwise_();
+    } else {
         reply = queue.front();
         queue.pop_front();
     }

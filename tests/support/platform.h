@@ -6,6 +6,7 @@
 #include "caltofal.h"
 
 #include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <map>
 #include <mutex>
@@ -54,7 +55,10 @@ class Platform {
     void on(const std::string &object, Reply reply) { replies_[object].push_back(std::move(reply)); }
     void on(const std::string &object, std::vector<Object> objects) { on(object, Reply{0, std::move(objects)}); }
     // What every message without a queued reply gets.
-    void otherwise(Reply reply) { otherwise_ = std::move(reply); }
+    void otherwise(Reply reply) {
+        otherwiseAsk([reply = std::move(reply)] { return reply; });
+    }
+    void otherwiseAsk(std::function<Reply()> source) { otherwise_ = std::move(source); }
 
     // The n-th next allocation (1: the next) fails, and the n-th next message.
     void failAllocation(int n) { failAllocation_ = n; }
@@ -87,7 +91,7 @@ class Platform {
 
   private:
     std::map<std::string, std::deque<Reply>> replies_;
-    Reply otherwise_{CALTOFAL_ABSENT_OBJECT};
+    std::function<Reply()> otherwise_ = [] { return Reply{CALTOFAL_ABSENT_OBJECT}; };
     std::vector<Call> calls_;
     int failAllocation_ = 0, failSend_ = 0, sendCode_ = 0;
     int allocations_ = 0, releases_ = 0;

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+// Answers of the configuration layer into every function that asks it: objects and parameters out of the words that
+// the pages look for, or of any bytes.
+#include "getters.h"
+
+#include "fuzz.h"
+
+namespace {
+
+std::string anyText(fuzz::Bytes &bytes, const std::vector<std::string> &words, size_t room) {
+    const uint8_t choice = bytes.byte();
+    if (choice < words.size()) {
+        return words[choice];
+    }
+    std::string text = bytes.text(40);
+    return choice == 255 ? std::string(room - 1, text.empty() ? 'x' : text.front()) : text;
+}
+
+test::Reply answer(fuzz::Bytes &bytes) {
+    static const std::vector<std::string> objects = {"Device.IP.Interface.3",
+                                                     "Device.IP.Interface.3.IPv4Address.1",
+                                                     "Device.IP.Interface.3.IPv6Address.1",
+                                                     "Device.IP.Interface.3.IPv6Prefix.1",
+                                                     "Device.PPP.Interface.1",
+                                                     "Device.PPP.Interface.1.PPPoE",
+                                                     "Device.Ethernet.VLANTermination.1",
+                                                     "Device.Ethernet.Interface.1",
+                                                     "Device.Hosts.Host.3",
+                                                     "Device.DHCPv4.Server.Pool.1",
+                                                     "Device.DHCPv6.Client.1",
+                                                     "Device.Bridging.Bridge.2.Port.1",
+                                                     "Device.DNS.Client.Server.1",
+                                                     "Device.Routing.Router.1.IPv4Forwarding.1",
+                                                     "Device.ATM.Link.1",
+                                                     "Device.WiFi.SSID.1",
+                                                     "Device.WiFi.Radio.1.X_LANTIQ_COM_Vendor",
+                                                     "Device.WiFi.EndPoint.1",
+                                                     ""};
+    static const test::Reply rich = test::richAnswer();
+    test::Reply reply{static_cast<int8_t>(bytes.byte() < 240 ? 0 : bytes.byte())};
+    for (int count = bytes.byte() % 5; count > 0; --count) {
+        test::Object object = {anyText(bytes, objects, 256), {}};
+        for (int params = bytes.byte() % 8; params > 0; --params) {
+            const uint8_t row = bytes.byte();
+            const auto &known = rich.objects.front().params;
+            test::Param param = row < known.size() ? known[row] : test::Param{anyText(bytes, {}, 256), ""};
+            if (row >= known.size() || bytes.byte() % 2 == 0) {
+                param.value = anyText(bytes, {"", "1", "true", "Device.IP.Interface.3", "fe80::1"}, PARAM_VALUE_SIZE);
+            }
+            object.params.push_back(param);
+        }
+        reply.objects.push_back(object);
+    }
+    return reply;
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
+    fuzz::Bytes bytes(data, size);
+    fuzz::startOver();
+    const auto &getters = test::getters();
+    const test::Getter &getter = getters[bytes.byte() % getters.size()];
+    test::platform().otherwiseAsk([&] { return answer(bytes); });
+    test::shell().onPopen = [&](const std::string &) { return bytes.text(200); };
+    getter.run();
+    fuzz::require(getter.leftMessages > 0 ? test::platform().heads() <= getter.leftMessages
+                                          : test::platform().nodes() == 0,
+                  "a message was left unreleased");
+    return 0;
+}
