@@ -1,0 +1,189 @@
+# SPDX-License-Identifier: MIT
+# Bash completion of caltofal(1) and caltofal-sandbox(1). Nouns, verbs, options and their words come from the programs'
+# own help, gateways and objects from the sandbox or the device: nothing here needs to follow them.
+# shellcheck shell=bash
+
+# _caltofal_commands PROGRAM [NOUN...]: what can follow, one a line
+_caltofal_commands() {
+    "$@" --help 2>/dev/null | sed -n '/^Subcommands:/,/^$/s/^  \([a-z][a-z0-9-]*\).*/\1/p'
+}
+
+# _caltofal_options PROGRAM [NOUN...]: a line for each option, with the word for its argument if it takes one
+_caltofal_options() {
+    "$@" --help 2>/dev/null | sed -nE 's/^  ((-[a-z]),)?(--[a-z0-9-]+)( ([^ ]+))?( .*)?$/\3 \5\n\2 \5/p' | grep -e '^-'
+}
+
+# _caltofal_argument OPTION PROGRAM [NOUN...]: the word for the option's argument; options before the noun go as well
+_caltofal_argument() {
+    { _caltofal_options "${@:2}"; _caltofal_options "$2"; } |
+        awk -v option="$1" '$1 == option { print $2; exit }'
+}
+
+# _caltofal_positional N PROGRAM [NOUN...]: the help's word for the n-th argument that is no option, from 0
+_caltofal_positional() {
+    "${@:2}" --help 2>/dev/null | sed -n '/^Positionals:/,/^$/s/^  \([A-Z][A-Z]*\).*/\1/p' | sed -n "$(($1 + 1))p"
+}
+
+# _caltofal_gateways PROGRAM: caltofal-sandbox lies beside it
+_caltofal_gateways() {
+    local sandbox=caltofal-sandbox
+    [[ $1 == */* ]] && sandbox=${1%/*}/caltofal-sandbox
+    "$sandbox" list 2>/dev/null | sed -E 's/^. ([^ ]+).*/\1/'
+}
+
+# _caltofal_parameters PROGRAM GATEWAY-OPTIONS... OBJECT: the paths of all parameters at or below an object
+_caltofal_parameters() {
+    if [[ ${1##*/} == caltofal-sandbox ]]; then
+        "${@:1:$#-1}" export --format csv "" "${@: -1}" 2>/dev/null | sed -n 's/^\(Device[^,{]*[^,{.]\),.*/\1/p'
+    else
+        "${@:1:$#-1}" get "${@: -1}" 2>/dev/null | sed -n 's/^\(Device[^ ]*\).*/\1/p'
+    fi
+}
+
+# _caltofal_paths CURRENT PROGRAM GATEWAY-OPTIONS...: paths that go one component further than the current word
+_caltofal_paths() {
+    local base=${1%.*}.
+    if [[ $1 != Device.* ]]; then
+        echo Device.
+        return
+    fi
+    _caltofal_parameters "${@:2}" "$base" | sed -nE "s/^(${base//./\\.}[^.]+\.?).*/\1/p" 2>/dev/null | sort -u
+}
+
+# _caltofal_names OBJECT PROGRAM GATEWAY-OPTIONS...: the names of the object's own parameters, or of its instances'
+_caltofal_names() {
+    local object=${1%.}
+    _caltofal_parameters "${@:2}" "$object." |
+        sed -nE "s/^${object//./\\.}\.([0-9]+\.)?([^.]+)$/\2/p" 2>/dev/null | sort -u
+}
+
+# _caltofal_reply CURRENT WORD...: the words that begin like the current one; a path or NAME= goes on without a blank
+_caltofal_reply() {
+    local word
+    COMPREPLY=()
+    for word in "${@:2}"; do
+        if [[ $word == "$1"* ]]; then
+            COMPREPLY+=("$word")
+        fi
+    done
+    if [[ ${#COMPREPLY[@]} -eq 1 && ${COMPREPLY[0]} == *[.=] ]]; then
+        compopt -o nospace 2>/dev/null
+    fi
+}
+
+_caltofal_files() {
+    compopt -o filenames 2>/dev/null
+    mapfile -t COMPREPLY < <(compgen "$2" -- "$1")
+}
+
+# _caltofal_option_values CURRENT OPTION KIND PROGRAM [NOUN...]: KIND is the help's word for the argument
+_caltofal_option_values() {
+    local words
+    case $2:$3 in
+        -g:* | --gateway:*) words=$(_caltofal_gateways "$4") ;;
+        *:*"{"*) words=${3#*"{"} && words=${words%"}"*} && words=${words//,/ } ;;
+        --code:*) words=$("${@:4}" --help | sed -n 's/^  -[0-9]*  \([a-z-]*\):.*/\1/p') ;;
+        *:DEMO*) words="$(_caltofal_gateways "$4") $(compgen -f -- "$1")" ;;
+        *:[a-z]*\|*) words=${3//|/ } ;;
+        *:DIRECTORY*) _caltofal_files "$1" -d && return ;;
+        *) return ;;
+    esac
+    # shellcheck disable=SC2086 # words it is
+    _caltofal_reply "$1" $words
+}
+
+# _caltofal_objects CURRENT SUFFIX LAST-OBJECT PROGRAM GATEWAY-OPTIONS...: an object, or a parameter of the last one
+_caltofal_objects() {
+    local words
+    words=$(_caltofal_paths "$1" "${@:4}")
+    if [[ -n $3 && $1 != Device.* ]]; then
+        words+=" $(_caltofal_names "$3" "${@:4}" | sed "s/\$/$2/")"
+    fi
+    # shellcheck disable=SC2086
+    _caltofal_reply "$1" $words
+}
+
+# The functions below share the variables of _caltofal.
+
+# _caltofal_read WORD...: takes the words before the current one apart
+_caltofal_read() {
+    local word
+    for word in "$@"; do
+        if [[ -n $option ]]; then
+            [[ $option == -g || $option == --gateway ]] && gateway=(-g "$word")
+            option=""
+        elif [[ $word == -- ]]; then
+            given+=(--)
+        elif [[ $word == -* ]]; then
+            kind=$(_caltofal_argument "$word" "${command[@]}")
+            option=${kind:+$word}
+        elif [[ ${#given[@]} -eq 0 ]] && _caltofal_commands "${command[@]}" | grep -qx -e "$word"; then
+            command+=("$word")
+        else
+            given+=("$word")
+            [[ $word == Device.* ]] && object=$word
+        fi
+    done
+}
+
+# What can stand where no option and no verb can.
+_caltofal_place() {
+    case ${program##*/}:${command[*]:1}:${#given[@]} in
+        caltofal-sandbox:import:0 | caltofal-sandbox:export:0 | caltofal-sandbox:boot:0 | caltofal-sandbox:path:0 | \
+            caltofal-sandbox:remove:0 | caltofal-sandbox:diff:[01])
+            # shellcheck disable=SC2046
+            _caltofal_reply "$current" $(_caltofal_gateways "$program") ;;
+        caltofal-sandbox:import:1) _caltofal_files "$current" -f ;;
+        caltofal-sandbox:export:1) _caltofal_objects "$current" "" "" "$program" -g "${given[0]}" ;;
+        "caltofal-sandbox:fault add:0")
+            # shellcheck disable=SC2046
+            _caltofal_reply "$current" any $(_caltofal_paths "$current" "$program" "${gateway[@]}") ;;
+        caltofal:set:* | caltofal:add:*) _caltofal_objects "$current" = "$object" "$program" "${gateway[@]}" ;;
+        caltofal:get:* | caltofal:del:* | caltofal:find:* | caltofal:lower-layers:0 | caltofal:dns:0)
+            _caltofal_objects "$current" "" "$object" "$program" "${gateway[@]}" ;;
+        "caltofal:wifi set:0") _caltofal_reply "$current" ssid radio ;;
+        "caltofal:wifi set:1") ;;
+        "caltofal:wifi set:"*)
+            # shellcheck disable=SC2046
+            _caltofal_reply "$current" $("$program" "${gateway[@]}" wifi "${given[@]:0:2}" 2>/dev/null |
+                sed '1d; s/ .*/=/; s/.*\.//' | sort -u) ;;
+        "caltofal:wifi convert:0")
+            # shellcheck disable=SC2046
+            _caltofal_reply "$current" $("$program" wifi convert 2>/dev/null | sed 's/ .*//') ;;
+        *)
+            if [[ $(_caltofal_positional ${#given[@]} "${command[@]}") == INTERFACE ]]; then
+                # shellcheck disable=SC2046
+                _caltofal_reply "$current" $("$program" "${gateway[@]}" get Device.WiFi.SSID Name --values 2>/dev/null)
+            fi ;;
+    esac
+}
+
+# The shell sets COMP_WORDS and COMP_CWORD and takes COMPREPLY.
+_caltofal() {
+    local program=${COMP_WORDS[0]/#\~/$HOME} current=${COMP_WORDS[COMP_CWORD]}
+    local -a command=("$program") given=() gateway=() verbs=() # noun and verb; other words; -g NAME
+    local option="" kind="" object=""                          # an option that wants its word; the last Device.
+    COMPREPLY=()
+    _caltofal_read "${COMP_WORDS[@]:1:COMP_CWORD-1}"
+    [[ ${#given[@]} -eq 0 ]] && mapfile -t verbs < <(_caltofal_commands "${command[@]}")
+
+    # shellcheck disable=SC2046
+    if [[ $current == "=" || ${COMP_WORDS[COMP_CWORD - 1]} == "=" ]]; then
+        return # a value
+    elif [[ $option == --where ]]; then
+        _caltofal_reply "$current" $(_caltofal_names "$object" "$program" "${gateway[@]}" | sed 's/$/=/')
+    elif [[ -n $option ]]; then
+        _caltofal_option_values "$current" "$option" "$kind" "${command[@]}"
+    elif [[ ${given[0]:-} == -- ]]; then
+        _caltofal_files "$current" "$([[ ${#given[@]} -eq 1 ]] && echo -c || echo -f)"
+    elif [[ $current == -* ]]; then
+        _caltofal_reply "$current" $({ _caltofal_options "${command[@]}"; _caltofal_options "$program"; } |
+            sed 's/ .*//' | sort -u)
+    elif [[ ${#verbs[@]} -gt 0 ]]; then
+        _caltofal_reply "$current" "${verbs[@]}"
+    else
+        _caltofal_place
+    fi
+}
+
+complete -F _caltofal caltofal caltofal-sandbox
