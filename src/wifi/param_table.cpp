@@ -3,6 +3,8 @@
 
 #include "field.h"
 
+#include <cstring>
+
 using namespace wifi;
 
 namespace wifi {
@@ -25,5 +27,9 @@ int SetParam(WifiParamTable *table, const char *object, const char *parameter, c
     if (!table || !object || !parameter || !value) {
         return -1;
     }
-    return appendRow(*table, object, parameter, value) ? 0 : -1;
+    // What would be cut off is not read: a field of another record may lack its terminator.
+    const bool appended = appendRow(*table, {object, strnlen(object, sizeof(WifiParamRow::object))},
+                                    {parameter, strnlen(parameter, sizeof(WifiParamRow::parameter))},
+                                    {value, strnlen(value, sizeof(WifiParamRow::value))});
+    return appended ? 0 : -1;
 }

@@ -49,6 +49,9 @@ class Box(unittest.TestCase):
         self.assertIn("[request] get Device.WiFi.EndPoint.1, Device.WiFi.EndPoint.2 -> 0\n", result.err)
         for words, code, message in (
                 ("wifi endpoint", 10, "no end point is enabled"),
+                ("wifi endpoint wlan0", 10, "wlan0 is no end point"),
+                ("wifi scan wlan0 --ssid nope --pace 20", 10, 'the network "nope" was not found'),
+                ("wifi survey --ssid nope", 10, 'the network "nope" was not found'),
                 ("wifi stations wlan9", 10, "wlan9: no SSID of the gateway is on that interface"),
                 ("wifi survey wlan2", 10, "wlan2 has no result; caltofal wifi scan wlan2 makes one"),
                 ("wifi stations wlan2 --mac 00:00:5e:00:53:99", 10, "00:00:5e:00:53:99 is no station of wlan2"),
@@ -87,8 +90,23 @@ class Box(unittest.TestCase):
             with self.subTest(words):
                 result = interrupted(tool, words.split(), number, 1.5, self.folder)
                 self.assertEqual((result.code, result.out, result.err), (128 + number, b"", f"caltofal: {message}\n"))
+        for delay in (0.03, 0.06, 0.1, 0.15, 0.2, 0.3, 0.4, 1.5):
+            for number, send in ((signal.SIGINT, os.killpg), (signal.SIGHUP, os.kill), (signal.SIGQUIT, os.kill)):
+                with self.subTest(f"{number} after {delay} s"):
+                    result = interrupted(tool, ["wifi", "wps", "start", "--json"], number, delay, self.folder,
+                                         send=send)
+                    self.assertEqual((result.code, result.out), (128 + number, b""), result.err)
+                    self.assertEqual(json.loads(result.err)["error"]["exit"], 128 + number)
         on_terminal = interrupted(tool, ["wifi", "scan", "wlan0"], signal.SIGINT, 2, self.folder, terminal=True)
         self.assertRegex(on_terminal.err, r"scanning on wlan0: 1 s\r\x1b\[Kcaltofal: interrupted: [^\r]+\r\n$")
+
+    def test_one_scan_at_a_time(self):
+        words = [tool.executable, "wifi", "scan", "wlan0", "--pace", "20"]
+        scans = [subprocess.Popen(words, env=tool.environment(self.folder), stdout=subprocess.PIPE,
+                                  stderr=subprocess.PIPE) for _ in range(2)]
+        ends = sorted((scan.communicate(timeout=60)[1], scan.returncode) for scan in scans)
+        self.assertEqual(ends[1], (b"caltofal: another scan on wlan0 is under way\n", 1))
+        self.assertEqual(ends[0][1], 0)
 
     def test_mesh_sync_does_nothing_where_nothing_is_to_do(self):
         for steps, reason in (((), "the mesh is off"),

@@ -6,7 +6,8 @@ import re
 
 from tool import expected_file
 
-FORMS = ((".txt", []), (".json", ["--json"]))
+ENDINGS = os.environ.get("CALTOFAL_TEST_FORMS", ".txt .json").split()
+FORMS = [form for form in ((".txt", []), (".json", ["--json"])) if form[0] in ENDINGS]
 
 
 def every_page(pages):

@@ -85,10 +85,15 @@ class Failures(unittest.TestCase):
             self.assertEqual((as_json.code, as_json.out), (77, b""))
             self.assertIn("bwrap is not installed", json.loads(as_json.err)["error"]["message"])
 
-    def test_a_full_disk_is_a_failure(self):
-        with open("/dev/full", "wb") as full:
-            result = tool.run("mode", stdout=full)
-        self.assertEqual((result.code, result.err), (1, "caltofal: standard output can not be written\n"))
+    def test_a_full_disk_and_a_closed_stream_are_failures(self):
+        for words in ("mode", "--help", "--version", "wifi ssids --json"):
+            with open("/dev/full", "wb") as full:
+                result = tool.run(*words.split(), stdout=full)
+            closed = subprocess.run(["sh", "-c", f'"$0" {words} >&-', tool.executable], env=tool.environment(None),
+                                    stderr=subprocess.PIPE, check=False)
+            self.assertEqual((result.code, closed.returncode), (1, 1), words)
+            self.assertIn("standard output can not be written", result.err)
+            self.assertIn(b"standard output can not be written", closed.stderr)
 
 
 class Changes(unittest.TestCase):
@@ -169,6 +174,8 @@ class WifiChanges(unittest.TestCase):
         self.assertEqual(changes, {"SSID": ("VOLA Home", "attic"), "SSIDAdvertisementEnabled": (True, False)})
         self.assertEqual(written, [("set", "Device.WiFi.SSID.1, Device.WiFi.AccessPoint.1")])
         self.assertEqual(self.set("ssid", "1", "SSID=attic")[:2], ({}, []))
+        self.assertEqual(self.set("ssid", "1", "AccessPoint.1.IsolationEnable=0", "Device.WiFi.SSID.1.Enable=True",
+                                  "RekeyingInterval=+01800")[:2], ({}, []))
         self.assertEqual(self.set("ssid", "1", "SSID=attic", "--force")[:2],
                          ({"SSID": ("attic", "attic")}, [("set", "Device.WiFi.SSID.1")]))
 
@@ -178,6 +185,8 @@ class WifiChanges(unittest.TestCase):
         self.assertEqual(changes, {"OperatingChannelBandwidth": ("20MHz", "40MHz"), "TransmitPower": (100, 25)})
         self.assertEqual(written, [])
         self.assertEqual(self.set("radio", "1", "Channel=11", "--db-only")[1], [("store", "Device.WiFi.Radio.1")])
+        self.assertEqual(self.set("radio", "1", "Channel=06", "--db-only")[:2],
+                         ({"Channel": (6, 6)}, [("store", "Device.WiFi.Radio.1")]), "takes the stored 11 back")
         changes, _, notes = self.set("radio", "1", "Channel=11", "--dry-run")
         self.assertEqual(changes, {"Channel": (6, 11)})
         self.assertIn("AutoChannelEnable is true", notes)
@@ -186,12 +195,12 @@ class WifiChanges(unittest.TestCase):
 
     def test_an_ssid_may_be_any_bytes(self):
         for ssid in (b"a'b\"c\\d$e`f", b"a\nb\x1b[31m", bytes(range(0xE0, 0x100)), "Gr\u00fc\u00dfe \u2602".encode(),
-                     b"x" * 32):
+                     b"x" * 32, "\u202e\u009b\u2068".encode()):
             with self.subTest(ssid):
                 self.assertEqual(tool.run("wifi", "set", "ssid", "1", b"SSID=" + ssid, folder=self.folder).code, 0)
                 shown = tool.run("wifi", "ssid", "1", folder=self.folder).out
                 line = next(line for line in shown.split(b"\n") if line.startswith(b"SSID.1.SSID "))
-                self.assertNotRegex(shown, rb"[\x00-\x09\x0b-\x1f]")
+                self.assertNotRegex(shown, rb"[\x00-\x09\x0b-\x1f]|\xe2\x80[\x8b-\x8f\xaa-\xae]|\xc2[\x80-\x9f]")
                 found = json.loads(tool.run("wifi", "ssid", "1", "--json", folder=self.folder).out)
                 settings = found["settings"]["Device.WiFi.SSID.1"]
                 try:

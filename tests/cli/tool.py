@@ -3,10 +3,15 @@
 import os
 import pty
 import re
+import signal
 import subprocess
 import tempfile
 import time
 from dataclasses import dataclass
+
+# The tool leaves alone what its caller ignores; whoever starts the tests may ignore some (nohup, a job in the background).
+for _signal in (signal.SIGHUP, signal.SIGINT, signal.SIGQUIT, signal.SIGTERM):
+    signal.signal(_signal, signal.SIG_DFL)
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 
@@ -61,14 +66,14 @@ class Tool:
         return text
 
 
-def interrupted(tool, words, number, delay, folder, terminal=False):
-    """The tool with a signal to its process group after a while, as a terminal's key sends it."""
+def interrupted(tool, words, number, delay, folder, terminal=False, send=os.killpg):
+    """The tool with a signal after a while: to its process group as a terminal's key sends it, or with os.kill."""
     ours, theirs = pty.openpty() if terminal else os.pipe()
     with subprocess.Popen([tool.executable, *words], env=tool.environment(folder), stdin=subprocess.DEVNULL,
                           stdout=subprocess.PIPE, stderr=theirs, start_new_session=True) as process:
         os.close(theirs)
         time.sleep(delay)
-        os.killpg(process.pid, number)
+        send(process.pid, number)
         out = process.communicate(timeout=30)[0]
         err = b""
         try:

@@ -26,8 +26,12 @@ Parameter assignment(const std::string &word);
 // Throws Usage when a path is empty or too long for a message.
 const std::string &checkedPath(const std::string &path);
 
+// A check of an argument or option: why it can not be, "" where it can.
+std::string notEmpty(const std::string &value);
+
 // What a noun takes. The targets live until its Run is gone; `type` stands behind the name in the help.
 void addArgument(CLI::App &command, const char *name, std::string &target, const char *what);
+// The optional ones, and options, are not empty.
 void addOptionalArgument(CLI::App &command, const char *name, std::string &target, const char *what);
 // Likewise; the result tells whether it was given, be it "".
 std::function<bool()> addCountedArgument(CLI::App &command, const char *name, std::string &target, const char *what);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "command_line.h"
 
+#include "arguments.h"
 #include "command.h"
 #include "failure.h"
 
@@ -14,7 +15,7 @@ namespace {
 constexpr const char *kExitCodes = R"(Data goes to standard output, words to standard error.
 Exit codes: 0 done, 1 failed, 2 wrong usage, 3 time out, 4 no gateway,
             5 value refused (read-only, type, range), 10 no such object, parameter or match,
-            77 no device box in this sandbox, 130 interrupted
+            77 no device box in this sandbox, 128 + N ended by signal N
 
 `caltofal NOUN --help` shows a noun's arguments and examples.)";
 
@@ -23,7 +24,9 @@ constexpr const char *kVerbMissing = "A subcommand is required"; // the parser's
 void addCommonOptions(CLI::App &app, Options &options) {
     app.add_flag("--json", options.json, "Print JSON, errors too");
     app.add_flag("--trace", options.trace, "Show what the library prints, and its requests, on standard error");
-    app.add_option("-g,--gateway", options.gateway, "The sandbox's gateway to talk to")->type_name("NAME");
+    app.add_option("-g,--gateway", options.gateway, "The sandbox's gateway to talk to")
+        ->type_name("NAME")
+        ->check(notEmpty);
     app.set_version_flag("--version", std::string("caltofal ") + CALTOFAL_VERSION, "Print the version");
     app.set_help_flag("-h,--help", "Print this help");
 }
@@ -73,6 +76,7 @@ Run parse(int argc, char **argv, Options &options) {
         app.parse(argc, argv);
     } catch (const CLI::Success &success) {
         app.exit(success, std::cout, std::cerr);
+        flushOutput();
         return {};
     } catch (const CLI::ParseError &error) {
         throw Usage(reasonOf(app, error));

@@ -6,12 +6,16 @@
 
 namespace cli {
 
+std::string notEmpty(const std::string &value) {
+    return value.empty() ? "is empty" : "";
+}
+
 void addArgument(CLI::App &command, const char *name, std::string &target, const char *what) {
     command.add_option(name, target, what)->required()->option_text(" ");
 }
 
 void addOptionalArgument(CLI::App &command, const char *name, std::string &target, const char *what) {
-    command.add_option(name, target, what)->option_text(" ");
+    command.add_option(name, target, what)->option_text(" ")->check(notEmpty);
 }
 
 std::function<bool()> addCountedArgument(CLI::App &command, const char *name, std::string &target, const char *what) {
@@ -29,7 +33,7 @@ void addFlag(CLI::App &command, const char *name, bool &target, const char *what
 }
 
 void addOption(CLI::App &command, const char *name, std::string &target, const char *type, const char *what) {
-    command.add_option(name, target, what)->type_name(type);
+    command.add_option(name, target, what)->type_name(type)->check(notEmpty);
 }
 
 void addOption(CLI::App &command, const char *name, std::vector<std::string> &target, const char *type,

@@ -5,6 +5,7 @@
 #include "query.h"
 #include "request_log.h"
 #include "shell_output.h"
+#include "signals.h"
 
 #include <array>
 #include <cerrno>
@@ -119,8 +120,12 @@ void needDevice() {
     for (char **word = commandLine.words + 1; *word; ++word) {
         words.emplace_back(*word);
     }
+    setenv("CALTOFAL_BOX_HOLD_SIGNALS", "1", 1); // until the tool watches them in the box
+    holdSignals(true);
     become(words);
-    throw Failure(Exit::NoBox, std::string(kSandbox) + " can not be started: " + strerror(errno));
+    const int error = errno;
+    holdSignals(false);
+    throw Failure(Exit::NoBox, std::string(kSandbox) + " can not be started: " + strerror(error));
 }
 
 } // namespace cli

@@ -41,14 +41,13 @@ class Usage : public Failure {
     explicit Usage(const std::string &message) : Failure(Exit::Usage, message) {}
 };
 
+constexpr int kExitSignal = 128;
+
 // Ended by a signal that the command was waiting for beside its work.
 class Interrupted : public Failure {
   public:
     explicit Interrupted(int signal, const std::string &message)
         : Failure(static_cast<Exit>(kExitSignal + signal), message) {}
-
-  private:
-    static constexpr int kExitSignal = 128;
 };
 
 } // namespace cli

@@ -4,6 +4,7 @@
 #include "device.h"
 #include "error.h"
 #include "request_log.h"
+#include "signals.h"
 #include "stdio_capture.h"
 #include "trace.h"
 
@@ -12,8 +13,11 @@
 #include <algorithm>
 #include <clocale>
 #include <cstdlib>
+#include <fcntl.h>
 #include <new>
 #include <string_view>
+#include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -37,6 +41,16 @@ void arrangeTrace(const Options &options) {
     }
 }
 
+// A closed stream's number must not go to the next file that is opened. Writing to standard output still fails.
+void occupyStreams() {
+    for (const auto &[stream, mode] :
+         {std::pair{STDIN_FILENO, O_RDONLY}, {STDOUT_FILENO, O_RDONLY}, {STDERR_FILENO, O_WRONLY}}) {
+        if (fcntl(stream, F_GETFD) < 0) {
+            ::open("/dev/null", mode); // takes the lowest free number
+        }
+    }
+}
+
 void runCommand(int argc, char **argv) {
     Options options;
     const Run run = parse(argc, argv, options);
@@ -56,6 +70,8 @@ void runCommand(int argc, char **argv) {
 } // namespace
 
 int main(int argc, char **argv) {
+    occupyStreams();
+    watchSignals(asksForJson(argc, argv));
     setlocale(LC_CTYPE, "");
     rememberCommandLine(argv, asksForJson(argc, argv));
     const auto failed = [&](const Failure &failure) {

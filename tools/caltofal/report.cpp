@@ -19,15 +19,19 @@ bool colourWanted() {
 
 } // namespace
 
+void flushOutput() {
+    if (!std::cout.flush()) {
+        throw Failure(Exit::Failed, "standard output can not be written");
+    }
+}
+
 void print(const Report &report, bool json) {
     if (json) {
         std::cout << dumped(report.json, 2) << '\n';
     } else {
         std::cout << (report.raw.empty() ? render(report.table, colourWanted()) : report.raw);
     }
-    if (!std::cout.flush()) {
-        throw Failure(Exit::Failed, "standard output can not be written");
-    }
+    flushOutput();
     for (const std::string &note : report.notes) {
         std::cerr << "caltofal: " << printable(note) << '\n';
     }

@@ -19,6 +19,9 @@ struct Report { // NOLINT(bugprone-exception-escape): the JSON library checks it
 
 // Writes the data to standard output and the notes to standard error. Throws Failure when standard output can not be
 // written.
+// Throws Failure when standard output did not take all of it.
+void flushOutput();
+
 void print(const Report &report, bool json);
 
 } // namespace cli

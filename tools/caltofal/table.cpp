@@ -50,13 +50,22 @@ Scols newTable(const Table &table, bool colour) {
     return result;
 }
 
+// A backslash twice: what printable() makes of other bytes begins with one.
+std::string cellText(const std::string &text) {
+    std::string result;
+    for (const char c : text) {
+        result += c == '\\' ? "\\\\" : std::string(1, c);
+    }
+    return printable(result);
+}
+
 void addRow(libscols_table *table, const std::vector<Cell> &row) {
     libscols_line *line = scols_table_new_line(table, nullptr);
     if (!line) {
         throw std::bad_alloc();
     }
     for (size_t i = 0; i < row.size(); ++i) {
-        if (scols_line_set_data(line, i, printable(row[i].text).c_str()) != 0) {
+        if (scols_line_set_data(line, i, cellText(row[i].text).c_str()) != 0) {
             throw std::bad_alloc();
         }
         if (const char *colour = colourOf(row[i].style)) {

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace cli {
@@ -42,7 +43,9 @@ Progress::~Progress() {
 void Progress::show(const std::string &line) {
     if (terminal_ >= 0 && line != shown_) {
         shown_ = line;
-        writeAll(terminal_, std::string(kClearLine) + printable(line));
+        winsize size{};
+        const bool known = ioctl(terminal_, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+        writeAll(terminal_, std::string(kClearLine) + printable(line).substr(0, known ? size.ws_col - 1 : line.size()));
     }
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "waiting.h"
 
+#include "signals.h"
+
 #include <algorithm>
-#include <csignal>
 #include <ctime>
-#include <iterator>
 
 namespace cli {
 namespace {
@@ -12,48 +12,31 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr int kSignals[] = {SIGINT, SIGTERM};
 constexpr milliseconds kTick{200};
-
-volatile sig_atomic_t came = 0;
-struct sigaction before[std::size(kSignals)];
-
-void note(int signal) {
-    came = signal;
-}
 
 } // namespace
 
 Interruptible::Interruptible() {
-    struct sigaction action {};
-    action.sa_handler = note; // without SA_RESTART: sleeping ends
-    for (size_t i = 0; i < std::size(kSignals); ++i) {
-        sigaction(kSignals[i], nullptr, &before[i]);
-        if (before[i].sa_handler != SIG_IGN) {
-            sigaction(kSignals[i], &action, nullptr);
-        }
-    }
+    deferSignals(true);
 }
 
 Interruptible::~Interruptible() {
-    for (size_t i = 0; i < std::size(kSignals); ++i) {
-        sigaction(kSignals[i], &before[i], nullptr);
-    }
+    deferSignals(false);
 }
 
 int Interruptible::signal() {
-    return came;
+    return notedSignal();
 }
 
 bool pauseFor(milliseconds time) {
     const steady_clock::time_point end = steady_clock::now() + time;
-    while (came == 0 && steady_clock::now() < end) {
+    while (notedSignal() == 0 && steady_clock::now() < end) {
         const auto left = std::min<steady_clock::duration>(kTick, end - steady_clock::now());
         const auto nanoseconds = std::max<int64_t>(0, std::chrono::nanoseconds(left).count());
         const timespec slice = {0, static_cast<long>(nanoseconds)};
         nanosleep(&slice, nullptr);
     }
-    return came == 0;
+    return notedSignal() == 0;
 }
 
 Outcome askAgain(const Pace &pace, const std::string &what, const std::function<bool()> &done) {

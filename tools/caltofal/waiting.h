@@ -12,7 +12,7 @@
 
 namespace cli {
 
-// While it lives, SIGINT and SIGTERM end a wait rather than the process.
+// While it lives, the signals of signals.h end a wait rather than the process.
 class Interruptible {
   public:
     Interruptible();

@@ -11,8 +11,8 @@ constexpr char kDigits[] = "0123456789abcdef";
 
 // Endings of the names of parameters whose values are free text.
 constexpr std::string_view kFreeText[] = {
-    "Name",    "Alias",        "SSID", "Description", "Passphrase", "Password", "Key",
-    "Version", "SerialNumber", "PIN",  "Label",       "Username",   "Contact",  "Location",
+    "Name",         "Alias", "SSID",  "Description", "Passphrase", "Password", "Key",    "Version",
+    "SerialNumber", "PIN",   "Label", "Username",    "Contact",    "Location", "Secret",
 };
 
 bool isFreeText(std::string_view parameter) {
@@ -25,6 +25,36 @@ template <typename Number>
 bool readNumber(std::string_view value, Number &number) {
     const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
     return error == std::errc() && end == value.data() + value.size() && std::to_string(number) == value;
+}
+
+// Characters beyond ASCII that a terminal acts on rather than shows: C1 controls, marks and overrides of direction.
+struct Span {
+    uint32_t first, last;
+};
+constexpr Span kInvisible[] = {{0x80, 0x9f}, {0x200b, 0x200f}, {0x202a, 0x202e}, {0x2066, 0x2069}};
+
+// The length of the character that valid UTF-8 begins with.
+size_t lengthOf(unsigned char first) {
+    return first < 0x80 ? 1 : first < 0xe0 ? 2 : first < 0xf0 ? 3 : 4;
+}
+
+uint32_t codePoint(std::string_view character) {
+    uint32_t code = static_cast<unsigned char>(character[0]) & (0xffU >> (character.size() + 1));
+    for (const char c : character.substr(1)) {
+        code = (code << 6) | (static_cast<unsigned char>(c) & 0x3fU);
+    }
+    return code;
+}
+
+// One character of valid UTF-8, or a byte of something else.
+bool isShown(std::string_view character) {
+    const auto byte = static_cast<unsigned char>(character[0]);
+    if (character.size() == 1) {
+        return byte >= ' ' && byte < 0x7f;
+    }
+    const uint32_t code = codePoint(character);
+    return std::none_of(std::begin(kInvisible), std::end(kInvisible),
+                        [&](const Span &span) { return code >= span.first && code <= span.last; });
 }
 
 } // namespace
@@ -51,16 +81,16 @@ std::string hexOf(std::string_view text) {
 std::string printable(std::string_view text) {
     const bool utf8 = isUtf8(text);
     std::string result;
-    unsigned char before = 0;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        const bool control = byte < ' ' || byte == 0x7f || (before == 0xc2 && byte < 0xa0);
-        if (control || (byte >= 0x80 && !utf8)) {
-            result += "\\x" + hexOf({&c, 1});
+    for (size_t at = 0; at < text.size();) {
+        const std::string_view character = text.substr(at, utf8 ? lengthOf(static_cast<unsigned char>(text[at])) : 1);
+        at += character.size();
+        if (isShown(character)) {
+            result += character;
         } else {
-            result += c;
+            for (const char &byte : character) {
+                result += "\\x" + hexOf({&byte, 1});
+            }
         }
-        before = byte;
     }
     return result;
 }

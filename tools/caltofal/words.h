@@ -16,7 +16,7 @@ bool isUtf8(std::string_view text);
 // Two lower-case digits a byte.
 std::string hexOf(std::string_view text);
 
-// Control characters, and all but ASCII where the text is no UTF-8, as "\x1b".
+// Control characters, marks of direction, and all but ASCII where the text is no UTF-8, as "\x1b".
 std::string printable(std::string_view text);
 
 // Sets object[key]. A text that is no UTF-8 gets a sibling "KEY_hex" with its bytes.

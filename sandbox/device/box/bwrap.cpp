@@ -6,7 +6,9 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
-#include <sys/prctl.h>
+#include <iterator>
+#include <poll.h>
+#include <sys/signalfd.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
@@ -17,19 +19,26 @@ namespace {
 constexpr int kExitSignal = 128;
 constexpr int kExitNoBwrap = 1;
 
-volatile sig_atomic_t bwrapProcess = 0;
-
-// bubblewrap dies of it, and the init then tells the command to end.
-void passOn(int signal) {
-    if (bwrapProcess > 0) {
-        kill(bwrapProcess, signal);
-    }
-}
+constexpr int kSignals[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP};
 
 bool isIgnored(int signal) {
     struct sigaction action {};
     sigaction(signal, nullptr, &action);
     return action.sa_handler == SIG_IGN;
+}
+
+// From here on they wait to be read: what comes before the command runs is kept for it.
+int takeSignals() {
+    sigset_t set;
+    sigemptyset(&set);
+    sigaddset(&set, SIGCHLD);
+    for (const int signal : kSignals) {
+        if (!isIgnored(signal)) {
+            sigaddset(&set, signal);
+        }
+    }
+    sigprocmask(SIG_BLOCK, &set, nullptr);
+    return signalfd(-1, &set, SFD_CLOEXEC);
 }
 
 class Pipe {
@@ -46,6 +55,7 @@ class Pipe {
         closeWriting();
     }
 
+    [[nodiscard]] int reading() const { return ends_[0]; }
     [[nodiscard]] int writing() const { return ends_[1]; }
     void closeWriting() {
         if (ends_[1] >= 0) {
@@ -83,60 +93,71 @@ int inheritable(int descriptor) {
     _exit(kExitNoBwrap);
 }
 
-void setHandler(int signal, void (*handler)(int)) {
-    struct sigaction action {};
-    action.sa_handler = handler;
-    action.sa_flags = SA_RESTART;
-    sigaction(signal, &action, nullptr);
-}
-
-int waitFor(pid_t child) {
-    int status = 0;
-    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+// Hands signals to the init until the child has ended; its exit code. `started` becomes true once the command runs: it
+// then gets the terminal's signals directly.
+int attend(pid_t child, int own, const Pipe &ready, const Pipe &signals, bool &started) {
+    bool starting = true;
+    int toEnd = 0; // a request to end, which is heeded whatever the command makes of it
+    for (int status = 0;;) {
+        pollfd watched[] = {{own, POLLIN, 0}, {starting ? ready.reading() : -1, POLLIN, 0}};
+        poll(watched, std::size(watched), -1);
+        char byte = 0;
+        if (watched[1].revents != 0) {
+            started = ready.read(&byte, 1) == 1;
+            starting = false;
+        }
+        signalfd_siginfo info{};
+        if ((watched[0].revents & POLLIN) == 0 || read(own, &info, sizeof(info)) != sizeof(info)) {
+            continue;
+        }
+        if (info.ssi_signo != SIGCHLD && (!started || info.ssi_code != SI_KERNEL)) {
+            const auto number = static_cast<unsigned char>(info.ssi_signo);
+            toEnd = number == SIGTERM || number == SIGHUP ? number : toEnd;
+            [[maybe_unused]] const ssize_t written = write(signals.writing(), &number, 1);
+        }
+        if (waitpid(child, &status, WNOHANG) == child) {
+            started = started || (starting && ready.read(&byte, 1) == 1);
+            if (toEnd != 0) {
+                return kExitSignal + toEnd;
+            }
+            return WIFEXITED(status) ? WEXITSTATUS(status) : kExitSignal + WTERMSIG(status);
+        }
     }
-    return WIFEXITED(status) ? WEXITSTATUS(status) : kExitSignal + WTERMSIG(status);
 }
 
 } // namespace
 
 int runBwrap(std::vector<std::string> arguments, const std::vector<std::string> &command) {
-    const int ignored = (isIgnored(SIGINT) ? 1 : 0) | (isIgnored(SIGQUIT) ? 2 : 0);
     Pipe complaints; // bubblewrap's standard error
     Pipe ready;      // a byte from the init, then open as long as the box
-    setHandler(SIGINT, SIG_IGN);
-    setHandler(SIGQUIT, SIG_IGN);
-    const pid_t parent = getpid();
-    const pid_t child = fork();
+    Pipe signals;    // to the init
+    const int own = takeSignals();
+    const pid_t child = own < 0 ? -1 : fork();
     if (child < 0) {
         throw std::system_error(errno, std::generic_category(), "fork");
     }
     if (child == 0) {
-        prctl(PR_SET_PDEATHSIG, SIGTERM);
-        if (getppid() != parent) {
-            _exit(kExitNoBwrap);
-        }
         arguments.insert(arguments.end(),
                          {"/opt/lantiq/libexec/caltofal-box-init", std::to_string(inheritable(STDERR_FILENO)),
-                          std::to_string(inheritable(ready.writing())), std::to_string(ignored)});
+                          std::to_string(inheritable(ready.writing())),
+                          std::to_string(inheritable(signals.reading()))});
         arguments.insert(arguments.end(), command.begin(), command.end());
         dup2(complaints.writing(), STDERR_FILENO);
         become(arguments);
     }
-    bwrapProcess = child;
-    setHandler(SIGTERM, passOn);
-    setHandler(SIGHUP, passOn);
     complaints.closeWriting();
     ready.closeWriting();
 
-    char byte = 0;
-    const bool started = ready.read(&byte, 1) == 1;
-    const int result = waitFor(child);
-    if (!started && result < kExitSignal) {
+    bool started = false;
+    const int result = attend(child, own, ready, signals, started);
+    close(own);
+    if (!started && result < kExitSignal && result != kExitNoBox) {
         char complaint[512];
         const ssize_t length = complaints.read(complaint, sizeof(complaint));
         throw bwrapObstacle(std::string(complaint, length > 0 ? static_cast<size_t>(length) : 0));
     }
     // Whatever became of bubblewrap, the command has ended once the init has.
+    char byte = 0;
     ready.read(&byte, 1);
     return result;
 }

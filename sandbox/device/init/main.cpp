@@ -3,11 +3,12 @@
 // caltofal-box-init: process 1 of the device box. It finishes what bubblewrap began, starts the device's daemons, runs
 // the command and ends with it.
 //
-//     caltofal-box-init ERRORS READY IGNORED COMMAND [ARGUMENT...]
+//     caltofal-box-init ERRORS READY SIGNALS COMMAND [ARGUMENT...]
 //
 // ERRORS is the descriptor of the command's standard error (bubblewrap's own is kept apart), READY the one that gets a
-// byte once the command is about to run and stays open as long as the box, IGNORED the signals to ignore: 1 SIGINT,
-// 2 SIGQUIT, 3 both, 0 none.
+// byte once the command runs and stays open as long as the box, SIGNALS the one from which it reads, a byte each, the
+// signals for the command; its end says that nobody waits for the box any more. The terminal's own signals reach the
+// command directly, for it is in the caller's process group; the daemons are not.
 #include "console.h"
 #include "links.h"
 #include "system_log.h"
@@ -35,13 +36,16 @@ constexpr const char *kStartScript = "/opt/lantiq/sbin/rc";
 constexpr int kTickMs = 1000;
 constexpr std::chrono::seconds kGrace(5); // for a command that was told to end
 
+constexpr int kHandedOn[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP};
+
 constexpr int kExitFailed = 1;
+constexpr int kExitNoBox = 77;
 constexpr int kExitNotExecutable = 126;
 constexpr int kExitNotFound = 127;
 constexpr int kExitSignal = 128;
 
 struct Invocation {
-    int errors, ready, ignored;
+    int errors, ready, signals;
     char **command;
 };
 
@@ -59,7 +63,7 @@ struct Logs {
 sigset_t handledSignals() {
     sigset_t set;
     sigemptyset(&set);
-    for (const int signal : {SIGCHLD, SIGTERM, SIGHUP}) {
+    for (const int signal : {SIGCHLD, SIGTERM}) {
         sigaddset(&set, signal);
     }
     return set;
@@ -72,15 +76,37 @@ sigset_t handledSignals() {
     _exit(error == ENOENT ? kExitNotFound : kExitNotExecutable);
 }
 
+// The caller blocks what it hands on: `held` leaves just that blocked.
+void unblock(bool held) {
+    sigset_t set;
+    sigemptyset(&set);
+    for (const int signal : kHandedOn) {
+        if (held) {
+            sigaddset(&set, signal);
+        }
+    }
+    sigprocmask(SIG_SETMASK, &set, nullptr);
+}
+
 int exitCodeOf(int status) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : kExitSignal + WTERMSIG(status);
 }
 
-// Runs the start script to its end, its output on the console.
-void startDaemons(const sigset_t &mask) {
+// What the process group was sent before the daemons left it.
+void dropPending() {
+    for (const int signal : kHandedOn) {
+        std::signal(signal, SIG_IGN);
+        std::signal(signal, SIG_DFL);
+    }
+}
+
+// Runs the start script to its end, its output on the console. A session of their own keeps keys from the daemons.
+bool startDaemons() {
     const pid_t script = fork();
     if (script == 0) {
-        sigprocmask(SIG_SETMASK, &mask, nullptr);
+        setsid();
+        dropPending();
+        unblock(false);
         [[maybe_unused]] const bool redirected = std::freopen("/dev/null", "r", stdin) != nullptr &&
                                                  std::freopen("/dev/console", "r+", stdout) != nullptr &&
                                                  dup2(STDOUT_FILENO, STDERR_FILENO) >= 0;
@@ -92,20 +118,17 @@ void startDaemons(const sigset_t &mask) {
     }
     if (script < 0 || status != 0) {
         std::fprintf(stderr, "caltofal-sandbox: the device's start script failed (%d)\n", exitCodeOf(status));
+        return false;
     }
+    return true;
 }
 
-// The caller ignores the keyboard's signals, so that it outlives a command that handles them.
-void restoreKeyboardSignals(int ignored) {
-    std::signal(SIGINT, (ignored & 1) != 0 ? SIG_IGN : SIG_DFL);
-    std::signal(SIGQUIT, (ignored & 2) != 0 ? SIG_IGN : SIG_DFL);
-}
-
-pid_t startCommand(const Invocation &invocation, const sigset_t &mask) {
+// A command that says so gets its signals blocked, and loses none before it can handle them.
+pid_t startCommand(const Invocation &invocation) {
     const pid_t child = fork();
     if (child == 0) {
-        restoreKeyboardSignals(invocation.ignored);
-        sigprocmask(SIG_SETMASK, &mask, nullptr);
+        unblock(std::getenv("CALTOFAL_BOX_HOLD_SIGNALS") != nullptr);
+        unsetenv("CALTOFAL_BOX_HOLD_SIGNALS");
         become(invocation.command);
     }
     return child;
@@ -124,8 +147,21 @@ bool reap(pid_t command, int &status) {
     return ended;
 }
 
+// What the command is to be told after a poll, 0 for nothing.
+int signalFor(const pollfd &own, const pollfd &requests) {
+    signalfd_siginfo info{};
+    if ((own.revents & POLLIN) != 0 && read(own.fd, &info, sizeof(info)) == sizeof(info) && info.ssi_signo != SIGCHLD) {
+        return static_cast<int>(info.ssi_signo);
+    }
+    unsigned char byte = 0;
+    if (requests.revents == 0) {
+        return 0;
+    }
+    return read(requests.fd, &byte, 1) == 1 ? byte : SIGTERM;
+}
+
 // Looks after the box until the command has ended. Its exit code.
-int attend(pid_t command, int signals, const Logs &logs, ProcessLinks &links) {
+int attend(pid_t command, int own, int requests, const Logs &logs, ProcessLinks &links) {
     using Clock = std::chrono::steady_clock;
     std::optional<Clock::time_point> deadline;
     int status = 0;
@@ -134,13 +170,17 @@ int attend(pid_t command, int signals, const Logs &logs, ProcessLinks &links) {
             return kExitSignal + SIGKILL;
         }
         pollfd watched[] = {
-            {signals, POLLIN, 0}, {logs.console.descriptor(), POLLIN, 0}, {logs.messages.descriptor(), POLLIN, 0}};
+            {own, POLLIN, 0},
+            {deadline ? -1 : requests, POLLIN, 0},
+            {logs.console.descriptor(), POLLIN, 0},
+            {logs.messages.descriptor(), POLLIN, 0},
+        };
         poll(watched, std::size(watched), kTickMs);
-        signalfd_siginfo info{};
-        if ((watched[0].revents & POLLIN) != 0 && read(signals, &info, sizeof(info)) == sizeof(info) &&
-            info.ssi_signo != SIGCHLD) {
-            kill(command, static_cast<int>(info.ssi_signo));
-            deadline = deadline.value_or(Clock::now() + kGrace);
+        if (const int signal = signalFor(watched[0], watched[1]); signal != 0) {
+            kill(command, signal);
+            if (signal == SIGTERM || signal == SIGHUP) {
+                deadline = deadline.value_or(Clock::now() + kGrace);
+            }
         }
         logs.drain();
         links.extend();
@@ -151,26 +191,27 @@ int attend(pid_t command, int signals, const Logs &logs, ProcessLinks &links) {
 
 int run(const Invocation &invocation) {
     const sigset_t handled = handledSignals();
-    sigset_t outerMask;
-    sigprocmask(SIG_BLOCK, &handled, &outerMask);
+    sigprocmask(SIG_BLOCK, &handled, nullptr);
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     dup2(invocation.errors, STDERR_FILENO);
     close(invocation.errors);
     fcntl(invocation.ready, F_SETFD, FD_CLOEXEC);
+    fcntl(invocation.signals, F_SETFD, FD_CLOEXEC);
 
     const Logs logs;
     ProcessLinks links;
     linkPrograms();
     linkProc();
     links.extend();
-    startDaemons(outerMask);
-
-    const int signals = signalfd(-1, &handled, SFD_CLOEXEC);
-    if (signals < 0 || write(invocation.ready, "", 1) != 1) {
+    if (!startDaemons()) {
+        return kExitNoBox;
+    }
+    const int own = signalfd(-1, &handled, SFD_CLOEXEC);
+    const pid_t command = own < 0 ? -1 : startCommand(invocation);
+    if (command < 0 || write(invocation.ready, "", 1) != 1) {
         return kExitFailed;
     }
-    const pid_t command = startCommand(invocation, outerMask);
-    return command < 0 ? kExitFailed : attend(command, signals, logs, links);
+    return attend(command, own, invocation.signals, logs, links);
 }
 
 } // namespace

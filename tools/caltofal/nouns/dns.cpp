@@ -16,6 +16,7 @@ constexpr const char *kServers = "Device.DNS.Client.Server";
 
 Report run(const std::string &argument) {
     const std::string interface = argument.empty() ? gatewayInterface() : checkedPath(argument);
+    get({{interface, {}}}, Reading::Leaf); // the library's functions do not say that it is not there
     char used1[kAddressSize] = "";
     char used2[kAddressSize] = "";
     ask([&] { return ZintuGet_WanDns(interface.c_str(), used1, used2); }, {interface + ": no DNS servers", {kServers}});

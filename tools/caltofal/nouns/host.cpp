@@ -3,6 +3,8 @@
 
 #include "arguments.h"
 #include "caltofal.h"
+#include "failure.h"
+#include "nouns/wifi/interface.h"
 #include "page.h"
 #include "page_call.h"
 
@@ -12,10 +14,14 @@ namespace cli {
 namespace {
 
 Report run(const std::string &address) {
-    if (zintu_isValidMacAddress(address.c_str()) != 0 && zintu_isValidIPv4Address(address.c_str()) != 0) {
-        throw Usage("\"" + address + "\" is neither a MAC address (with colons) nor an IPv4 address");
-    }
     std::string identifier = address;
+    if (zintu_isValidIPv4Address(address.c_str()) != 0) {
+        try {
+            identifier = checkedMac(address);
+        } catch (const Usage &) {
+            throw Usage("\"" + address + "\" is neither a MAC address nor an IPv4 address");
+        }
+    }
     const auto call = [&] {
         const int instance = GetDeviceID(identifier.data());
         return instance > 0 ? instance : -1;

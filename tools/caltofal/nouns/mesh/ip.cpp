@@ -5,6 +5,7 @@
 #include "caltofal.h"
 #include "device.h"
 #include "failure.h"
+#include "nouns/wifi/interface.h"
 #include "shell_output.h"
 
 #include <cstdio>
@@ -15,10 +16,8 @@ namespace {
 
 constexpr size_t kBufferSize = 128;
 
-Report run(const std::string &mac) {
-    if (zintu_isValidMacAddress(mac.c_str()) != 0) {
-        throw Usage("\"" + mac.substr(0, 40) + "\" is no MAC address with colons");
-    }
+Report run(const std::string &argument) {
+    const std::string mac = checkedMac(argument);
     needDevice();
     char buffer[kBufferSize] = "";
     snprintf(buffer, sizeof buffer, "%s", mac.c_str());
@@ -40,7 +39,7 @@ Report run(const std::string &mac) {
 
 Run define(CLI::App &command) {
     const auto mac = std::make_shared<std::string>();
-    addArgument(command, "MAC", *mac, "A MAC address with colons");
+    addArgument(command, "MAC", *mac, "A MAC address");
     return [mac] { return run(*mac); };
 }
 

@@ -5,12 +5,11 @@
 #include "device.h"
 #include "failure.h"
 #include "shell_output.h"
+#include "signals.h"
 #include "waiting.h"
 
-#include <csignal>
 #include <future>
 #include <memory>
-#include <pthread.h>
 #include <thread>
 
 namespace cli::mesh {
@@ -34,19 +33,14 @@ const char *obstacle(const State &now) {
 
 // The library waits some seconds after it told the daemon: on a thread of its own, which a signal leaves behind.
 std::future<void> startSync() {
-    sigset_t signals;
-    sigset_t before;
-    sigemptyset(&signals);
-    sigaddset(&signals, SIGINT);
-    sigaddset(&signals, SIGTERM);
-    pthread_sigmask(SIG_BLOCK, &signals, &before);
+    holdSignals(true);
     std::promise<void> promise;
     std::future<void> ended = promise.get_future();
     std::thread([promise = std::move(promise)]() mutable {
         ZINTU_meshgrove_sync_to_slave();
         promise.set_value();
     }).detach();
-    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    holdSignals(false);
     return ended;
 }
 

@@ -55,10 +55,7 @@ Json isAdmitted(const std::string &mode, bool listed) {
 
 Report run(const Arguments &arguments) {
     const int ssid = checkedInstance(arguments.ssid, "SSID");
-    const std::string &mac = arguments.mac;
-    if (!mac.empty() && zintu_isValidMacAddress(mac.c_str()) != 0) {
-        throw Usage("\"" + mac.substr(0, 40) + "\" is no MAC address with colons");
-    }
+    const std::string mac = arguments.mac.empty() ? "" : checkedMac(arguments.mac);
     const std::string accessPoint = "Device.WiFi.AccessPoint." + std::to_string(ssid);
     const std::vector<Object> vendor =
         get({{accessPoint + ".X_LANTIQ_COM_Vendor", {{"MACAddressControlEnabled", {}}}}}, Reading::Leaf);

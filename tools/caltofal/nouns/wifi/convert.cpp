@@ -7,7 +7,10 @@
 #include "nouns/wifi/interface.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <charconv>
 #include <climits>
+#include <cstdlib>
 #include <iterator>
 #include <memory>
 #include <span>
@@ -25,12 +28,24 @@ struct Converter {
     const char *name;
     const char *what;
     Convert convert;
-    std::span<const PairRow> pairs = {}; // for people to look at
-    bool number = false;                 // the result is one
+    std::span<const PairRow> pairs = {};   // for people to look at
+    bool number = false;                   // the result is one
+    bool oneWay = number && pairs.empty(); // there is no way back
 };
 
-int numberIn(const std::string &value) {
-    return checkedNumber(value, "value", INT_MIN + 1, INT_MAX);
+// A number that is none is a wrong command line; one out of range is refused.
+int numberIn(const std::string &value, int least, int most) {
+    const size_t sign = value.starts_with('-') ? 1 : 0;
+    if (value.size() == sign || value.find_first_not_of("0123456789", sign) != std::string::npos) {
+        throw Usage("value \"" + value.substr(0, 40) + "\" is no number");
+    }
+    int number = 0;
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
+    if (error != std::errc() || number < least || number > most) {
+        throw Failure(Exit::Refused, "value " + value.substr(0, 40) + " is outside " + std::to_string(least) + " to " +
+                                         std::to_string(most));
+    }
+    return number;
 }
 
 template <const char *(*convert)(const char *, int)>
@@ -44,14 +59,17 @@ std::string paired(const std::string &value, bool toUi) {
                 : UiToFapi_Str(value.c_str(), table, std::size(table));
 }
 
-template <int (*convert)(int)>
+// The thresholds and intervals replace what lies outside their own range by a default.
+template <int (*convert)(int), int least = 0, int most = INT_MAX>
 std::string numeric(const std::string &value, bool /*toUi*/) {
-    return std::to_string(convert(numberIn(value)));
+    return std::to_string(convert(numberIn(value, least, most)));
 }
 
 template <int radio>
 std::string ssidNumber(const std::string &value, bool toUi) {
-    const int index = checkedNumber(value, "SSID", 0, 9999);
+    constexpr int kSsids = 8; // of a radio
+    const int first = toUi ? ConvSsidIdxToFapi(radio, 0) : 0;
+    const int index = numberIn(value, first, first + kSsids - 1);
     return std::to_string(toUi ? ConvSsidIdxToUI(radio, index) : ConvSsidIdxToFapi(radio, index));
 }
 
@@ -60,20 +78,30 @@ std::string phy(const std::string &value, bool /*toUi*/) {
 }
 
 std::string boolean(const std::string &value, bool toUi) {
-    return toUi ? std::to_string(ConvStrToBool(value.c_str())) : ConvBoolToStr(numberIn(value));
+    return toUi ? std::to_string(ConvStrToBool(value.c_str())) : ConvBoolToStr(numberIn(value, 0, 1));
 }
 
 std::string filterMode(const std::string &value, bool toUi) {
     const bool off = value == "off";
     return toUi ? std::to_string(ConvMacACLModeToUI(value.c_str()))
-                : ConvMacACLModeToFapi(off ? 0 : 1, off ? 0 : numberIn(value));
+                : ConvMacACLModeToFapi(off ? 0 : 1, off ? 0 : numberIn(value, 0, 1));
 }
 
 std::string plain(const std::string &value, bool /*toUi*/) {
     return ConvStr(value.c_str());
 }
 
+std::string power(const std::string &value, bool toUi) {
+    return TransmitPower_ConvStr(toUi ? std::to_string(numberIn(value, 0, 100)).c_str() : value.c_str(), toUi ? 1 : 0);
+}
+
+// The text may go on behind its digits.
 std::string integer(const std::string &value, bool /*toUi*/) {
+    errno = 0;
+    const long number = strtol(value.c_str(), nullptr, 10);
+    if (errno == ERANGE || number < INT_MIN || number > INT_MAX) {
+        throw Failure(Exit::Refused, "the number of \"" + value.substr(0, 40) + "\" is too large");
+    }
     return std::to_string(ConvInt(value.c_str()));
 }
 
@@ -92,17 +120,17 @@ constexpr Converter kConverters[] = {
      numeric<ConvFragmentationThreshold>,
      {},
      true},
-    {"frequency", "the channel of a frequency in MHz", numeric<ConvFreqChannel>, {}, true},
+    {"frequency", "the channel of a frequency in MHz", numeric<ConvFreqChannel, 2412, 64800>, {}, true},
     {"guard-interval", "GuardInterval", textual<ShortGuardInterval_ConvStr>, ShortGuardInterval_FapiToUi_Table},
     {"number", "the number that a text begins with", integer, {}, true},
-    {"phy", "the phy of an interface", phy, Interface_DevToPhy_Table},
-    {"power", "TransmitPower, percent and word", textual<TransmitPower_ConvStr>},
-    {"power-level", "TransmitPower, percent as 1 (high) to 3 (low)", numeric<ConvTransmitPower>, {}, true},
+    {"phy", "the phy of an interface", phy, Interface_DevToPhy_Table, false, true},
+    {"power", "TransmitPower, percent and word", power},
+    {"power-level", "TransmitPower, percent as 1 (high) to 3 (low)", numeric<ConvTransmitPower, 0, 100>, {}, true},
     {"protection", "Dot11nProtection", textual<Dot11nProtect_ConvStr>, Dot11nProtect_FapiToUi_Table},
     {"rts", "RTSThreshold in its range, else its default", numeric<ConvRtsThreshold>, {}, true},
     {"security", "ModeEnabled", paired<SecurityType_FapiToUi_Table>, SecurityType_FapiToUi_Table},
-    {"ssid-radio1", "the number of an SSID of radio 1", ssidNumber<1>, {}, true},
-    {"ssid-radio2", "the number of an SSID of radio 2", ssidNumber<2>, {}, true},
+    {"ssid-radio1", "the number of an SSID of radio 1", ssidNumber<1>, {}, true, false},
+    {"ssid-radio2", "the number of an SSID of radio 2", ssidNumber<2>, {}, true, false},
     {"standards", "OperatingStandards", textual<OperatingStandards_ConvStr>, WireLessMode_FapiToUi_Table},
     {"text", "any text, as it is", plain},
     {"vht-guard-interval", "VhtGuardInterval", textual<VhtShortGuardInterval_ConvStr>,
@@ -151,6 +179,9 @@ Report run(const Arguments &arguments, bool valueGiven) {
     const Converter &converter = converterNamed(arguments.table);
     if (!valueGiven) {
         return pairsOf(converter);
+    }
+    if (converter.oneWay && arguments.to == "fapi") {
+        throw Usage(std::string(converter.name) + " has no way back: --to fapi does not go with it");
     }
     const std::string converted = converter.convert(arguments.value, arguments.to == "ui");
     Report result{{{"table", converter.name}}, {}, converted + "\n", {}};

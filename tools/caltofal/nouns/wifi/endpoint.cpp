@@ -82,6 +82,16 @@ Report enabledEndPoint() {
     return reportOf(number, name, link, output.end());
 }
 
+void checkUplink(const Interface &interface) {
+    for (const Object &endPoint : get({{"Device.WiFi.EndPoint", {{"SSIDReference", {}}}}}, Reading::Whole)) {
+        const std::string reference = valueOf(endPoint, "SSIDReference");
+        if (reference.substr(0, reference.find_last_not_of('.') + 1) == interface.ssidObject) {
+            return;
+        }
+    }
+    throw Failure(Exit::Absent, interface.name + " is no end point", "Device.WiFi.EndPoint");
+}
+
 Report run(const std::string &name) {
     if (name.empty()) {
         needDevice();
@@ -89,7 +99,7 @@ Report run(const std::string &name) {
     }
     checkedInterface(name);
     needDevice();
-    findInterface(name);
+    checkUplink(findInterface(name));
     Link link;
     ShellOutput output;
     link.connected = GetEPContection(name.c_str(), link.peer) == 1;

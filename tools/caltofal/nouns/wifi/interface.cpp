@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "nouns/wifi/interface.h"
 
+#include "caltofal.h"
 #include "failure.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cstring>
 
@@ -39,6 +41,22 @@ const std::string &checkedSsid(const std::string &ssid) {
         throw Usage("an SSID has 32 bytes at most, this one has " + std::to_string(ssid.size()));
     }
     return ssid;
+}
+
+std::string checkedMac(const std::string &text) {
+    const char mark = text.size() > 2 && strchr(":-", text[2]) != nullptr ? text[2] : '\0';
+    const size_t step = mark == '\0' ? 2 : 3;
+    std::string result;
+    bool valid = text.size() == 6 * step - (step - 2);
+    for (size_t i = 0; valid && i < text.size(); ++i) {
+        const bool between = i % step == 2;
+        valid = between ? text[i] == mark : isxdigit(static_cast<unsigned char>(text[i])) != 0;
+        result += between ? "" : (i > 0 && i % step == 0 ? ":" : "") + text.substr(i, 1);
+    }
+    if (!valid || isValidMacAddress(result.c_str()) == 0) {
+        throw Usage("\"" + text.substr(0, 40) + "\" is no MAC address");
+    }
+    return result;
 }
 
 int checkedNumber(const std::string &text, const char *what, int least, int most) {

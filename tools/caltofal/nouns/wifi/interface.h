@@ -17,6 +17,9 @@ const std::string &checkedSsid(const std::string &ssid);
 // A decimal number, such as a radio's or an SSID's. Throws Usage, naming `what`.
 int checkedNumber(const std::string &text, const char *what, int least, int most);
 
+// A MAC address, its pairs of digits joined by colons, dashes or nothing, with colons. Throws Usage.
+std::string checkedMac(const std::string &text);
+
 // An instance number.
 int checkedInstance(const std::string &text, const char *what);
 

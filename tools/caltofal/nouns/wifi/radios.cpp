@@ -37,7 +37,7 @@ Json jsonOf(const Object &radio) {
     put(json, "status", valueOf(radio, "Status"));
     json["channel"] = ConvInt(valueOf(radio, "Channel").c_str());
     json["auto_channel"] = ConvStrToBool(valueOf(radio, "AutoChannelEnable").c_str()) != 0;
-    put(json, "bandwidth", BandWidth_ConvStr(width.c_str(), kFapiToUi));
+    json["bandwidth_mhz"] = typed("bandwidth", BandWidth_ConvStr(width.c_str(), kFapiToUi));
     put(json, "standards", OperatingStandards_ConvStr(standards.c_str(), kFapiToUi));
     json["clients"] = clientsOf(number);
     return json;
@@ -49,9 +49,9 @@ std::vector<Cell> rowOf(const Json &radio) {
     return {cell("radio"),
             cell("interface"),
             cell("band"),
-            {readable(radio["status"]), status},
+            {radio["enabled"] == true ? readable(radio["status"]) : "off", status},
             {readable(radio["channel"]) + (radio["auto_channel"] == true ? " (auto)" : "")},
-            cell("bandwidth"),
+            cell("bandwidth_mhz"),
             cell("standards"),
             cell("clients")};
 }

@@ -10,9 +10,11 @@
 #include "nouns/wifi/survey.h"
 #include "shell_output.h"
 
-#include <cstdio>
+#include <fcntl.h>
 #include <memory>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace cli::wifi {
 namespace {
@@ -76,11 +78,29 @@ bool is5GHz(int radio) {
     return !found.empty() && valueOf(found.front(), "OperatingFrequencyBand") == "5GHz";
 }
 
+// Two scans at a time would take each other's result. Kept until the object is gone; no lock where none can be had.
+class ScanLock {
+  public:
+    explicit ScanLock(const std::string &interface)
+        : descriptor_(open((surveyFile(interface) + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {
+        if (descriptor_ >= 0 && flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
+            close(descriptor_);
+            throw Failure(Exit::Failed, "another scan on " + interface + " is under way");
+        }
+    }
+    ScanLock(const ScanLock &) = delete;
+    ScanLock &operator=(const ScanLock &) = delete;
+    ~ScanLock() { close(descriptor_); }
+
+  private:
+    int descriptor_;
+};
+
 void request(const std::string &interface, const std::string &ssid) {
     ShellOutput output;
     const bool ran = ReqScan(interface.c_str(), ssid.c_str()) == 1;
     const std::string complaint = output.end();
-    if (!ran || !complaint.empty()) {
+    if (Interruptible::signal() == 0 && (!ran || !complaint.empty())) {
         failOfShell("the scan request failed", complaint);
     }
 }
@@ -104,6 +124,7 @@ Report run(const Arguments &arguments) {
     paceOf(SCAN_24G_RetryTime, arguments.pace);
     needDevice();
     const bool upper = is5GHz(findInterface(name).radio);
+    const ScanLock lock(name);
     const FileMark before(surveyFile(name));
     const Interruptible interruptible;
     request(name, arguments.ssid);
@@ -122,6 +143,6 @@ Run define(CLI::App &command) {
 } // namespace
 
 const Noun kScanVerb = {"scan", "Look for the networks around and show them",
-                        "wlan0 --pace 100\nwlan2 --ssid Upstream --pace 60", define};
+                        "wlan0 --pace 100\nwlan0 --ssid cafe-open --pace 60", define};
 
 } // namespace cli::wifi

@@ -9,6 +9,7 @@
 #include "page_call.h"
 
 #include <algorithm>
+#include <cctype>
 #include <utility>
 
 namespace cli::wifi {
@@ -46,14 +47,32 @@ std::string namesOf(const WifiParamTable &table) {
     return names;
 }
 
-// A name stands once in a snapshot.
+// A name stands once in a snapshot. Also by its path, whole or as `wifi ssid` and `wifi radio` show it.
 const WifiParamRow &rowNamed(const WifiParamTable &current, const std::string &name) {
-    const auto found = std::find_if(rows(current).begin(), rows(current).end(),
-                                    [&](const WifiParamRow &row) { return text(row.parameter) == name; });
+    const auto found = std::find_if(rows(current).begin(), rows(current).end(), [&](const WifiParamRow &row) {
+        const std::string path = text(row.object) + "." + text(row.parameter);
+        return text(row.parameter) == name || path == name || path == "Device.WiFi." + name;
+    });
     if (found == rows(current).end()) {
         throw Failure(Exit::Absent, "no setting \"" + name + "\" here; there are " + namesOf(current));
     }
     return *found;
+}
+
+// Other spellings of a flag or a number as the layer writes them, so that they compare equal.
+std::string normalized(const WifiParamRow &row, const std::string &value) {
+    const Json now = typed(text(row.parameter), text(row.value));
+    if (now.is_boolean()) {
+        std::string lower = value;
+        std::transform(lower.begin(), lower.end(), lower.begin(), [](unsigned char c) { return tolower(c); });
+        return lower == "1" || lower == "true" ? "true" : lower == "0" || lower == "false" ? "false" : value;
+    }
+    const size_t sign = value.starts_with('+') ? 1 : 0;
+    const bool digits = value.size() > sign && value.find_first_not_of("0123456789", sign) == std::string::npos;
+    if (!now.is_number() || !digits) {
+        return value;
+    }
+    return value.substr(std::min(value.find_first_not_of('0', sign), value.size() - 1));
 }
 
 // The words of the command line with the objects that hold them.
@@ -61,7 +80,12 @@ Settings requested(const Arguments &arguments, const std::vector<Parameter> &wan
     auto table = std::make_unique<WifiParamTable>();
     for (const Parameter &parameter : wanted) {
         const WifiParamRow &row = rowNamed(current, parameter.name);
-        const std::string value = arguments.ui ? fapiWord(parameter.name, parameter.value) : parameter.value;
+        if (std::any_of(rows(*table).begin(), rows(*table).end(),
+                        [&](const WifiParamRow &one) { return text(one.parameter) == text(row.parameter); })) {
+            throw Usage(text(row.parameter) + " is given twice");
+        }
+        const std::string given = arguments.ui ? fapiWord(text(row.parameter), parameter.value) : parameter.value;
+        const std::string value = normalized(row, given);
         if (SetParam(table.get(), row.object, row.parameter, value.c_str()) != 0) {
             throw Usage("too many settings: the most is 100");
         }
@@ -76,10 +100,6 @@ std::vector<Parameter> assignments(const std::vector<std::string> &words) {
         if (parameter.value.size() > kValueMax) {
             throw Usage(parameter.name + ": the value has " + std::to_string(parameter.value.size()) +
                         " bytes: the most is " + std::to_string(kValueMax));
-        }
-        if (std::count_if(result.begin(), result.end(),
-                          [&](const Parameter &one) { return one.name == parameter.name; }) > 1) {
-            throw Usage(parameter.name + " is given twice");
         }
     }
     return result;
@@ -129,13 +149,22 @@ void addChanges(Report &result, const WifiParamTable &current, const WifiParamTa
     }
 }
 
+Settings readBack(Subject subject, int instance) {
+    try {
+        return snapshot(subject, instance);
+    } catch (const Failure &failure) {
+        throw Failure(Exit::Failed, std::string("written, but could not be read back: ") + failure.what(),
+                      failure.object(), failure.code());
+    }
+}
+
 Report run(const Arguments &arguments) {
     const Subject subject = subjectOf(arguments.subject);
     const int instance = checkedInstance(arguments.instance, subject == Subject::Ssid ? "SSID" : "radio");
     const std::vector<Parameter> words = assignments(arguments.words);
     const Settings current = snapshot(subject, instance);
     const Settings wanted = requested(arguments, words, *current);
-    const Settings changes = differences(*current, *wanted, arguments.force);
+    const Settings changes = differences(*current, *wanted, arguments.force || arguments.storeOnly);
     const bool writes = changes->count > 0 && !arguments.dryRun;
 
     Report result{
@@ -146,10 +175,11 @@ Report run(const Arguments &arguments) {
     addChanges(result, *current, *changes);
     noteChannel(*changes, *current, result.notes);
     if (writes && !arguments.storeOnly) {
-        noteReadBack(*snapshot(subject, instance), *changes, result.notes);
+        noteReadBack(*readBack(subject, instance), *changes, result.notes);
     }
     if (changes->count == 0) {
-        result.notes.emplace_back("nothing to change");
+        result.notes.emplace_back(
+            "nothing to change: these are the values in force (--force writes them all the same)");
     } else if (arguments.dryRun) {
         result.notes.emplace_back("not written: this is a dry run");
     } else if (arguments.storeOnly) {
@@ -166,8 +196,10 @@ Run define(CLI::App &command) {
                  "New values, named as `wifi ssid` and `wifi "
                  "radio` show them");
     addFlag(command, "--ui", arguments->ui, "The values are in the user interface's words");
-    addFlag(command, "--dry-run", arguments->dryRun, "Only tell what would be written");
-    addFlag(command, "--db-only", arguments->storeOnly, "Store without applying: in force after the next start");
+    addFlag(command, "--dry-run", arguments->dryRun,
+            "Only tell what would be written; whether the gateway takes the values is not checked");
+    addFlag(command, "--db-only", arguments->storeOnly,
+            "Store all that is given without applying: in force after the next start");
     addFlag(command, "--force", arguments->force, "Write values that are the same as well");
     return [arguments] { return run(*arguments); };
 }

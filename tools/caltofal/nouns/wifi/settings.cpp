@@ -3,10 +3,12 @@
 #include "nouns/wifi/settings.h"
 
 #include "arguments.h"
+#include "failure.h"
 #include "nouns/wifi/interface.h"
 #include "nouns/wifi/verbs.h"
 #include "page_call.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace cli::wifi {
@@ -20,31 +22,45 @@ const char *convertSecurity(const char *text, int direction) {
                           : UiToFapi_Str(text, SecurityType_FapiToUi_Table, kRows);
 }
 
+// The library has these in no table.
+constexpr PairRow kPowerWords[] = {{"100", "high"}, {"50", "medium"}, {"25", "low"}};
+
 struct Row {
     std::string_view parameter;
     Convert convert;
+    std::span<const PairRow> pairs; // all words that there are
 };
 
-constexpr Row kConverters[] = {
-    {"AutoChannelEnable", AutoChannelEnable_ConvStr},
-    {"Dot11nProtection", Dot11nProtect_ConvStr},
-    {"ExtensionChannel", ExtensionChannel_ConvStr},
-    {"GuardInterval", ShortGuardInterval_ConvStr},
-    {"ModeEnabled", convertSecurity},
-    {"OperatingChannelBandwidth", BandWidth_ConvStr},
-    {"OperatingStandards", OperatingStandards_ConvStr},
-    {"TransmitPower", TransmitPower_ConvStr},
-    {"VhtGuardInterval", VhtShortGuardInterval_ConvStr},
-    {"X_ZINTU_WMMOption", WMMOption_ConvStr},
+const Row kConverters[] = {
+    {"Dot11nProtection", Dot11nProtect_ConvStr, Dot11nProtect_FapiToUi_Table},
+    {"ExtensionChannel", ExtensionChannel_ConvStr, SideBand_FapiToUi_Table},
+    {"GuardInterval", ShortGuardInterval_ConvStr, ShortGuardInterval_FapiToUi_Table},
+    {"ModeEnabled", convertSecurity, SecurityType_FapiToUi_Table},
+    {"OperatingChannelBandwidth", BandWidth_ConvStr, BandWidth_FapiToUi_Table},
+    {"OperatingStandards", OperatingStandards_ConvStr, WireLessMode_FapiToUi_Table},
+    {"TransmitPower", TransmitPower_ConvStr, kPowerWords},
+    {"VhtGuardInterval", VhtShortGuardInterval_ConvStr, VhtShortGuardInterval_FapiToUi_Table},
+    {"X_ZINTU_WMMOption", WMMOption_ConvStr, WMM_Option_FapiToUi_Table},
 };
 
-std::string converted(const std::string &parameter, const std::string &value, int direction) {
-    for (const Row &row : kConverters) {
-        if (row.parameter == parameter) {
-            return row.convert(value.c_str(), direction);
+const Row *converterOf(const std::string &parameter) {
+    const Row *const found = std::find_if(std::begin(kConverters), std::end(kConverters),
+                                          [&](const Row &row) { return row.parameter == parameter; });
+    return found == std::end(kConverters) ? nullptr : found;
+}
+
+// The library passes unknown words on, or takes them for its first one.
+void checkWord(const Row &row, const std::string &word) {
+    std::string words;
+    for (const PairRow &pair : row.pairs) {
+        const std::string known = text(pair.sSecond);
+        if (known == word) {
+            return;
         }
+        words += (words.empty() ? "" : ", ") + known;
     }
-    return value;
+    throw Failure(Exit::Refused, std::string(row.parameter) + ": \"" + word.substr(0, 40) +
+                                     "\" is no word of the user interface; there are " + words);
 }
 
 std::string lastPart(const std::string &object) {
@@ -91,16 +107,31 @@ Settings snapshot(Subject subject, int instance) {
         return subject == Subject::Ssid ? GetSsIdInfoFromFapiToBuff(instance, table.get())
                                         : GetWireInfoFromFapiToBuff(instance, table.get());
     };
+    const auto isUplink = [&] {
+        const std::vector<Object> ssid =
+            get({{"Device.WiFi.SSID." + std::to_string(instance), {{"X_ZINTU_NetworkType", {}}}}}, Reading::Leaf);
+        return !ssid.empty() && valueOf(ssid.front(), "X_ZINTU_NetworkType") == "uplink";
+    };
+    if (subject == Subject::Ssid && isUplink()) {
+        throw Failure(Exit::Absent, "SSID " + std::to_string(instance) + " is an uplink: it has no access point",
+                      "Device.WiFi.AccessPoint." + std::to_string(instance));
+    }
     ask(call, {"no settings of that number"});
     return table;
 }
 
 std::string uiWord(const std::string &parameter, const std::string &value) {
-    return converted(parameter, value, 1);
+    const Row *row = converterOf(parameter);
+    return row ? row->convert(value.c_str(), 1) : value;
 }
 
 std::string fapiWord(const std::string &parameter, const std::string &value) {
-    return converted(parameter, value, 0);
+    const Row *row = converterOf(parameter);
+    if (!row) {
+        return value;
+    }
+    checkWord(*row, value);
+    return row->convert(value.c_str(), 0);
 }
 
 const Noun kSsidVerb = {"ssid", "The settings of an SSID, its access point and its security", "1\n9 --json",

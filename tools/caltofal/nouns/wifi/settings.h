@@ -27,6 +27,7 @@ inline std::span<const WifiParamRow> rows(const WifiParamTable &table) {
 }
 
 // A parameter's value in the words of the user interface, and back; unchanged where both are the same.
+// fapiWord() throws Failure for a word that the user interface has not.
 std::string uiWord(const std::string &parameter, const std::string &value);
 std::string fapiWord(const std::string &parameter, const std::string &value);
 

@@ -45,20 +45,18 @@ std::vector<Cell> rowOf(const Json &station) {
 
 Report run(const Arguments &arguments) {
     checkedInterface(arguments.interface);
-    if (!arguments.mac.empty() && isValidMacAddress(arguments.mac.c_str()) == 0) {
-        throw Usage("\"" + arguments.mac.substr(0, 40) + "\" is no MAC address");
-    }
+    const std::string mac = arguments.mac.empty() ? "" : checkedMac(arguments.mac);
     needDevice();
     findInterface(arguments.interface);
     WifiStaList list{};
     ShellOutput output;
-    const int count = GetStaInfo(arguments.interface.c_str(), arguments.mac.c_str(), &list);
+    const int count = GetStaInfo(arguments.interface.c_str(), mac.c_str(), &list);
     const std::string complaint = output.end();
     if (count == 0 && !complaint.empty()) {
         failOfShell("the driver tells no stations of " + arguments.interface, complaint);
     }
-    if (count == 0 && !arguments.mac.empty()) {
-        throw Failure(Exit::Absent, arguments.mac + " is no station of " + arguments.interface);
+    if (count == 0 && !mac.empty()) {
+        throw Failure(Exit::Absent, mac + " is no station of " + arguments.interface);
     }
     Report result{{{"interface", arguments.interface}, {"stations", Json::array()}}, {}, {}, {}};
     result.table.headings = {"STATION", "DBM", "ANT1", "ANT2", "ANT3", "ANT4"};

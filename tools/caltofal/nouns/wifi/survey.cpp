@@ -32,7 +32,7 @@ struct Survey {
     ~Survey() { free(list.entries); } // NOLINT(cppcoreguidelines-no-malloc): the library allocates it so
 };
 
-// Both bands' results in one file, as long as it is needed.
+// Several interfaces' results in one file, as long as it is needed.
 class CombinedFile {
   public:
     CombinedFile() : path_(kCombinedFile) {
@@ -83,11 +83,10 @@ bool exists(const std::string &file) {
     return access(file.c_str(), F_OK) == 0;
 }
 
-// The first interface of each radio that has a result.
 std::vector<std::string> interfacesWithResult() {
     std::vector<std::string> names;
-    for (const Object &radio : get({{"Device.WiFi.Radio", {{"Name", {}}}}}, Reading::Whole)) {
-        const std::string name = valueOf(radio, "Name");
+    for (const Object &ssid : get({{"Device.WiFi.SSID", {{"Name", {}}}}}, Reading::Whole)) {
+        const std::string name = valueOf(ssid, "Name");
         if (!name.empty() && exists(surveyFile(checkedInterface(name)))) {
             names.push_back(name);
         }
@@ -98,18 +97,24 @@ std::vector<std::string> interfacesWithResult() {
 Report surveyOfAll(const std::string &ssid) {
     const std::vector<std::string> names = interfacesWithResult();
     if (names.empty()) {
-        throw Failure(Exit::Absent, "no radio has a result; caltofal wifi scan INTERFACE makes one");
+        throw Failure(Exit::Absent, "no interface has a result; caltofal wifi scan INTERFACE makes one");
     }
     if (names.size() == 1) {
         return surveyReport(surveyFile(names[0]), ssid);
     }
-    const CombinedFile both;
+    // What was joined so far and what one more makes of it, in turn.
+    const CombinedFile files[2];
+    std::string all = surveyFile(names[0]);
     ShellOutput output;
-    CombineScanResultFiles(surveyFile(names[0]).c_str(), surveyFile(names[1]).c_str(), both.path().c_str());
+    for (size_t i = 1; i < names.size(); ++i) {
+        const std::string &target = files[i % 2].path();
+        CombineScanResultFiles(all.c_str(), surveyFile(names[i]).c_str(), target.c_str());
+        all = target;
+    }
     if (const std::string complaint = output.end(); !complaint.empty()) {
         failOfShell("the results can not be joined", complaint);
     }
-    return surveyReport(both.path(), ssid);
+    return surveyReport(all, ssid);
 }
 
 Report run(const Arguments &arguments) {
@@ -152,7 +157,10 @@ Report surveyReport(const std::string &file, const std::string &ssid) {
     }
     const int lost = ssid.empty() ? GetFileLineCnt(file.c_str()) - count : 0;
     if (count == 0) {
-        result.notes.emplace_back(ssid.empty() ? "no networks found" : "that network was not found");
+        if (!ssid.empty()) {
+            throw Failure(Exit::Absent, "the network \"" + ssid + "\" was not found");
+        }
+        result.notes.emplace_back("no networks found");
     }
     if (lost > 0) {
         result.notes.push_back(std::to_string(lost) + (lost == 1 ? " line" : " lines") +

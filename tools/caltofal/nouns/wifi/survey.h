@@ -11,7 +11,7 @@ namespace cli::wifi {
 // The result file of an interface whose name was checked.
 std::string surveyFile(const std::string &interface);
 
-// The networks of a result file; with an `ssid`, only that one.
+// The networks of a result file; with an `ssid`, only that one: throws Failure when it is not there.
 Report surveyReport(const std::string &file, const std::string &ssid);
 
 } // namespace cli::wifi

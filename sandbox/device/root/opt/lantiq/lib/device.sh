@@ -27,6 +27,6 @@ complain() {
 
 # Writes standard input to a file at once: readers see all of it or what was there before.
 replace() {
-    draft=${1%/*}/.${1##*/}.$$
-    cat >"$draft" && mv "$draft" "$1"
+    draft=$(mktemp "${1%/*}/.${1##*/}.XXXXXX") || return
+    chmod 644 "$draft" && cat >"$draft" && mv "$draft" "$1"
 }
