@@ -52,6 +52,14 @@ class SurveyReader {
     const char *filter_;
 };
 
+// A call of its own: its block of text and the line count's are never on the stack at the same time.
+[[gnu::noinline]] void readLines(File &file, SurveyReader &reader) {
+    LineBlocks<kLineSize> blocks(file);
+    while (char *line = blocks.next()) {
+        reader.addLine(line);
+    }
+}
+
 } // namespace
 
 int GetSiteSurveyList(const char *path, SiteSurveyList *list, const char *ssidFilter) {
@@ -80,9 +88,6 @@ int GetSiteSurveyList(const char *path, SiteSurveyList *list, const char *ssidFi
         return list->count;
     }
     SurveyReader reader(*list, lines, *ssidFilter ? ssidFilter : nullptr);
-    LineBlocks<kLineSize> blocks(file);
-    while (char *line = blocks.next()) {
-        reader.addLine(line);
-    }
+    readLines(file, reader);
     return list->count;
 }
