@@ -2,7 +2,8 @@
 // A text put together on the stack; what is put together here is too short and simple for printf().
 #pragma once
 
-#include <charconv>
+#include "text.h"
+
 #include <cstdarg>
 #include <cstddef>
 #include <cstdio>
@@ -25,8 +26,8 @@ class BoundedText {
     }
     void append(const char *text) { append(text, strlen(text)); }
     void append(int number) {
-        char digits[12];
-        append(digits, static_cast<size_t>(std::to_chars(digits, digits + sizeof(digits), number).ptr - digits));
+        char digits[kNumberSize];
+        append(digits, static_cast<size_t>(putNumber(digits, number) - digits));
     }
     // As vsnprintf(), in the place of what is there.
     [[gnu::format(printf, 2, 0)]] void format(const char *format, va_list arguments) {

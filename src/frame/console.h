@@ -3,8 +3,8 @@
 #pragma once
 
 #include "bounded_text.h"
+#include "text.h"
 
-#include <charconv>
 #include <cstring>
 
 namespace frame {
@@ -38,7 +38,7 @@ char *putPart(char *end, FieldText<Size> field) {
     return static_cast<char *>(mempcpy(end, field.text, strnlen(field.text, Size)));
 }
 inline char *putPart(char *end, int number) {
-    return std::to_chars(end, end + sizeof("-2147483648"), number).ptr;
+    return putNumber(end, number);
 }
 
 // What a part takes at most.

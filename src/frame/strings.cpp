@@ -6,18 +6,13 @@
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
 #include <cstring>
 #include <strings.h>
 
 using namespace frame;
 
 int itoa(int value, char *out) {
-    char digits[12] = "";
-    if (value > 0) {
-        std::to_chars(digits, digits + sizeof(digits), value);
-    }
-    strcpy(out, digits);
+    *(value > 0 ? putNumber(out, value) : out) = '\0';
     return 0;
 }
 

@@ -35,6 +35,24 @@ bool contains(const char *text, std::string_view word) {
     return strncmp(text, word.data(), word.size()) == 0 || (*text && strstr(text + 1, word.data()));
 }
 
+char *putNumber(char *out, int number) {
+    char digits[kNumberSize];
+    size_t count = 0;
+    auto rest = static_cast<unsigned>(number);
+    if (number < 0) {
+        *out++ = '-';
+        rest = 0U - rest;
+    }
+    do {
+        digits[count++] = static_cast<char>('0' + rest % 10);
+        rest /= 10;
+    } while (rest > 0);
+    while (count > 0) {
+        *out++ = digits[--count];
+    }
+    return out;
+}
+
 int number(const char *text) {
     constexpr ptrdiff_t kDigits = 9;
     const bool negative = *text == '-';

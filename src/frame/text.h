@@ -69,6 +69,13 @@ bool contains(const char *text, std::string_view word);
 // As atoi(), which is slow for what numbers mostly are: up to nine digits.
 int number(const char *text);
 
+// The longest number in decimal digits, without a terminator.
+inline constexpr size_t kNumberSize = sizeof("-2147483648") - 1;
+
+// Writes a number in decimal digits, without a terminator; where they end. Smaller than to_chars(), which comes with a
+// table and a copy of itself for every file.
+char *putNumber(char *out, int number);
+
 // Whether a switch is on: the text begins with '1', or with "true" in any case.
 bool isOn(const char *text);
 

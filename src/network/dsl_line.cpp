@@ -13,18 +13,6 @@ using namespace network;
 
 namespace {
 
-struct Request {
-    const char *object;
-    Fields fields;
-};
-
-constexpr Request kRequests[] = {
-    {"Device.DSL.Line.1.", Fields(kDslLine).with("Status")},
-    {"Device.DSL.Channel.1.", kDslChannel},
-    {"Device.DSL.Line.1.TestParams.", kDslTestParams},
-    {"Device.DSL.Channel.1.Stats.Total.", kDslTotals},
-};
-
 // Judged in the field after the copy: what a longer earlier text left behind counts too.
 void storeStatus(const char *value, char (&status)[16]) {
     if (strlen(value) >= sizeof(status)) {
@@ -51,23 +39,29 @@ void fillLine(ObjectNode &line, const Fields &fields, ZintuDslLineInfo &info) {
     }
 }
 
-} // namespace
-
-int32_t ZintuGet_LineInfo(ZintuDslLineInfo *info) {
-    for (const Request &request : kRequests) {
-        Message message;
-        const int code = getObject(message, request.object);
-        if (code != 0) {
-            return failed(code, "faltocal_SendMultiObj is Failure \n");
-        }
-        const bool isLine = &request == kRequests;
-        for (ObjectNode &object : objects(*message)) {
-            if (isLine) {
-                fillLine(object, request.fields, *info);
-            } else {
-                fill(object, request.fields, *info, Empty::Skip);
-            }
+// 0, or -1 with a trace.
+int read(const char *object, const Fields &fields, bool isLine, ZintuDslLineInfo &info, const char *function) {
+    Message message;
+    const int code = getObject(message, object);
+    if (code != 0) {
+        return failed(code, "faltocal_SendMultiObj is Failure \n", __LINE__, function);
+    }
+    for (ObjectNode &answer : objects(*message)) {
+        if (isLine) {
+            fillLine(answer, fields, info);
+        } else {
+            fill(answer, fields, info, Empty::Skip);
         }
     }
     return 0;
+}
+
+} // namespace
+
+int32_t ZintuGet_LineInfo(ZintuDslLineInfo *info) {
+    const bool done = read("Device.DSL.Line.1.", Fields(kDslLine).with("Status"), true, *info, __func__) == 0 &&
+                      read("Device.DSL.Channel.1.", kDslChannel, false, *info, __func__) == 0 &&
+                      read("Device.DSL.Line.1.TestParams.", kDslTestParams, false, *info, __func__) == 0 &&
+                      read("Device.DSL.Channel.1.Stats.Total.", kDslTotals, false, *info, __func__) == 0;
+    return done ? 0 : -1;
 }

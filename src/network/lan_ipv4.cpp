@@ -13,29 +13,19 @@ using namespace network;
 
 namespace {
 
-// Objects are told apart by what their name contains.
-struct Page {
-    std::string_view namePart;
-    Fields fields;
-};
-
-constexpr Page kPages[] = {
-    {"Device.IP.Interface.1.IPv4Address.1", kLanAddress},
-    {"Device.DHCPv4.Server.Pool.1", kLanPool},
-    {"Device.Ethernet.Interface.1", kLanEthernet},
-};
-
 // contains() for an object's name, which may be compared as far as the part reaches.
 bool nameContains(const ObjectNode &object, std::string_view part) {
     return memcmp(object.name, part.data(), part.size()) == 0 || (*object.name && strstr(object.name + 1, part.data()));
 }
 
+// Objects are told apart by what their name contains.
 void fillFrom(ObjectNode &object, LANv4Info &info) {
-    for (const Page &page : kPages) {
-        if (nameContains(object, page.namePart)) {
-            fill(object, page.fields, info);
-            return;
-        }
+    if (nameContains(object, "Device.IP.Interface.1.IPv4Address.1")) {
+        fill(object, kLanAddress, info);
+    } else if (nameContains(object, "Device.DHCPv4.Server.Pool.1")) {
+        fill(object, kLanPool, info);
+    } else if (nameContains(object, "Device.Ethernet.Interface.1")) {
+        fill(object, kLanEthernet, info);
     }
 }
 

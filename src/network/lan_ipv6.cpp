@@ -74,7 +74,7 @@ void synthesiseAddress(LANv6Info &info) {
 }
 
 struct Request {
-    const char *object;
+    char object[52];
     int line;
 };
 

@@ -17,8 +17,8 @@ namespace {
 enum Held : uint8_t { TypeName, FirstWan, SecondWan, Enabled, HeldCount };
 
 struct HeldRow {
-    const char *object;
-    const char *param;
+    char object[57];
+    char param[10];
 };
 
 constexpr HeldRow kHeld[HeldCount] = {

@@ -88,7 +88,7 @@ class Box(unittest.TestCase):
                 ("wifi wps start", signal.SIGINT, "interrupted: WPS cancelled"),
                 ("mesh sync -g mesh", signal.SIGTERM, "interrupted: the satellites take the settings all the same")):
             with self.subTest(words):
-                result = interrupted(tool, words.split(), number, 1.5, self.folder)
+                result = interrupted(tool, words.split(), number, 2.5, self.folder)
                 self.assertEqual((result.code, result.out, result.err), (128 + number, b"", f"caltofal: {message}\n"))
         for delay in (0.03, 0.06, 0.1, 0.15, 0.2, 0.3, 0.4, 1.5):
             for number, send in ((signal.SIGINT, os.killpg), (signal.SIGHUP, os.kill), (signal.SIGQUIT, os.kill)):

@@ -27,8 +27,10 @@ int words = STDERR_FILENO; // standard error may lead elsewhere for a while
 std::array<std::string, kSignals.size()> lines;
 
 void handle(int signal) {
+    // A key reaches the process and its box, which passes it on: the second is the same one, and is being reported.
+    const bool again = came != 0;
     came = signal;
-    if (deferred != 0) {
+    if (deferred != 0 || again) {
         return;
     }
     for (size_t i = 0; i < kSignals.size(); ++i) {
