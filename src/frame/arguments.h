@@ -1,10 +1,21 @@
 // SPDX-License-Identifier: MIT
-// The parameters of a request, from variable arguments or from an array.
+// A request, and its parameters from variable arguments or from an array.
 #pragma once
+
+#include "caltofal.h"
 
 #include <cstdarg>
 
 namespace frame {
+
+// A request as its caller words it; the parameters come as Arguments.
+struct Request {
+    MsgHeader *message;
+    const char *object;
+    const char *mainOper;
+    const char *subOper;
+    int count;
+};
 
 // Texts taken one after another. It refers to the caller's va_list or array.
 class Arguments {

@@ -24,14 +24,6 @@ struct TraceLines {
     int failedSend;
 };
 
-struct Request {
-    MsgHeader *message;
-    const char *object;
-    const char *mainOper;
-    const char *subOper;
-    int count;
-};
-
 // The object's path as it is sent: at most 255 characters, and without the "&".
 class Path {
   public:

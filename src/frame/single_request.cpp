@@ -10,14 +10,6 @@ namespace {
 
 using Sender = int (*)(MsgHeader *);
 
-struct Request {
-    MsgHeader *message;
-    const char *object;
-    const char *mainOper;
-    const char *subOper;
-    int count;
-};
-
 int sendOne(const Request &request, Arguments arguments, uint32_t owner, Sender send) {
     const uint32_t main = mainOperation(request.mainOper);
     if (main == 0) {
