@@ -42,24 +42,29 @@ int writeToConsole(const char *line, size_t length) {
     return close(console);
 }
 
-} // namespace frame
-
-using namespace frame;
-
-int PRINT_TO_CONSOLE(const char *format, ...) {
+int printToConsole(const char *format, va_list arguments) {
     const char *sign = strchrnul(format, '%');
     if (!*sign) {
         return writeToConsole(format, std::min(static_cast<size_t>(sign - format), kConsoleSize - 1));
     }
     ConsoleLine line;
+    va_list again; // formatSimple() may give up halfway
+    va_copy(again, arguments);
+    if (!formatSimple(line, format, sign, arguments)) {
+        line.format(format, again);
+    }
+    va_end(again);
+    return writeToConsole(line);
+}
+
+} // namespace frame
+
+using namespace frame;
+
+int PRINT_TO_CONSOLE(const char *format, ...) {
     va_list arguments;
     va_start(arguments, format);
-    const bool simple = formatSimple(line, format, sign, arguments);
+    const int result = printToConsole(format, arguments);
     va_end(arguments);
-    if (!simple) {
-        va_start(arguments, format);
-        line.format(format, arguments);
-        va_end(arguments);
-    }
-    return writeToConsole(line);
+    return result;
 }

@@ -5,6 +5,7 @@
 #include "bounded_text.h"
 #include "text.h"
 
+#include <cstdarg>
 #include <cstring>
 
 namespace frame {
@@ -17,6 +18,9 @@ int writeToConsole(const char *line, size_t length);
 inline int writeToConsole(const ConsoleLine &line) {
     return writeToConsole(line, line.length());
 }
+
+// PRINT_TO_CONSOLE() of arguments at hand.
+[[gnu::format(printf, 1, 0)]] int printToConsole(const char *format, va_list arguments);
 
 // A field of a record as a part of a line: one that is full has no terminator.
 template <size_t Size>

@@ -74,16 +74,14 @@ int GetDeviceID(char *identifier) {
     }
     Message message;
     if (faltocal_send_main_multi_obj(message, "Device.Hosts.", "get", "get", 0) == -1) {
-        traceError(1124);
-        PRINT_TO_CONSOLE("faltocal_send_main_multi_obj is Failure\n");
+        traceError({1124}, "faltocal_send_main_multi_obj is Failure\n");
         return 0;
     }
     TableObject table;
     for (ObjectNode &object : objects(*message)) {
         if (!strstr(object.name, "Host.")) {
             if (table.isEmpty(object)) {
-                traceVola(kFaltoCal, 1135);
-                PRINT_TO_CONSOLE("There is no Device.Hosts.Host entry \n");
+                traceVola({Unit::FaltoCal, 1135}, "There is no Device.Hosts.Host entry \n");
                 return 0;
             }
         } else if (!strstr(object.name, "Address")) {
@@ -93,7 +91,7 @@ int GetDeviceID(char *identifier) {
             }
         }
     }
-    traceVola(kFaltoCal, 1169);
-    PRINT_TO_CONSOLE("INPUT arg sIdentifier = %s is NOT exist in Device.Hosts.Host.{i}.\n", identifier);
+    traceVola({Unit::FaltoCal, 1169}, "INPUT arg sIdentifier = %s is NOT exist in Device.Hosts.Host.{i}.\n",
+              identifier);
     return 0;
 }

@@ -6,33 +6,29 @@
 namespace frame {
 namespace {
 
-struct Keyword {
-    char word[16];
-    uint32_t code;
+constexpr ExtendedOperation kMain[] = {
+    {"get", true, false, 1, 0x1004},
+    {"get_def_val", false, false, 1, 0x44},
+    {"get_leaf_node", false, false, 1, 0x1100},
+    {"get_filter_by_param_value", false, true, 1, 0x1100},
+    {"set", true, false, 2, 4},
+    {"set_only_db", false, false, 2, 4},
+    {"factoryreset", true, false, 32, 4},
+    {"backup", true, false, 64, 4},
+    {"reboot", true, false, 128, 4},
+    {"fwupgrade", true, false, 256, 4},
 };
 
-constexpr Keyword kMain[] = {
-    {"get", 1}, {"set", 2}, {"factoryreset", 32}, {"backup", 64}, {"reboot", 128}, {"fwupgrade", 256},
+constexpr ExtendedOperation kUnknown = {};
+
+struct SubOperation {
+    char word[4];
+    uint8_t code;
 };
 
-constexpr Keyword kSub[] = {
+constexpr SubOperation kSub[] = {
     {"get", 8}, {"set", 4}, {"add", 1}, {"del", 2}, {"act", 16},
 };
-
-constexpr ExtendedOperation kExtended[] = {
-    {"get", 1, 0x1004, false},
-    {"get_def_val", 1, 0x44, false},
-    {"get_leaf_node", 1, 0x1100, false},
-    {"get_filter_by_param_value", 1, 0x1100, true},
-    {"set", 2, 4, false},
-    {"set_only_db", 2, 4, false},
-    {"factoryreset", 32, 4, false},
-    {"backup", 64, 4, false},
-    {"reboot", 128, 4, false},
-    {"fwupgrade", 256, 4, false},
-};
-
-constexpr ExtendedOperation kUnknown = {"", 0, 0, false};
 
 // Words are too short for a call of strcmp().
 bool same(const char *word, const char *keyword) {
@@ -48,7 +44,7 @@ constexpr bool isGet(const char *word) {
     return word[0] == 'g' && word[1] == 'e' && word[2] == 't' && word[3] == '\0';
 }
 
-static_assert(isGet(kMain[0].word) && isGet(kSub[0].word) && isGet(kExtended[0].word));
+static_assert(isGet(kMain[0].word) && isGet(kSub[0].word));
 
 // The row of a word, or nullptr. Almost every request is a get, the first row of each table.
 template <class Row, size_t Count>
@@ -66,24 +62,20 @@ const Row *find(const Row (&table)[Count], const char *word) {
     return nullptr;
 }
 
-template <size_t Count>
-uint32_t codeOf(const Keyword (&table)[Count], const char *word) {
-    const Keyword *row = find(table, word);
-    return row ? row->code : 0;
-}
-
 } // namespace
 
 uint32_t mainOperation(const char *word) {
-    return codeOf(kMain, word);
+    const ExtendedOperation *row = find(kMain, word);
+    return row && row->isMain ? row->mainOper : 0;
 }
 
 uint32_t subOperation(const char *word) {
-    return codeOf(kSub, word);
+    const SubOperation *row = find(kSub, word);
+    return row ? row->code : 0;
 }
 
 const ExtendedOperation &extendedOperation(const char *word) {
-    const ExtendedOperation *row = find(kExtended, word);
+    const ExtendedOperation *row = find(kMain, word);
     return row ? *row : kUnknown;
 }
 

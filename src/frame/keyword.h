@@ -20,10 +20,11 @@ inline bool isKeyword(const char *word, const char *keyword) {
 
 // What a new multi-object message gets from its main keyword.
 struct ExtendedOperation {
-    char word[28];
-    uint32_t mainOper; // 0: unknown keyword
-    uint32_t listFlags;
-    bool filter; // parameters come with values to match
+    char word[26];
+    bool isMain;       // a word of mainOperation() too
+    bool filter;       // parameters come with values to match
+    uint16_t mainOper; // 0: unknown keyword
+    uint16_t listFlags;
 };
 
 // The words of mainOperation(), and "get_def_val", "get_leaf_node", "get_filter_by_param_value", "set_only_db".

@@ -12,8 +12,7 @@ namespace frame {
 namespace {
 
 void traceMissing(const char *name) {
-    traceVola(kFaltoCal, 1357, "zintu_GetParamFromObjUnit");
-    PRINT_TO_CONSOLE("Can't find Param(%s) in Obj\n", name);
+    traceVola({Unit::FaltoCal, 1357, "zintu_GetParamFromObjUnit"}, "Can't find Param(%s) in Obj\n", name);
 }
 
 // Points the value of the parameter's name to it, unless it has one.
@@ -86,8 +85,7 @@ int caltofal_paramValue_get(ObjectNode *objectList, const char *objectPart, cons
 
 int zintu_GetParamFromObjUnit(ObjectNode *object, const char *paramName, const char **out) {
     if (!object || !paramName || !*paramName || !out) {
-        traceVola(kFaltoCal, 1347);
-        PRINT_TO_CONSOLE("invalid parameter\n");
+        traceVola({Unit::FaltoCal, 1347}, "invalid parameter\n");
         return -1;
     }
     const char *value = findValue(*object, paramName);

@@ -19,8 +19,7 @@ struct CloseFile {
 using File = std::unique_ptr<FILE, CloseFile>;
 
 void trace(int line, const char *message) {
-    traceVola(kFaltoCal, line, "zintu_scapi_getMacFromFile");
-    PRINT_TO_CONSOLE("%s", message);
+    traceVola({Unit::FaltoCal, line, "zintu_scapi_getMacFromFile"}, "%s", message);
 }
 
 } // namespace
@@ -28,8 +27,7 @@ void trace(int line, const char *message) {
 int zintu_scapi_getMacFromFile(const char *interfaceName, char *macOut) {
     const File file(fopen("/opt/lantiq/etc/nextmac.conf", "ab+"));
     if (!file) {
-        traceError(1240);
-        PRINT_TO_CONSOLE("fopen is Failure\n");
+        traceError({1240}, "fopen is Failure\n");
         return -1;
     }
     char key[32];

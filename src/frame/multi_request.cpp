@@ -75,14 +75,12 @@ void addParameters(ObjectNode *node, uint32_t mainOper, bool filter, uint32_t li
 }
 
 int unknownWord(const TraceLines &lines, int line, const char *word, const char *object) {
-    traceVola(kFaltoCal, line, lines.function);
-    PRINT_TO_CONSOLE("Failure : Unknown args sMainOper = %s of %s \n", word, object);
+    traceVola({Unit::FaltoCal, line, lines.function}, "Failure : Unknown args sMainOper = %s of %s \n", word, object);
     return -1;
 }
 
 int failedSend(const TraceLines &lines, const char *object) {
-    traceVola(kFaltoCal, lines.failedSend, lines.function);
-    PRINT_TO_CONSOLE("Failure : faltocal_sendQuery() of %s \n", object);
+    traceVola({Unit::FaltoCal, lines.failedSend, lines.function}, "Failure : faltocal_sendQuery() of %s \n", object);
     return -1;
 }
 
@@ -128,8 +126,7 @@ int faltocal_send_main_multi_obj(MsgHeader *message, const char *object, const c
     const Request request = {message, object, mainOper, subOper, count};
     if (isQuery(object)) {
         if (!message->objectList) {
-            traceVola(kFaltoCal, 661);
-            PRINT_TO_CONSOLE("Failure : Received MsgHdr is NULL. can NOT do query.\n");
+            traceVola({Unit::FaltoCal, 661}, "Failure : Received MsgHdr is NULL. can NOT do query.\n");
             return -1;
         }
         return send(request, isStoreOnly(request), kLines);

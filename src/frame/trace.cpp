@@ -3,12 +3,15 @@
 
 #include "console.h"
 
-namespace frame {
+#include <cstdarg>
 
-void traceVola(const char *unit, int line, const char *function) {
+namespace frame {
+namespace {
+
+void writeTag(Unit unit, int line, const char *function) {
     ConsoleLine tag;
     tag.append("[ZINTU VOLA FAL] (");
-    tag.append(unit);
+    tag.append(kUnitNames[static_cast<int>(unit)]);
     tag.append(":");
     tag.append(line);
     tag.append(", ");
@@ -17,16 +20,31 @@ void traceVola(const char *unit, int line, const char *function) {
     writeToConsole(tag);
 }
 
+} // namespace
+
+void detail::vola(Unit unit, int line, const char *function, const char *format, ...) {
+    writeTag(unit, line, function);
+    va_list arguments;
+    va_start(arguments, format);
+    printToConsole(format, arguments);
+    va_end(arguments);
+}
+
 void traceVola(const VolaTag &tag) {
     writeToConsole(tag.text(), tag.length());
 }
 
-void traceError(int line, const char *function) {
+void detail::error(int line, const char *function, const char *format, ...) {
     PRINT_TO_CONSOLE("\n\n\t[%s : %d] ", function, line);
+    va_list arguments;
+    va_start(arguments, format);
+    printToConsole(format, arguments);
+    va_end(arguments);
 }
 
-void traceCode(int code, int line, const char *function) {
-    PRINT_TO_CONSOLE("\n\n\t[%s : %d] (%d)", function, line, code);
+void traceCode(int code, const char *message, Spot spot) {
+    PRINT_TO_CONSOLE("\n\n\t[%s : %d] (%d)", spot.function, spot.line, code);
+    PRINT_TO_CONSOLE("%s", message);
 }
 
 } // namespace frame

@@ -28,23 +28,19 @@ int ZINTU_meshgrove_check_is_enabled(void) {
     if (faltocal_send_main_multi_obj(message, kRoamingMesh, "get", "get", 1, kEnable) == 0) {
         return isEnabled(*message) ? 1 : 0;
     }
-    traceError(193);
-    PRINT_TO_CONSOLE("faltocal_send_main_multi_obj function failed with object [%s] param [%s] \n", kRoamingMesh,
-                     kEnable);
-    traceVola(kMeshGrove, 210);
-    PRINT_TO_CONSOLE("[ERROR] Return [false] \n");
+    traceError({193}, "faltocal_send_main_multi_obj function failed with object [%s] param [%s] \n", kRoamingMesh,
+               kEnable);
+    traceVola({Unit::MeshGrove, 210}, "[ERROR] Return [false] \n");
     return 0;
 }
 
 int ZINTU_meshgrove_set_enable_value(uint8_t enable) {
-    traceVola(kMeshGrove, 296);
-    PRINT_TO_CONSOLE("START_FUNCTION : FAL with arg [%d] \n", enable);
+    traceVola({Unit::MeshGrove, 296}, "START_FUNCTION : FAL with arg [%d] \n", enable);
     Message message;
     const int result =
         faltocal_send_main_multi_obj(message, kRoamingMesh, "set", "set", 1, kEnable, enable != 0 ? "true" : "false");
     if (result == -1) {
-        traceError(301);
-        PRINT_TO_CONSOLE("faltocal_send_main_multi_obj is Failure\n");
+        traceError({301}, "faltocal_send_main_multi_obj is Failure\n");
     }
     return result;
 }

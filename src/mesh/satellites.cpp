@@ -29,19 +29,16 @@ char *ZINTU_meshgrove_get_IP_from_MAC(char *mac) {
 
 int ZINTU_meshgrove_sync_to_slave(void) {
     if (ZINTU_meshgrove_check_is_enabled() == 0) {
-        traceVola(kMeshGrove, 155);
-        PRINT_TO_CONSOLE("The Meshgrove is NOT enabled. Skip waiting for SSO. \n");
+        traceVola({Unit::MeshGrove, 155}, "The Meshgrove is NOT enabled. Skip waiting for SSO. \n");
         return 0;
     }
     // An unknown mode (-1) has the bit too: better one sync too many.
     if ((ZintuGet_OperMode() & kMasterMode) == 0) {
-        traceVola(kMeshGrove, 162);
-        PRINT_TO_CONSOLE("The operation mode is NOT Master. Skip waiting for SSO. \n");
+        traceVola({Unit::MeshGrove, 162}, "The operation mode is NOT Master. Skip waiting for SSO. \n");
         return 0;
     }
     if (!hasSatellite()) {
-        traceVola(kMeshGrove, 168);
-        PRINT_TO_CONSOLE("The connected slave is NOT exist. Skip waiting for SSO. \n");
+        traceVola({Unit::MeshGrove, 168}, "The connected slave is NOT exist. Skip waiting for SSO. \n");
         return 0;
     }
     // The daemon reads its pending command when it is signalled: an empty one asks for a sync.

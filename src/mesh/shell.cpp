@@ -19,19 +19,17 @@ bool isEmpty(const char *text) {
 bool readFirstLine(const char *command, char *output) {
     constexpr char kFunction[] = "get_from_shell";
     if (isEmpty(command) || !output) {
-        traceVola(kMeshGrove, 95, kFunction);
-        PRINT_TO_CONSOLE("[ERROR] Received arg CMD [%s] or return buffer is NULL \n", command);
+        traceVola({Unit::MeshGrove, 95, kFunction}, "[ERROR] Received arg CMD [%s] or return buffer is NULL \n",
+                  command);
         return false;
     }
     Pipe pipe(command);
     if (!pipe.started()) {
-        traceVola(kMeshGrove, 102, kFunction);
-        PRINT_TO_CONSOLE("[ERROR] popen failed with [%s] \n", command);
+        traceVola({Unit::MeshGrove, 102, kFunction}, "[ERROR] popen failed with [%s] \n", command);
         return false;
     }
     if (!pipe.readLine(output, kOutputSize)) {
-        traceVola(kMeshGrove, 110, kFunction);
-        PRINT_TO_CONSOLE("[ERROR] fgets function failed. \n");
+        traceVola({Unit::MeshGrove, 110, kFunction}, "[ERROR] fgets function failed. \n");
         return false;
     }
     return true;
@@ -40,24 +38,20 @@ bool readFirstLine(const char *command, char *output) {
 bool runAndReadFirstLine(const char *command, char *output) {
     constexpr char kFunction[] = "ZINTU_meshgrove_get_from_shell";
     if (isEmpty(command)) {
-        traceVola(kMeshGrove, 228, kFunction);
-        PRINT_TO_CONSOLE("Received arg CMD is NULL \n");
+        traceVola({Unit::MeshGrove, 228, kFunction}, "Received arg CMD is NULL \n");
         return false;
     }
     Pipe pipe(command);
     if (!pipe.started()) {
-        traceVola(kMeshGrove, 235, kFunction);
-        PRINT_TO_CONSOLE("popen failed with [%s] \n", command);
+        traceVola({Unit::MeshGrove, 235, kFunction}, "popen failed with [%s] \n", command);
         return false;
     }
     if (!output) {
-        traceVola(kMeshGrove, 243, kFunction);
-        PRINT_TO_CONSOLE("Received return buffer is NULL. Skip get return value. \n");
+        traceVola({Unit::MeshGrove, 243, kFunction}, "Received return buffer is NULL. Skip get return value. \n");
         return false;
     }
     if (!pipe.readLine(output, kOutputSize)) {
-        traceVola(kMeshGrove, 249, kFunction);
-        PRINT_TO_CONSOLE("fgets function failed. \n");
+        traceVola({Unit::MeshGrove, 249, kFunction}, "fgets function failed. \n");
         return false;
     }
     return true;
@@ -73,8 +67,7 @@ char *get_from_shell(const char *command, char *output) {
     if (output) {
         memset(output, 0, kOutputSize);
     }
-    traceVola(kMeshGrove, 134);
-    PRINT_TO_CONSOLE("[ERROR] Received CMD [%s] returns [%s] \n", command, output);
+    traceVola({Unit::MeshGrove, 134}, "[ERROR] Received CMD [%s] returns [%s] \n", command, output);
     return output;
 }
 
@@ -84,7 +77,6 @@ char *ZINTU_meshgrove_get_from_shell(const char *command, char *output) {
     } else if (output) {
         *output = '\0';
     }
-    traceVola(kMeshGrove, 272);
-    PRINT_TO_CONSOLE("Received CMD [%s] returns [%s] \n", command, output);
+    traceVola({Unit::MeshGrove, 272}, "Received CMD [%s] returns [%s] \n", command, output);
     return output;
 }

@@ -4,6 +4,7 @@
 #include "range.h"
 #include "request.h"
 #include "text.h"
+#include "trace.h"
 
 using namespace frame;
 using namespace network;
@@ -20,8 +21,7 @@ struct Outcome {
 constexpr Outcome kError = {-1, false};
 
 Outcome invalidInput(int line) {
-    traceError(line, "zintu_GetValueFromDBInfo");
-    PRINT_TO_CONSOLE("invalid input\n");
+    traceError({line, "zintu_GetValueFromDBInfo"}, "invalid input\n");
     return kError;
 }
 
@@ -65,10 +65,9 @@ Outcome find(const Query &query, char *outObjectName, char *outValue) {
 
 int32_t zintu_GetValueFromDBInfo(const char *object, const char *filterParam, const char *filterValue,
                                  const char *wantedParam, char *outObjectName, char *outValue) {
-    traceVola(kNetworkGet, 2055);
-    PRINT_TO_CONSOLE(">>>>>>>>>> Entering <<<<<<<<<<<<<\n");
+    traceVola({Unit::NetworkGet, 2055}, ">>>>>>>>>> Entering <<<<<<<<<<<<<\n");
     const Outcome outcome = find({object, filterParam, filterValue, wantedParam}, outObjectName, outValue);
-    traceVola(kNetworkGet, 2090);
-    PRINT_TO_CONSOLE(">>>>>>>>>> End(%d %s)  :: <<<<<<<<<<<<<\n", outcome.code, outcome.found ? "Found" : "Not Found");
+    traceVola({Unit::NetworkGet, 2090}, ">>>>>>>>>> End(%d %s)  :: <<<<<<<<<<<<<\n", outcome.code,
+              outcome.found ? "Found" : "Not Found");
     return outcome.found ? 0 : -1;
 }

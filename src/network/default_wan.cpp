@@ -7,6 +7,7 @@
 #include "range.h"
 #include "request.h"
 #include "text.h"
+#include "trace.h"
 
 #include <cstring>
 
@@ -139,8 +140,7 @@ void readPpp(Summary &summary) {
     copyPadded(info.sPppInterface, sizeof(info.sPppInterface), Terminated(info.sLowerLayers));
     Message message;
     if (faltocal_send_main_multi_obj(message, Terminated(info.sPppInterface), "get", "get", 0) != 0) {
-        traceVola(kNetworkGet, 636, "ZintuGet_DefWanInfo");
-        PRINT_TO_CONSOLE("faltocal_send_main_multi_obj function failed. \n");
+        traceVola({Unit::NetworkGet, 636, "ZintuGet_DefWanInfo"}, "faltocal_send_main_multi_obj function failed. \n");
         return;
     }
     for (ObjectNode &object : objects(*message)) {

@@ -5,6 +5,7 @@
 #include "lookup.h"
 #include "range.h"
 #include "request.h"
+#include "trace.h"
 
 #include <cstring>
 
@@ -69,13 +70,12 @@ void traceResult(const LANv4Info &info) {
 } // namespace
 
 int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info) {
-    static constexpr VolaTag kStart(kNetworkGet);
+    static constexpr VolaTag kStart(Unit::NetworkGet);
     traceVola(kStart);
     PRINT_TO_CONSOLE("START_FUNCTION : FAL \n");
     Message message;
     if (const int line = request(message)) {
-        traceError(line);
-        PRINT_TO_CONSOLE("faltocal_send_main_multi_obj is Failure\n");
+        traceError(line, "faltocal_send_main_multi_obj is Failure\n");
         return -1;
     }
     for (ObjectNode &object : objects(*message)) {
@@ -84,12 +84,11 @@ int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info) {
     message.reset();
     const int code = faltocal_SendMultiObj(1, 256, 2, message, "Device.DHCPv4.Server.", "get", "get", 1, "Enable");
     if (code == -1) {
-        traceError(1629);
-        PRINT_TO_CONSOLE("faltocal_SendMultiObj is Failure \n");
+        traceError(1629, "faltocal_SendMultiObj is Failure \n");
         return -1;
     }
     applyServerSwitch(message, *pxLANv4Info);
-    static constexpr VolaTag kResult(kNetworkGet);
+    static constexpr VolaTag kResult(Unit::NetworkGet);
     traceVola(kResult);
     traceResult(*pxLANv4Info);
     return code;

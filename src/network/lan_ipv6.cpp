@@ -5,6 +5,7 @@
 #include "range.h"
 #include "request.h"
 #include "text.h"
+#include "trace.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -60,8 +61,7 @@ bool fillFrom(ObjectNode &object, LANv6Info &info) {
     } else if (strstr(object.name, "Device.DHCPv6.Server.Pool.1")) {
         fill(object, kLanPoolV6, info);
     } else {
-        traceVola(kNetworkGet, 1774, "ZintuGet_LANv6Info");
-        PRINT_TO_CONSOLE("Received unhandled object = %s\n", object.name);
+        traceVola({Unit::NetworkGet, 1774, "ZintuGet_LANv6Info"}, "Received unhandled object = %s\n", object.name);
     }
     return false;
 }
@@ -97,27 +97,25 @@ int request(MsgHeader *message) {
 }
 
 void traceResult(const LANv6Info &info, int line = __builtin_LINE(), const char *function = __builtin_FUNCTION()) {
-    traceVola(kNetworkGet, line, function);
-    PRINT_TO_CONSOLE("return pxLANv6Info value : bIPv6Active = %d , sIPv6Address = %s ,  nPrefixLength = %d , "
-                     "sLANv6Mode = %s , sDNSv6Primary = %s , sDNSv6Secondary = %s , sDomainNamev6 = %s , "
-                     "sDHCPv6StartIP = %s , sDHCPv6EndIP = %s , nLeaseTimeSec = %d , bPDActive = %d , "
-                     "sManualPrefix = %s , nManualPrefixLength = %d \n",
-                     info.bIPv6Active, Terminated(info.sIPv6Address).c_str(), info.nPrefixLength,
-                     Terminated(info.sLANv6Mode).c_str(), Terminated(info.sDNSv6Primary).c_str(),
-                     Terminated(info.sDNSv6Secondary).c_str(), Terminated(info.sDomainNamev6).c_str(),
-                     Terminated(info.sDHCPv6StartIP).c_str(), Terminated(info.sDHCPv6EndIP).c_str(), info.nLeaseTimeSec,
-                     info.bPDActive, Terminated(info.sManualPrefix).c_str(), info.nManualPrefixLength);
+    traceVola({Unit::NetworkGet, line, function},
+              "return pxLANv6Info value : bIPv6Active = %d , sIPv6Address = %s ,  nPrefixLength = %d , "
+              "sLANv6Mode = %s , sDNSv6Primary = %s , sDNSv6Secondary = %s , sDomainNamev6 = %s , "
+              "sDHCPv6StartIP = %s , sDHCPv6EndIP = %s , nLeaseTimeSec = %d , bPDActive = %d , "
+              "sManualPrefix = %s , nManualPrefixLength = %d \n",
+              info.bIPv6Active, Terminated(info.sIPv6Address).c_str(), info.nPrefixLength,
+              Terminated(info.sLANv6Mode).c_str(), Terminated(info.sDNSv6Primary).c_str(),
+              Terminated(info.sDNSv6Secondary).c_str(), Terminated(info.sDomainNamev6).c_str(),
+              Terminated(info.sDHCPv6StartIP).c_str(), Terminated(info.sDHCPv6EndIP).c_str(), info.nLeaseTimeSec,
+              info.bPDActive, Terminated(info.sManualPrefix).c_str(), info.nManualPrefixLength);
 }
 
 } // namespace
 
 int32_t ZintuGet_LANv6Info(LANv6Info *pxLANv6Info) {
-    traceVola(kNetworkGet);
-    PRINT_TO_CONSOLE("START_FUNCTION : FAL \n");
+    traceVola(Unit::NetworkGet, "START_FUNCTION : FAL \n");
     Message message;
     if (const int line = request(message)) {
-        traceError(line);
-        PRINT_TO_CONSOLE("faltocal_send_main_multi_obj is Failure\n");
+        traceError({line}, "faltocal_send_main_multi_obj is Failure\n");
         return -1;
     }
     bool hasAddress = false;

@@ -4,6 +4,7 @@
 #include "range.h"
 #include "request.h"
 #include "text.h"
+#include "trace.h"
 
 #include <cctype>
 #include <cstring>
@@ -34,8 +35,7 @@ bool isInterface(const char *name) {
 
 int32_t ZintuGet_LowerLayers(const char *object, char *lowerLayers) {
     if (!object || !lowerLayers) {
-        traceError();
-        PRINT_TO_CONSOLE("input param is NULL \n");
+        traceError({}, "input param is NULL \n");
         return -1;
     }
     Message message;

@@ -4,6 +4,7 @@
 #include "range.h"
 #include "request.h"
 #include "text.h"
+#include "trace.h"
 
 #include <cstdio>
 #include <cstring>
@@ -101,7 +102,6 @@ int32_t ZintuGet_UciSectionOfDefGw(char *uciSection) {
         return -1;
     }
     copyPadded(uciSection, kSectionSize - 1, section);
-    traceVola(kNetworkGet);
-    PRINT_TO_CONSOLE("%s[%s]\n", "UciSection", section);
+    traceVola(Unit::NetworkGet, "%s[%s]\n", "UciSection", section);
     return 0;
 }

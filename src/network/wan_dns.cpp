@@ -5,6 +5,7 @@
 #include "range.h"
 #include "request.h"
 #include "text.h"
+#include "trace.h"
 
 #include <cstring>
 
@@ -139,8 +140,7 @@ int32_t ZintuGet_WanStaticDns(const char *ipInterface, int32_t *dnsAuto, char *d
     Message message;
     const int code = getTable(message, kServerTable);
     if (code == kAbsent) {
-        traceVola(kNetworkGet);
-        PRINT_TO_CONSOLE("no exist (%s)\n", kServerTable);
+        traceVola(Unit::NetworkGet, "no exist (%s)\n", kServerTable);
         *dnsAuto = 1;
         return 0;
     }

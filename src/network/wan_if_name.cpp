@@ -4,6 +4,7 @@
 #include "range.h"
 #include "request.h"
 #include "text.h"
+#include "trace.h"
 
 #include <cstring>
 
@@ -20,8 +21,7 @@ int32_t readName(char *ifName) {
     ZintuGet_DefGw(&info);
     const Terminated interface(info.sWanIpInterface);
     if (!strstr(interface, "Device.IP.Interface.")) {
-        traceVola(kNetworkGet, 2035, kFunction);
-        PRINT_TO_CONSOLE("ZintuGet_DefGw is Failure \n");
+        traceVola({Unit::NetworkGet, 2035, kFunction}, "ZintuGet_DefGw is Failure \n");
         return -1;
     }
     const int code = faltocal_SendMultiObj(1, 256, 2, message, interface, "get", "get", 1, "Name");
@@ -36,8 +36,7 @@ int32_t readName(char *ifName) {
         }
     }
     if (!name || !*name) {
-        traceVola(kNetworkGet, 2031, kFunction);
-        PRINT_TO_CONSOLE("Can't find WanIfName\n");
+        traceVola({Unit::NetworkGet, 2031, kFunction}, "Can't find WanIfName\n");
         return -1;
     }
     strcpy(ifName, name);
@@ -47,10 +46,8 @@ int32_t readName(char *ifName) {
 } // namespace
 
 int32_t zintu_GetWanIfName(char *ifName) {
-    traceVola(kNetworkGet, 2012);
-    PRINT_TO_CONSOLE(">>>>>>>>>> Entering <<<<<<<<<<<<<\n");
+    traceVola({Unit::NetworkGet, 2012}, ">>>>>>>>>> Entering <<<<<<<<<<<<<\n");
     const int32_t result = readName(ifName);
-    traceVola(kNetworkGet, 2039);
-    PRINT_TO_CONSOLE(">>>>>>>>>> End(%d)  :: <<<<<<<<<<<<<\n", result);
+    traceVola({Unit::NetworkGet, 2039}, ">>>>>>>>>> End(%d)  :: <<<<<<<<<<<<<\n", result);
     return result;
 }

@@ -37,16 +37,14 @@ bool hasValue(const WifiParamRow &row, const Setting &setting) {
 }
 
 void traceAbsent(const char *function, const Setting &setting) {
-    traceVola(kWifiUtil, __builtin_LINE(), function);
-    PRINT_TO_CONSOLE("\n\n  2.%s  <%s> [%s.%s=>%s]\n\n", function, "db don't have paramter", setting.object,
-                     setting.parameter, setting.value);
+    traceVola({Unit::WifiUtil, __builtin_LINE(), function}, "\n\n  2.%s  <%s> [%s.%s=>%s]\n\n", function,
+              "db don't have paramter", setting.object, setting.parameter, setting.value);
 }
 
 // A row is traced with the value that it has.
 void traceRow(const char *function, const WifiParamTable &table, const WifiParamRow &row) {
-    traceVola(kWifiUtil, __builtin_LINE(), function);
-    PRINT_TO_CONSOLE("\n\n  1.%s  <%d> [%s.%s=>%s]\n\n", function, static_cast<int>(&row - table.rows), row.object,
-                     row.parameter, row.value);
+    traceVola({Unit::WifiUtil, __builtin_LINE(), function}, "\n\n  1.%s  <%d> [%s.%s=>%s]\n\n", function,
+              static_cast<int>(&row - table.rows), row.object, row.parameter, row.value);
 }
 
 } // namespace

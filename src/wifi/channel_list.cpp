@@ -62,14 +62,14 @@ using Command = Formatted<128>;
 
 // Where the radio's number is unknown, its name is taken from the interface's.
 Command listCommand(const char *ifname, int phyNumber) {
-    traceVola(kWifiUtil, __LINE__, "GetChannelList");
+    const Place place(Unit::WifiUtil, __LINE__, "GetChannelList");
     if (phyNumber < 0) {
-        PRINT_TO_CONSOLE("GetPhyNumber Fail!!!\n");
+        traceVola(place, "GetPhyNumber Fail!!!\n");
         const char *phyName = DevToPhy_Str(ifname, Interface_DevToPhy_Table, std::size(Interface_DevToPhy_Table));
         return Command("iw phy %s show_channel", phyName);
     }
     const Command command("iw phy phy%d show_channel", phyNumber);
-    PRINT_TO_CONSOLE("GetPhyNumber %s\n", command.c_str());
+    traceVola(place, "GetPhyNumber %s\n", command.c_str());
     return command;
 }
 
@@ -109,7 +109,7 @@ int GetChannelList(const char *ifname, int radioIndex, WifiChannelList *list) {
     memset(list, 0, sizeof(*list));
     Message message;
     message.leave(); // hosts live with the loss of this one
-    if (faltocal_send_main_multi_obj(message, ObjectPath(kRadio, radioIndex), "get_leaf_node", "get", 1,
+    if (faltocal_send_main_multi_obj(message, ObjectPath(Table::Radio, radioIndex), "get_leaf_node", "get", 1,
                                      "IEEE80211hEnabled") == -1) {
         traceFailedRequest();
         return 0;
@@ -117,8 +117,7 @@ int GetChannelList(const char *ifname, int radioIndex, WifiChannelList *list) {
     const ChannelRules rules = {radarAllowed(*message), radioIndex == 1};
     Pipe pipe(listCommand(ifname, GetPhyNumber(ifname)));
     if (!pipe.started()) {
-        traceVola(kWifiUtil);
-        PRINT_TO_CONSOLE("popen()");
+        traceVola(Unit::WifiUtil, "popen()");
         return 0;
     }
     char line[kLineSize];

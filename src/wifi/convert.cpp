@@ -39,8 +39,8 @@ const char *convert(const char *text, int direction, const PairRow (&table)[Rows
     if (text && *text) {
         return convert(text, direction, table);
     }
-    traceVola(kWifiUtil, line, function);
-    PRINT_TO_CONSOLE("\n\n>>>>>>>>>> %s from parameter is unvalide  <<<<<<<<<<<<<\n\n", function);
+    traceVola({Unit::WifiUtil, line, function}, "\n\n>>>>>>>>>> %s from parameter is unvalide  <<<<<<<<<<<<<\n\n",
+              function);
     return direction == kToUi ? absent.ui : absent.fapi;
 }
 
@@ -48,8 +48,7 @@ const char *convert(const char *text, int direction, const PairRow (&table)[Rows
 
 const char *FapiToUi_Str(const char *text, const PairRow *table, int rows) {
     if (!text) {
-        traceVola(kWifiUtil, 13);
-        PRINT_TO_CONSOLE("Received str is NULL. \n");
+        traceVola({Unit::WifiUtil, 13}, "Received str is NULL. \n");
         return nullptr;
     }
     return translate(text, table, rows, &PairRow::sFirst, &PairRow::sSecond);
@@ -57,8 +56,7 @@ const char *FapiToUi_Str(const char *text, const PairRow *table, int rows) {
 
 const char *UiToFapi_Str(const char *text, const PairRow *table, int rows) {
     if (!text) {
-        traceVola(kWifiUtil, 42);
-        PRINT_TO_CONSOLE("Received str is NULL. \n");
+        traceVola({Unit::WifiUtil, 42}, "Received str is NULL. \n");
         return nullptr;
     }
     return translate(text, table, rows, &PairRow::sSecond, &PairRow::sFirst);

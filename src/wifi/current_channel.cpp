@@ -26,8 +26,7 @@ int GetCurrentChannel(const char *ifname, int /*ignored*/, int *channel) {
     const Formatted<128> command("iwlist %s channel", ifname);
     Pipe pipe(command);
     if (!pipe.started()) {
-        traceVola(kWifiUtil);
-        PRINT_TO_CONSOLE("popen()");
+        traceVola(Unit::WifiUtil, "popen()");
         return 0;
     }
     char line[kLineSize];

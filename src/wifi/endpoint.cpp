@@ -23,9 +23,9 @@ struct EndPoint {
 };
 
 bool askEndPoints(MsgHeader *message) {
-    return faltocal_send_main_multi_obj(message, ObjectPath(kEndPoint, 1, "&"), "get_leaf_node", "get", 2, "Enable",
-                                        "SSIDReference") != -1 &&
-           faltocal_send_main_multi_obj(message, ObjectPath(kEndPoint, 2), "get_leaf_node", "get", 2, "Enable",
+    return faltocal_send_main_multi_obj(message, ObjectPath(Table::EndPoint, 1, "&"), "get_leaf_node", "get", 2,
+                                        "Enable", "SSIDReference") != -1 &&
+           faltocal_send_main_multi_obj(message, ObjectPath(Table::EndPoint, 2), "get_leaf_node", "get", 2, "Enable",
                                         "SSIDReference") != -1;
 }
 
@@ -41,8 +41,8 @@ void take(ObjectNode &object, EndPoint &endPoint) {
 
 // Names are compared by their beginning: instance 10 stands for instance 1.
 void read(const MsgHeader &answer, EndPoint (&endPoints)[2]) {
-    ObjectPath first(kEndPoint, 1);
-    ObjectPath second(kEndPoint, 2);
+    ObjectPath first(Table::EndPoint, 1);
+    ObjectPath second(Table::EndPoint, 2);
     for (ObjectNode &object : objects(answer)) {
         if (beginsWith(object.name, first)) {
             take(object, endPoints[0]);

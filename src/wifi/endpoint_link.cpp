@@ -24,15 +24,13 @@ bool run(const char *command, const char *function) {
     if (runShell(command)) {
         return true;
     }
-    traceVola(kWifiUtil, __LINE__, function);
-    PRINT_TO_CONSOLE("%s system command fail\n", command);
+    traceVola({Unit::WifiUtil, __LINE__, function}, "%s system command fail\n", command);
     return false;
 }
 
 // Names a pattern in place of the path.
 void traceMissing(const char *pattern, const char *function = __builtin_FUNCTION()) {
-    traceVola(kWifiUtil, __LINE__, function);
-    PRINT_TO_CONSOLE("%s does not exist\n", pattern);
+    traceVola({Unit::WifiUtil, __LINE__, function}, "%s does not exist\n", pattern);
 }
 
 bool readTrimmedLine(File &file, char (&line)[kLineSize]) {

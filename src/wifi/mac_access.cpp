@@ -46,8 +46,7 @@ int GetMacAccessList(ObjectNode *objectNode, const char *prefix, MacAccessList *
     copyText(name, objectNode->name);
     const char *instance = instanceText(name, prefix);
     const int index = ConvInt(instance);
-    traceVola(kWifiUtil);
-    PRINT_TO_CONSOLE("\n\n>>>>>>>>>> ssid %s:%s:%s:%d<<<<<<<<<<<<<\n\n", name, instance, prefix, index);
+    traceVola(Unit::WifiUtil, "\n\n>>>>>>>>>> ssid %s:%s:%s:%d<<<<<<<<<<<<<\n\n", name, instance, prefix, index);
     if (list->count < static_cast<int32_t>(std::size(list->entries))) {
         MacAccessEntry &entry = list->entries[list->count];
         entry.index = index;

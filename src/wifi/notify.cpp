@@ -15,8 +15,7 @@ constexpr size_t kShortCommand = 256;
 
 // 1 when the shell ran.
 int call(const char *command, const char *function) {
-    traceVola(kWifiUtil, __LINE__, function);
-    PRINT_TO_CONSOLE("Call system function with [%s] \n", command);
+    traceVola({Unit::WifiUtil, __LINE__, function}, "Call system function with [%s] \n", command);
     return runShell(command) ? 1 : 0;
 }
 

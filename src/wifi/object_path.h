@@ -1,24 +1,20 @@
 // SPDX-License-Identifier: MIT
-// The path of an object instance.
+// The path of an instance below Device.WiFi.
 #pragma once
 
 #include "bounded_text.h"
 
+#include <cstdint>
+
 namespace wifi {
 
-// A prefix, an instance number and what follows it: "&" to queue the object, or a sub-object.
+// The tables of Device.WiFi that are asked.
+enum class Table : uint8_t { Radio, Ssid, AccessPoint, EndPoint };
+
+// A table's instance and what follows its number: "&" to queue the object, or a sub-object.
 class ObjectPath : public frame::BoundedText<128> {
   public:
-    ObjectPath(const char *prefix, int instance, const char *rest = "") {
-        append(prefix);
-        append(instance);
-        append(rest);
-    }
+    ObjectPath(Table table, int instance, const char *rest = "");
 };
-
-inline constexpr char kRadio[] = "Device.WiFi.Radio.";
-inline constexpr char kSsid[] = "Device.WiFi.SSID.";
-inline constexpr char kAccessPoint[] = "Device.WiFi.AccessPoint.";
-inline constexpr char kEndPoint[] = "Device.WiFi.EndPoint.";
 
 } // namespace wifi

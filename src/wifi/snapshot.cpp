@@ -2,7 +2,6 @@
 #include "snapshot.h"
 
 #include "message.h"
-#include "object_path.h"
 #include "param_table.h"
 #include "range.h"
 #include "wifi_trace.h"
@@ -63,12 +62,10 @@ int ask(MsgHeader *message, const char *path, const char *names, int count) {
 int askAll(const Snapshot &snapshot, MsgHeader *message, int own, int accessPoint) {
     const uint16_t *nameAt = snapshot.nameAt;
     int result = 0;
-    for (const Step &step : snapshot.steps) {
-        if (!*step.prefix || result == -1) {
-            break;
-        }
+    for (uint8_t i = 0; i < snapshot.stepCount && result != -1; ++i) {
+        const Step &step = snapshot.steps[i];
         const int instance = step.instance == Instance::Own ? own : accessPoint;
-        result = ask(message, ObjectPath(step.prefix, instance, step.rest), snapshot.names + *nameAt, step.count);
+        result = ask(message, ObjectPath(step.table, instance, step.rest), snapshot.names + *nameAt, step.count);
         nameAt += step.count;
     }
     return result;
@@ -96,7 +93,6 @@ int GetSsIdInfoFromFapiToBuff(int ssidIndex, WifiParamTable *table) {
 int GetWireInfoFromFapiToBuff(int radioIndex, WifiParamTable *table) {
     traceStart();
     const int result = take(kRadioSnapshot, radioIndex, ConvSsidIdxToFapi(radioIndex, 0), table, __func__);
-    traceVola(kWifiUtil);
-    PRINT_TO_CONSOLE("return [%d] \n", result);
+    traceVola(Unit::WifiUtil, "return [%d] \n", result);
     return result;
 }

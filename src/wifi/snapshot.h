@@ -6,6 +6,7 @@
 #pragma once
 
 #include "caltofal.h"
+#include "object_path.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -30,8 +31,8 @@ enum class Instance : uint8_t { Own, AccessPoint };
 
 // One object of the request. It asks for the next `count` settings of its snapshot, for all it has when there are none.
 struct Step {
-    char prefix[25];
     char rest[22];
+    Table table;
     Instance instance;
     uint8_t count;
 };
@@ -48,7 +49,8 @@ struct NameIndex {
 
 // Made from settings at compile time.
 struct Snapshot {
-    Step steps[kMostSteps];         // up to one without a prefix
+    uint8_t stepCount;
+    Step steps[kMostSteps];
     char names[496];                // one behind the other, each terminated
     uint16_t nameAt[kMostSettings]; // where each setting's begins
     NameIndex index;

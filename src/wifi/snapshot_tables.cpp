@@ -11,6 +11,7 @@ namespace {
 template <size_t StepCount, size_t Count>
 consteval Snapshot packed(const Step (&steps)[StepCount], const Setting (&settings)[Count]) {
     Snapshot snapshot = {};
+    snapshot.stepCount = StepCount;
     std::copy(std::begin(steps), std::end(steps), snapshot.steps);
     char *end = snapshot.names;
     for (size_t i = 0; i < Count; ++i) {
@@ -35,10 +36,10 @@ consteval Snapshot packed(const Step (&steps)[StepCount], const Setting (&settin
 
 constexpr Snapshot kSsidSnapshot = packed(
     {
-        {"Device.WiFi.SSID.", "&", Instance::Own, 5},
-        {"Device.WiFi.AccessPoint.", "&", Instance::AccessPoint, 4},
-        {"Device.WiFi.AccessPoint.", ".X_LANTIQ_COM_Vendor&", Instance::AccessPoint, 1},
-        {"Device.WiFi.AccessPoint.", ".Security", Instance::AccessPoint, 0},
+        {"&", Table::Ssid, Instance::Own, 5},
+        {"&", Table::AccessPoint, Instance::AccessPoint, 4},
+        {".X_LANTIQ_COM_Vendor&", Table::AccessPoint, Instance::AccessPoint, 1},
+        {".Security", Table::AccessPoint, Instance::AccessPoint, 0},
     },
     {
         {"Enable", Use::AskAndKeep},
@@ -65,9 +66,9 @@ constexpr Snapshot kSsidSnapshot = packed(
 
 constexpr Snapshot kRadioSnapshot = packed(
     {
-        {"Device.WiFi.Radio.", "&", Instance::Own, 16},
-        {"Device.WiFi.AccessPoint.", "&", Instance::AccessPoint, 4},
-        {"Device.WiFi.Radio.", ".X_LANTIQ_COM_Vendor", Instance::Own, 9},
+        {"&", Table::Radio, Instance::Own, 16},
+        {"&", Table::AccessPoint, Instance::AccessPoint, 4},
+        {".X_LANTIQ_COM_Vendor", Table::Radio, Instance::Own, 9},
     },
     {
         {"Enable", Use::AskAndKeep},

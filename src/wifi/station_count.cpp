@@ -25,9 +25,9 @@ struct Ssid {
 };
 
 bool ask(MsgHeader *message, int ssid) {
-    return faltocal_send_main_multi_obj(message, ObjectPath(kSsid, ssid, "&"), "get_leaf_node", "get", 3, "Enable",
-                                        "X_ZINTU_Active", "LowerLayers") != -1 &&
-           faltocal_send_main_multi_obj(message, ObjectPath(kAccessPoint, ssid), "get_leaf_node", "get", 1,
+    return faltocal_send_main_multi_obj(message, ObjectPath(Table::Ssid, ssid, "&"), "get_leaf_node", "get", 3,
+                                        "Enable", "X_ZINTU_Active", "LowerLayers") != -1 &&
+           faltocal_send_main_multi_obj(message, ObjectPath(Table::AccessPoint, ssid), "get_leaf_node", "get", 1,
                                         "AssociatedDeviceNumberOfEntries") != -1;
 }
 
@@ -69,7 +69,7 @@ int GetAssociatedDeviceNumberOfEntries(int radioIndex) {
     if (radioIndex != 1 && radioIndex != 2) {
         return 0;
     }
-    ObjectPath radio(kRadio, radioIndex, ".");
+    ObjectPath radio(Table::Radio, radioIndex, ".");
     // Kept from one SSID to the next: one that does not name its radio counts as its predecessor does.
     char lowerLayers[128] = "";
     int total = 0;

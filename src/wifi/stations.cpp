@@ -87,8 +87,7 @@ bool StationParser::isWanted(const char *mac) const {
 int GetStaInfo(const char *ifname, const char *macFilter, WifiStaList *list) {
     traceStart();
     if (!ifname || !*ifname || !list) {
-        traceError();
-        PRINT_TO_CONSOLE("arg is Failure\n");
+        traceError({}, "arg is Failure\n");
         return list ? static_cast<int>(list->count) : 0;
     }
     memset(list, 0, sizeof(*list));
@@ -97,14 +96,12 @@ int GetStaInfo(const char *ifname, const char *macFilter, WifiStaList *list) {
                                  "grep 'STA MAC\\| Short-term RSSI average per antenna' > %s",
                                  ifname, path.c_str());
     if (!runShell(command)) {
-        traceVola(kWifiUtil);
-        PRINT_TO_CONSOLE("system is Failure\n");
+        traceVola(Unit::WifiUtil, "system is Failure\n");
         return 0;
     }
     File file(path);
     if (!file.opened()) {
-        traceVola(kWifiUtil);
-        PRINT_TO_CONSOLE("%s does not exist\n", path.c_str());
+        traceVola(Unit::WifiUtil, "%s does not exist\n", path.c_str());
         return 0;
     }
     StationParser parser(macFilter && isValidMacAddress(macFilter) != 0 ? macFilter : nullptr, *list);

@@ -38,8 +38,7 @@ class SurveyReader {
     }
 
     void report(const SurveyLine &line) const {
-        traceVola(kWifiUtil, __LINE__, kFunction);
-        PRINT_TO_CONSOLE("invalid scan result entry\n");
+        traceVola({Unit::WifiUtil, __LINE__, kFunction}, "invalid scan result entry\n");
         const SurveyLine::Text *column = line.column;
         printf("scan[%d] ssid:%s channel:%s rssi:%s security:%s encryption:%s macaddr:%s bandwidth:%s phymode:%s "
                "sideband:%s product:%s\n",
@@ -65,26 +64,22 @@ class SurveyReader {
 int GetSiteSurveyList(const char *path, SiteSurveyList *list, const char *ssidFilter) {
     traceStart();
     if (!path || !*path) {
-        traceVola(kWifiUtil);
-        PRINT_TO_CONSOLE("s_file_path is invlid parameter \n");
+        traceVola(Unit::WifiUtil, "s_file_path is invlid parameter \n");
         return list->count;
     }
     const int lines = GetFileLineCnt(path);
     if (lines == 0) {
-        traceVola(kWifiUtil);
-        PRINT_TO_CONSOLE("%s does not exist of line count zero \n", path);
+        traceVola(Unit::WifiUtil, "%s does not exist of line count zero \n", path);
         return list->count;
     }
     list->entries = static_cast<SiteSurveyEntry *>(malloc(static_cast<size_t>(lines) * sizeof(SiteSurveyEntry)));
     if (!list->entries) {
-        traceVola(kWifiUtil);
-        PRINT_TO_CONSOLE("fail to alloc memory");
+        traceVola(Unit::WifiUtil, "fail to alloc memory");
         return list->count;
     }
     File file(path);
     if (!file.opened()) {
-        traceVola(kWifiUtil);
-        PRINT_TO_CONSOLE("%s does not exist\n", "/tmp/wlan_wave/%s_scan_by_User.result");
+        traceVola(Unit::WifiUtil, "%s does not exist\n", "/tmp/wlan_wave/%s_scan_by_User.result");
         return list->count;
     }
     SurveyReader reader(*list, lines, *ssidFilter ? ssidFilter : nullptr);

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "request.h"
+
+#include "trace.h"
+
+namespace network {
+
+int getObject(MsgHeader *message, const char *object) {
+    return faltocal_send_main(message, object, "get", "get", 0);
+}
+
+int getParam(MsgHeader *message, const char *object, const char *param) {
+    return faltocal_send_main(message, object, "get", "get", 1, param);
+}
+
+int getTable(MsgHeader *message, const char *object) {
+    return faltocal_SendMultiObj(1, 256, 2, message, object, "get", "get", 0);
+}
+
+int getFiltered(MsgHeader *message, const char *object, const char *param, const char *value) {
+    return faltocal_SendMultiObj(1, 256, 2, message, object, "get_filter_by_param_value", "get", 1, param, value);
+}
+
+int failed(int code, const char *text, int line, const char *function) {
+    frame::traceCode(code, text, {line, function});
+    return -1;
+}
+
+} // namespace network
