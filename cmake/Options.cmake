@@ -44,8 +44,14 @@ set(CALTOFAL_LIBRARY_FLAGS -O2 CACHE STRING "How a release build optimises the l
 
 # Large headers of other libraries are parsed once a target instead of once a file.
 option(CALTOFAL_PRECOMPILE "Precompile the large headers of other libraries" ON)
+# caltofal_precompile(TARGET HEADER...) or (TARGET REUSE_FROM TARGET)
 function(caltofal_precompile target)
-  if(CALTOFAL_PRECOMPILE)
+  if(NOT CALTOFAL_PRECOMPILE)
+    return()
+  endif()
+  if(ARGV1 STREQUAL REUSE_FROM)
+    target_precompile_headers(${target} ${ARGN})
+  else()
     target_precompile_headers(${target} PRIVATE ${ARGN})
   endif()
 endfunction()

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""footprint.py TITLE LIBRARY TOOL-PREFIX CALLGRAPH-DIRECTORY: what a build of the library takes, as a page of text.
+"""footprint.py TITLE LIBRARY TOOL-PREFIX [CALLGRAPH-DIRECTORY]: what a build of the library takes, as a page of text.
 
-The library must have been built with -fcallgraph-info=su, which leaves .ci files in CALLGRAPH-DIRECTORY.
+For the stack the library must have been built with -fcallgraph-info=su, which leaves .ci files in CALLGRAPH-DIRECTORY.
+Exit code: 0 all limits hold, 1 one is missed.
 """
 import collections
 import pathlib
@@ -12,6 +13,8 @@ import sys
 
 DEEP = 8192
 READ_ONLY_LIMIT = 64 * 1024
+ALIGNMENT = 32  # of an array
+POINTER_ARRAYS = ("DEF_DSL_MODE", "ZINTU_DEF_IP_INTERFACE")
 
 
 def run(*command):
@@ -27,6 +30,7 @@ class Library:
                 r"^ *\[ *\d+\] (\.\S+) +\S+ +[0-9a-f]+ [0-9a-f]+ ([0-9a-f]+) \S+ +(\w*) ", run(self.readelf, "-SW", path), re.M):
             self.sections[name] = (int(size, 16), flags)
         header = run(self.readelf, "-hW", path)
+        self.mips = "MIPS" in header
         self.pointer = 8 if "ELF64" in header else 4
         self.dynamic = run(self.readelf, "-dW", path)
         self.symbols = run(f"{prefix}nm", "-DSP", "--defined-only", path).splitlines()
@@ -36,6 +40,10 @@ class Library:
 
     def needed(self):
         return re.findall(r"\(NEEDED\).*\[(.*)\]", self.dynamic)
+
+    def object_size(self, name):
+        """Bytes of an exported object."""
+        return next(int(line.split()[3], 16) for line in self.symbols if line.split()[0].split("@")[0] == name)
 
     def exported(self):
         """Name -> kind letter."""
@@ -49,7 +57,7 @@ class Library:
 
     def global_offset_table(self):
         """Bytes of the table that the loader writes beside the relocations: MIPS relocates it as a whole."""
-        return self.size(".got") if "MIPS_" in self.dynamic else 0
+        return self.size(".got") if self.mips else 0
 
 
 class Calls:
@@ -79,8 +87,8 @@ class Calls:
 
 
 def main():
-    title, path, prefix, directory = sys.argv[1:]
-    library, calls = Library(path, prefix), Calls(directory)
+    title, path, prefix, *directories = sys.argv[1:]
+    library = Library(path, prefix)
     exported = library.exported()
     functions = [name for name, kind in exported.items() if kind == "T"]
     text = library.size(".text", ".MIPS.stubs", ".plt", ".plt.got", ".plt.sec", ".init", ".fini")
@@ -104,11 +112,26 @@ def main():
     for name, value, unit in rows:
         print(f"  {name:<24}{value:>8}  {unit}".rstrip())
     print(f"  {'needs':<24}{', '.join(library.needed())}\n")
+    pointers = sum(map(library.object_size, POINTER_ARRAYS))
+    missed = [what for held, what in (
+        (not library.mips or text + read_only <= READ_ONLY_LIMIT, "text and read-only data"),
+        (library.size(".data.rel.ro") < pointers + ALIGNMENT, "relocated data beside the exported arrays"),
+        (library.constructors() == 0, "static constructors"),
+        (not directories or show_stacks(Calls(directories[0]), functions), "stack"),
+    ) if not held]
+    if missed:
+        sys.exit(f"footprint: over the limit: {', '.join(missed)}")
+
+
+def show_stacks(calls, functions):
+    """Whether none is too deep."""
     print("  deepest stack of an exported function, without what libc and the platform libraries take below it")
     stacks = sorted(((*calls.deepest(name), name) for name in functions), reverse=True)
     for depth, chain, name in stacks[:12]:
         print(f"  {depth:>8}  {' > '.join(demangled(chain))}")
-    print(f"  {len([1 for depth, _, _ in stacks if depth > DEEP])} of {len(stacks)} take more than {DEEP} bytes\n")
+    deep = sum(1 for depth, _, _ in stacks if depth > DEEP)
+    print(f"  {deep} of {len(stacks)} take more than {DEEP} bytes\n")
+    return deep == 0
 
 
 def demangled(names):
