@@ -5,6 +5,8 @@
 
 #include <cstdarg>
 
+#pragma GCC diagnostic ignored "-Wformat-nonliteral" // Format has held each message against its values
+
 namespace frame {
 namespace {
 
