@@ -178,9 +178,9 @@ int faltocal_send_main(MsgHeader *message, const char *object, const char *mainO
 int faltocal_send_main_ToDb(MsgHeader *message, const char *object, const char *mainOper, const char *subOper,
                             int count, ...);
 
-/** Collects objects in one message and sends it with the last call. A path that ends in "&" (at most 255
- * characters are kept) is only queued; a path without it is added and the message sent; the word "query" in any
- * case sends what was queued. The first call on a zeroed header initialises it (owner code 2).
+/** Collects objects in one message and sends it with the last call. A path with a "&", meant to be its end, is only
+ * queued: without its last character and cut to 255; a path without it is added and the message sent; the word
+ * "query" in any case sends what was queued. The first call on a zeroed header initialises it (owner code 2).
  * `mainOper` adds to the keywords of faltocal_send_main(): "get_def_val" (defaults), "get_leaf_node" (own
  * parameters only), "get_filter_by_param_value" (parameters are name/value filters) and "set_only_db" (stores
  * without applying, when the message was started by an earlier call). 0, or -1 with a console trace. The caller
@@ -436,8 +436,9 @@ int32_t ZintuGet_IPv6PD(void);
 /** Fills nAtmVpi, nAtmVci and sAtmQoSClass from "Device.ATM.Link.1.". 0, or -1 when a request fails. */
 int32_t ZintuGet_AtmInfo(ZintuWanInfo *info);
 
-/** Fills the LAN page's IPv4 record. 0; -1 when its first request fails; the layer's code when the second one does, the
- * record then being filled but for the server-wide switch. */
+/** Fills the LAN page's IPv4 record. -1 when a request fails, a failed second one with the record filled but for the
+ * server-wide switch; any other code of the second request is returned and its answer read: a server object without
+ * an "Enable" value counts as off. */
 int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info);
 
 /** Fills the LAN page's IPv6 record. Where no address is told, it is the manual prefix with a "1" behind it. 0, or -1

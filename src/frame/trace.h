@@ -52,13 +52,18 @@ class Format {
     // Never defined and no constant expression: its name is what the compiler says.
     static void theMessageDoesNotFitItsValues();
 
+    template <class Value>
+    static constexpr bool kIsText = std::is_same_v<Value, const char *> || std::is_same_v<Value, char *>;
+    template <class Value>
+    static constexpr bool kIsNumber = std::is_integral_v<Value> && sizeof(Value) <= sizeof(int);
+
     // Whether the next sign is a value's; leaves `at` behind it.
     template <class Value>
     static consteval bool takes(const char *&at) {
         while (*at && *at != '%') {
             ++at;
         }
-        if (!*at || *++at != (std::is_integral_v<Value> ? 'd' : 's')) {
+        if (!*at || !(*++at == 's' ? kIsText<Value> : *at == 'd' && kIsNumber<Value>)) {
             return false;
         }
         ++at;

@@ -21,15 +21,24 @@ bool isEnabled(const MsgHeader &answer) {
     return false;
 }
 
-} // namespace
-
-int ZINTU_meshgrove_check_is_enabled(void) {
+// 1 on, 0 off, -1 when the request fails. The message is gone before more is traced.
+int readSwitch() {
     Message message;
     if (faltocal_send_main_multi_obj(message, kRoamingMesh, "get", "get", 1, kEnable) == 0) {
         return isEnabled(*message) ? 1 : 0;
     }
-    traceError({193}, "faltocal_send_main_multi_obj function failed with object [%s] param [%s] \n", kRoamingMesh,
-               kEnable);
+    traceError({193, "ZINTU_meshgrove_check_is_enabled"},
+               "faltocal_send_main_multi_obj function failed with object [%s] param [%s] \n", kRoamingMesh, kEnable);
+    return -1;
+}
+
+} // namespace
+
+int ZINTU_meshgrove_check_is_enabled(void) {
+    const int enabled = readSwitch();
+    if (enabled >= 0) {
+        return enabled;
+    }
     traceVola({Unit::MeshGrove, 210}, "[ERROR] Return [false] \n");
     return 0;
 }

@@ -25,7 +25,7 @@ struct Summary {
 
     ZintuWanInfo &info;
     const Terminated<sizeof(ZintuWanInfo::sWanIpInterface)> interface;
-    char vlan[288]; // VLAN termination object below the WAN, where there is one
+    char vlan[256]; // VLAN termination object below the WAN, where there is one
 };
 
 void keepVlan(Summary &summary, const char *lowerLayers) {

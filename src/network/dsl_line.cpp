@@ -39,12 +39,13 @@ void fillLine(ObjectNode &line, const Fields &fields, ZintuDslLineInfo &info) {
     }
 }
 
-// 0, or -1 with a trace.
-int read(const char *object, const Fields &fields, bool isLine, ZintuDslLineInfo &info, const char *function) {
+// 0, or -1 with a trace of the caller's line.
+int read(const char *object, const Fields &fields, bool isLine, ZintuDslLineInfo &info, int line = __builtin_LINE(),
+         const char *function = __builtin_FUNCTION()) {
     Message message;
     const int code = getObject(message, object);
     if (code != 0) {
-        return failed(code, "faltocal_SendMultiObj is Failure \n", __LINE__, function);
+        return failed(code, "faltocal_SendMultiObj is Failure \n", line, function);
     }
     for (ObjectNode &answer : objects(*message)) {
         if (isLine) {
@@ -59,9 +60,9 @@ int read(const char *object, const Fields &fields, bool isLine, ZintuDslLineInfo
 } // namespace
 
 int32_t ZintuGet_LineInfo(ZintuDslLineInfo *info) {
-    const bool done = read("Device.DSL.Line.1.", Fields(kDslLine).with("Status"), true, *info, __func__) == 0 &&
-                      read("Device.DSL.Channel.1.", kDslChannel, false, *info, __func__) == 0 &&
-                      read("Device.DSL.Line.1.TestParams.", kDslTestParams, false, *info, __func__) == 0 &&
-                      read("Device.DSL.Channel.1.Stats.Total.", kDslTotals, false, *info, __func__) == 0;
+    const bool done = read("Device.DSL.Line.1.", Fields(kDslLine).with("Status"), true, *info) == 0 &&
+                      read("Device.DSL.Channel.1.", kDslChannel, false, *info) == 0 &&
+                      read("Device.DSL.Line.1.TestParams.", kDslTestParams, false, *info) == 0 &&
+                      read("Device.DSL.Channel.1.Stats.Total.", kDslTotals, false, *info) == 0;
     return done ? 0 : -1;
 }

@@ -3,11 +3,12 @@
 #pragma once
 
 #include "bounded_text.h"
+#include "caltofal.h"
 
 namespace network {
 
-// A path put together: room for the path of an interface and what is appended to it.
-using Path = frame::BoundedText<288>;
+// A path put together, cut to what a node's name holds.
+using Path = frame::BoundedText<sizeof(ObjectNode::name)>;
 
 // A path of at most 255 characters, ending in a dot.
 class InterfacePath {

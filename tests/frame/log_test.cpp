@@ -58,6 +58,16 @@ TEST_F(Log, ConsoleFormatsAsPrintfDoes) {
     EXPECT_EQ("plain\na=-7\n-2147483648 2147483647\na 100%   2.5 ff bc\n(null)\n", takeConsole());
 }
 
+TEST_F(Log, ATagIsALineOfItsOwn) {
+    takeConsoleLines();
+    zintu_GetParamFromObjUnit(nullptr, "", nullptr);
+    EXPECT_EQ(2U, takeConsoleLines());
+    EXPECT_EQ(-1, ZINTU_meshgrove_set_enable_value(1)); // its start, the failed send, the failure
+    EXPECT_EQ(6U, takeConsoleLines());
+    EXPECT_EQ(-1, ZintuGet_OperMode());
+    EXPECT_EQ(2U, takeConsoleLines());
+}
+
 TEST_F(Log, ConsoleLineIsCutTo1023Bytes) {
     for (const size_t length : {1022U, 1023U, 1024U, 5000U}) {
         const std::string text(length, 'x');

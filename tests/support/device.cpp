@@ -5,6 +5,7 @@
 
 #include "platform.h"
 
+#include <atomic>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
@@ -30,6 +31,8 @@ int consoleFile() {
     static const int file = memfd_create("console", MFD_CLOEXEC);
     return file;
 }
+
+std::atomic<size_t> consoleOpenings = 0;
 
 const fs::path &root() {
     static const struct Root {
@@ -92,6 +95,10 @@ std::string takeConsole() {
     return text;
 }
 
+size_t takeConsoleLines() {
+    return consoleOpenings.exchange(0);
+}
+
 std::vector<std::string> takeSyslog() {
     return std::exchange(syslogLines, {});
 }
@@ -118,6 +125,7 @@ int open(const char *path, int flags, ...) {
     va_end(arguments);
     if (std::string(path) == "/dev/console") {
         EXPECT_EQ(O_RDWR, flags);
+        ++consoleOpenings;
         const int copy = dup(consoleFile());
         lseek(copy, 0, SEEK_END);
         return copy;

@@ -105,6 +105,8 @@ void resetPlatform();
 
 // Everything written to "/dev/console" since the last call, and the syslog lines as "priority text".
 std::string takeConsole();
+// How many lines these were: the console is opened for each.
+size_t takeConsoleLines();
 std::vector<std::string> takeSyslog();
 
 // The location tags as the library prints them.
