@@ -72,15 +72,16 @@ class Box(unittest.TestCase):
             return result.code, result.out.decode() + result.err
 
         self.assertEqual(wps("start", "--pace", "20"), (0, "Success\n"))
-        self.assertEqual(wps("cancel"), (0, "Success\ncaltofal: nothing was in progress\n"))
+        self.assertEqual(wps("cancel"),
+                         (0, "Success\ncaltofal: WPS: nothing was in progress, so the state is unchanged\n"))
         self.assertEqual(wps("reset"), (0, "Idle\n"))
         self.assertEqual(wps("start", "--pace", "20", CALTOFAL_BOX_WPS="timeout"),
-                         (3, "caltofal: WPS: nobody pressed the button of the other device\n"))
+                         (3, "caltofal: WPS: timed out, no device has joined: was its button pressed?\n"))
         self.assertEqual(wps("start", "--pace", "1", CALTOFAL_BOX_WPS_MS="5000"),
-                         (3, "caltofal: WPS is still in progress: caltofal wifi wps cancel ends it\n"))
+                         (3, "caltofal: WPS: still in progress; caltofal wifi wps cancel ends it\n"))
         for access_point in (1, 9):
             self.run_tool("set", f"Device.WiFi.AccessPoint.{access_point}.WPS", "Enable=false")
-        self.assertEqual(wps("start", "--pace", "1"), (1, "caltofal: WPS: Failed\n"))
+        self.assertEqual(wps("start", "--pace", "1"), (1, 'caltofal: WPS: the service daemon reports "Failed"\n'))
 
     def test_a_key_ends_a_wait(self):
         for words, number, message in (

@@ -81,7 +81,7 @@ FILES = [
 class Hostile(unittest.TestCase):
     def check(self, command, code, message, path=None):
         """Runs the command for people and as JSON; the JSON, None after a failure."""
-        environment = {**os.environ, "PATH": path or os.environ["PATH"], "LC_ALL": "C.UTF-8"}
+        environment = {**os.environ, "PATH": path or os.environ["PATH"]}
         plain, as_json = (subprocess.run([TOOL, *command.split(), *option], stdin=subprocess.DEVNULL, timeout=30,
                                          stdout=subprocess.PIPE, stderr=subprocess.PIPE, env=environment, check=False)
                           for option in ([], ["--json"]))

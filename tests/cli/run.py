@@ -7,6 +7,7 @@ import os
 import re
 import subprocess
 import sys
+import tempfile
 import unittest
 
 sys.dont_write_bytecode = True
@@ -75,6 +76,19 @@ class Failures(unittest.TestCase):
                 self.assertIn("object", error)
                 if message:
                     self.assertEqual(f"caltofal: {error['message']}\n", plain.err)
+
+    def test_an_option_without_its_value_is_named(self):
+        result = tool.run("get", "--where")
+        self.assertEqual((result.code, result.err),
+                         (2, "caltofal: get: --where needs a value (NAME=VALUE); see caltofal get --help\n"))
+
+    def test_a_deleted_directory_is_said_in_one_line(self):
+        with tempfile.TemporaryDirectory() as gone:
+            result = subprocess.run(["sh", "-c", 'cd "$1" && rmdir "$1" && "$0" mesh status; s=$?; mkdir "$1"; exit $s',
+                                     tool.executable, gone], env=tool.environment(None), stderr=subprocess.PIPE,
+                                    check=False)
+        self.assertEqual((result.returncode, result.stderr),
+                         (1, b"caltofal: the current directory is no longer there: change to another one\n"))
 
     def test_no_box_is_said_in_one_line(self):
         for words in ("wifi stations wlan0", "mesh status"):
@@ -208,6 +222,11 @@ class WifiChanges(unittest.TestCase):
                 except UnicodeDecodeError:
                     self.assertEqual(settings["SSID_hex"], ssid.hex())
                     self.assertIn(rb"\xe0\xe1", line)
+
+    def test_wide_letters_and_accents_keep_columns_aligned(self):
+        tool.run("wifi", "set", "ssid", "1", "SSID=\u55ab\u8336\u5e97 e\u0301", folder=self.folder)
+        lines = tool.run("wifi", "ssids", folder=self.folder).out.decode().splitlines()
+        self.assertEqual(lines[1].index("02:00") + 3 - 1, lines[2].index("02:00"), "three take two columns, one none")
 
 
 class FailedRequests(unittest.TestCase):

@@ -37,8 +37,9 @@ class Tool:
         return tempfile.mkdtemp(dir=self.folders.name)
 
     def environment(self, folder):
+        # A gateway's user has no locale of his own, and its tables are the same as anywhere.
         kept = {name: os.environ[name] for name in ("PATH", "LSAN_OPTIONS", "ASAN_OPTIONS") if name in os.environ}
-        return {**kept, "CALTOFAL_SANDBOX_DIR": folder or self.shared, "LC_ALL": "C.UTF-8", "TERM": "xterm"}
+        return {**kept, "CALTOFAL_SANDBOX_DIR": folder or self.shared, "LC_ALL": "C", "TERM": "xterm"}
 
     def run(self, *words, folder=None, stdout=subprocess.PIPE, **variables):
         done = subprocess.run([self.executable, *words], env={**self.environment(folder), **variables},

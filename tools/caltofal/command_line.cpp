@@ -6,6 +6,7 @@
 #include "failure.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
 #include <memory>
 
@@ -41,23 +42,60 @@ std::string chosenWords(const CLI::App &app) {
     return words;
 }
 
-// The parser's words, with the culprit where it names none.
+// What the parser wrote between two texts; "" where they are not there.
+std::string textBetween(const std::string &message, const std::string &before, const std::string &behind) {
+    const size_t start = message.find(before);
+    const size_t end = message.find(behind, start == std::string::npos ? start : start + before.size());
+    return end == std::string::npos ? "" : message.substr(start + before.size(), end - start - before.size());
+}
+
+bool isOption(const std::string &word) {
+    return word.starts_with('-');
+}
+
+// The one of several words not understood that is to blame: an option, else the first.
+std::string culpritOf(const std::vector<std::string> &words) {
+    const auto option = std::find_if(words.begin(), words.end(), isOption);
+    return option == words.end() ? words.front() : *option;
+}
+
+// A word where a noun or a verb should be, or none.
+std::string nothingToDo(const std::vector<std::string> &rest, bool verb) {
+    if (rest.empty()) {
+        return "what to do is missing";
+    }
+    const char *const ofNoun = isOption(rest.front()) ? "no option of it" : "no verb of it";
+    return "\"" + rest.front() + "\" is " + (verb ? ofNoun : "neither a noun nor an option");
+}
+
+// What is wrong, in the tool's words. The parser's begin with the argument's name, up to a colon or a blank.
+std::string faultOf(const CLI::App &app, const std::string &words, const CLI::ParseError &error) {
+    const std::string message = error.what();
+    const std::string name = message.substr(0, message.find_first_of(": "));
+    const std::vector<std::string> rest = app.remaining(true);
+    if (message.starts_with(kVerbMissing) || (words.empty() && !rest.empty())) {
+        return nothingToDo(rest, !words.empty());
+    }
+    if (dynamic_cast<const CLI::ExtrasError *>(&error) && !rest.empty()) {
+        const std::string culprit = culpritOf(rest);
+        return "\"" + culprit + (isOption(culprit) ? "\" is no option of it" : "\" is one argument too many");
+    }
+    if (dynamic_cast<const CLI::RequiredError *>(&error)) {
+        return name + " is missing";
+    }
+    if (dynamic_cast<const CLI::ArgumentMismatch *>(&error)) {
+        return name + " needs a value (" + textBetween(message, " required ", " missing") + ")";
+    }
+    if (dynamic_cast<const CLI::ConversionError *>(&error)) { // only flags are converted
+        return textBetween(message, "Could not convert: ", " =") + " takes no value";
+    }
+    return dynamic_cast<const CLI::ValidationError *>(&error) ? name + " is empty" : message;
+}
+
 std::string reasonOf(const CLI::App &app, const CLI::ParseError &error) {
-    const std::string message = std::string(error.what()).substr(0, std::string(error.what()).find('\n'));
-    const bool missing = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError);
-    if (const std::string words = chosenWords(app); !words.empty()) {
-        const std::string verb = app.remaining(true).empty() ? "" : app.remaining(true).front();
-        if (missing && message == kVerbMissing) {
-            return words + ": " + (verb.empty() ? "what to do is missing" : "\"" + verb + "\" is no verb of it") +
-                   "; see caltofal " + words + " --help";
-        }
-        return words + ": " + message + "; see caltofal " + words + " --help";
-    }
-    const std::vector<std::string> rest = app.remaining();
-    if (!rest.empty()) {
-        return "\"" + rest.front() + "\" is neither a noun nor an option; see caltofal --help";
-    }
-    return (missing ? "what to do is missing" : message) + "; see caltofal --help";
+    const std::string words = chosenWords(app);
+    return (words.empty() ? "" : words + ": ") + faultOf(app, words, error) + "; see caltofal " +
+           (words.empty() ? "" : words + " ") + "--help";
 }
 
 } // namespace

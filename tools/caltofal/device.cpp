@@ -14,8 +14,10 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <filesystem>
 #include <string>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 #include <vector>
 
@@ -111,6 +113,11 @@ void needDevice() {
         return;
     }
     checkStore();
+    std::error_code gone;
+    static_cast<void>(std::filesystem::current_path(gone)); // the command keeps it in the box
+    if (gone) {
+        throw Failure(Exit::Failed, "the current directory is no longer there: change to another one");
+    }
     const std::string own = ownPath();
     const std::string sandbox = sandboxPath(own);
     if (commandLine.json) {

@@ -7,11 +7,11 @@
 #include "signals.h"
 #include "stdio_capture.h"
 #include "trace.h"
+#include "words.h"
 
 #include "caltofal.h"
 
 #include <algorithm>
-#include <clocale>
 #include <cstdlib>
 #include <fcntl.h>
 #include <new>
@@ -72,7 +72,7 @@ void runCommand(int argc, char **argv) {
 int main(int argc, char **argv) {
     occupyStreams();
     watchSignals(asksForJson(argc, argv));
-    setlocale(LC_CTYPE, "");
+    useUtf8Locale();
     rememberCommandLine(argv, asksForJson(argc, argv));
     const auto failed = [&](const Failure &failure) {
         traceCollect();

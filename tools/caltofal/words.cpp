@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <clocale>
+#include <langinfo.h>
 
 namespace cli {
 namespace {
@@ -27,11 +29,13 @@ bool readNumber(std::string_view value, Number &number) {
     return error == std::errc() && end == value.data() + value.size() && std::to_string(number) == value;
 }
 
-// Characters beyond ASCII that a terminal acts on rather than shows: C1 controls, marks and overrides of direction.
+// Characters beyond ASCII that a terminal acts on, or shows nothing of: C1 controls, other line ends, marks and
+// overrides of direction, invisible ones.
 struct Span {
     uint32_t first, last;
 };
-constexpr Span kInvisible[] = {{0x80, 0x9f}, {0x200b, 0x200f}, {0x202a, 0x202e}, {0x2066, 0x2069}};
+constexpr Span kInvisible[] = {{0x80, 0x9f},     {0x61c, 0x61c},   {0x200b, 0x200f},  {0x2028, 0x202e},
+                               {0x2060, 0x206f}, {0xfeff, 0xfeff}, {0xe0000, 0xe007f}};
 
 // The length of the character that valid UTF-8 begins with.
 size_t lengthOf(unsigned char first) {
@@ -46,6 +50,10 @@ uint32_t codePoint(std::string_view character) {
     return code;
 }
 
+bool localeIsUtf8() {
+    return std::string_view(nl_langinfo(CODESET)) == "UTF-8";
+}
+
 // One character of valid UTF-8, or a byte of something else.
 bool isShown(std::string_view character) {
     const auto byte = static_cast<unsigned char>(character[0]);
@@ -58,6 +66,13 @@ bool isShown(std::string_view character) {
 }
 
 } // namespace
+
+void useUtf8Locale() {
+    setlocale(LC_CTYPE, "");
+    if (!localeIsUtf8()) {
+        setlocale(LC_CTYPE, "C.UTF-8");
+    }
+}
 
 bool isUtf8(std::string_view text) {
     try {
@@ -79,7 +94,7 @@ std::string hexOf(std::string_view text) {
 }
 
 std::string printable(std::string_view text) {
-    const bool utf8 = isUtf8(text);
+    const bool utf8 = localeIsUtf8() && isUtf8(text);
     std::string result;
     for (size_t at = 0; at < text.size();) {
         const std::string_view character = text.substr(at, utf8 ? lengthOf(static_cast<unsigned char>(text[at])) : 1);

@@ -11,12 +11,16 @@ namespace cli {
 
 using Json = nlohmann::ordered_json;
 
+// Takes the user's locale, or "C.UTF-8" where that one knows ASCII alone. Before the first text is shown.
+void useUtf8Locale();
+
 bool isUtf8(std::string_view text);
 
 // Two lower-case digits a byte.
 std::string hexOf(std::string_view text);
 
-// Control characters, marks of direction, and all but ASCII where the text is no UTF-8, as "\x1b".
+// Control characters, marks of direction, and all but ASCII where the text is no UTF-8 or the system has no locale
+// for it, as "\x1b".
 std::string printable(std::string_view text);
 
 // Sets object[key]. A text that is no UTF-8 gets a sibling "KEY_hex" with its bytes.

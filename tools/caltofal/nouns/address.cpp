@@ -6,18 +6,20 @@
 #include "failure.h"
 #include "page.h"
 
-#include <cstdio>
 #include <memory>
 
 namespace cli {
 namespace {
 
-// As the library hands it to a host: in network byte order.
-std::string asNumber(const std::string &address) {
+// The library hands a host the number in network byte order: its bytes in memory are the same on every machine.
+std::string bytesInMemory(const std::string &address) {
     const uint32_t number = IPConvertTouint(address.c_str());
-    char digits[16];
-    snprintf(digits, sizeof digits, "0x%08x", number);
-    return digits;
+    const std::string digits = hexOf({reinterpret_cast<const char *>(&number), sizeof number});
+    std::string result = digits.substr(0, 2);
+    for (size_t i = 2; i < digits.size(); i += 2) {
+        result += " " + digits.substr(i, 2);
+    }
+    return result;
 }
 
 Report run(const std::string &address) {
@@ -34,7 +36,7 @@ Report run(const std::string &address) {
                          {
                              {"address", "Address", address, {}},
                              {"kind", "Kind", mac ? "MAC" : ofIp, {}},
-                             {"number", "As a number in memory", ipv4 ? Json(asNumber(address)) : Json(), {}},
+                             {"bytes", "Bytes in memory", ipv4 ? Json(bytesInMemory(address)) : Json(), {}},
                          }}},
                        {}});
 }

@@ -6,12 +6,15 @@
 #include "caltofal.h"
 #include "device.h"
 #include "nouns/wifi/interface.h"
+#include "nouns/wifi/radar.h"
 #include "page.h"
 #include "page_call.h"
 #include "shell_output.h"
 
+#include <algorithm>
 #include <iterator>
 #include <memory>
+#include <span>
 
 namespace cli::wifi {
 namespace {
@@ -28,15 +31,17 @@ Json jsonOf(const WifiChannelEntry &entry) {
             {"frequency_mhz", entry.frequency},
             {"bandwidths_mhz", widths},
             {"secondary_below", secondary(entry.belowChannel)},
-            {"secondary_above", secondary(entry.aboveChannel)}};
+            {"secondary_above", secondary(entry.aboveChannel)},
+            {"dfs", isRadarChannel(entry.channel)}};
 }
 
 std::vector<Cell> rowOf(const Json &entry) {
-    std::vector<Cell> row;
-    for (const Json &value : entry) {
-        row.push_back({readable(value)});
-    }
-    return row;
+    const auto cell = [&](const char *key) { return Cell{readable(entry[key])}; };
+    return {{markedChannel(entry["channel"])},
+            cell("frequency_mhz"),
+            cell("bandwidths_mhz"),
+            cell("secondary_below"),
+            cell("secondary_above")};
 }
 
 Report runChannels(const std::string &name) {
@@ -58,11 +63,15 @@ Report runChannels(const std::string &name) {
                   {},
                   {},
                   {}};
-    result.table.headings = {"CHANNEL", "FREQUENCY", "BANDWIDTHS", "BELOW", "ABOVE"};
-    for (int i = 0; i < count; ++i) {
-        const Json entry = jsonOf(list.entries[i]);
-        result.table.rows.push_back(rowOf(entry));
-        result.json["channels"].push_back(entry);
+    result.table.headings = {"CHANNEL", "FREQUENCY", "BANDWIDTHS", "2ND LOWER", "2ND UPPER"};
+    const std::span entries(list.entries, static_cast<size_t>(count));
+    for (const WifiChannelEntry &entry : entries) {
+        result.json["channels"].push_back(jsonOf(entry));
+    }
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const auto &a, const auto &b) { return a.channel < b.channel; });
+    for (const WifiChannelEntry &entry : entries) {
+        result.table.rows.push_back(rowOf(jsonOf(entry)));
     }
     if (count == static_cast<int>(std::size(list.entries))) {
         result.notes.emplace_back("the list is full: channels beyond the 100th are left out");
@@ -75,12 +84,13 @@ struct Current {
     std::string country, extension;
 };
 
-// The side of the secondary channel, for channels at 2.4 GHz.
+// The side of the secondary channel, for channels at 2.4 GHz: upper, lower or auto, as a survey names it.
 Json sideOf(const Current &current, const std::string &band) {
     if (current.channel == kUntouched || band != "2.4GHz") {
         return {};
     }
-    return GetSideChannel(current.channel, current.country.c_str(), current.extension.c_str());
+    const char *side = GetSideChannel(current.channel, current.country.c_str(), current.extension.c_str());
+    return FapiToUi_Str(side, SideBand_FapiToUi_Table, std::size(SideBand_FapiToUi_Table));
 }
 
 Report runChannel(const std::string &name) {
@@ -111,7 +121,7 @@ Report runChannel(const std::string &name) {
               {"channel", "Channel", number(current.channel), {}},
               {"auto_channel", "Chosen automatically", valueOf(radio, "AutoChannelEnable") == "true", {}},
               {"secondary_side", "Secondary channel", sideOf(current, valueOf(radio, "OperatingFrequencyBand")), {}},
-              {"dfs_channel", "Radar channel", GetDFSChannel() == 0 ? Json() : Json(GetDFSChannel()), {}},
+              {"dfs_channel", "DFS channel", GetDFSChannel() == 0 ? Json() : Json(GetDFSChannel()), {}},
           }}},
         {}};
     if (current.channel == kUntouched) {

@@ -20,7 +20,7 @@ constexpr size_t kTextSize = 128;
 constexpr int kNoneEnabled = -1;
 constexpr size_t kFiguresLeast = 4096;
 
-struct Link {
+struct Link { // NOLINT(bugprone-exception-escape): the JSON library checks itself when moving
     bool connected = false;
     char peer[kTextSize] = "";
     Json width, channel;

@@ -54,7 +54,8 @@ std::string checkedMac(const std::string &text) {
         result += between ? "" : (i > 0 && i % step == 0 ? ":" : "") + text.substr(i, 1);
     }
     if (!valid || isValidMacAddress(result.c_str()) == 0) {
-        throw Usage("\"" + text.substr(0, 40) + "\" is no MAC address");
+        throw Usage("\"" + text.substr(0, 40) +
+                    "\" is no MAC address: six pairs of digits, joined by colons, dashes or nothing");
     }
     return result;
 }

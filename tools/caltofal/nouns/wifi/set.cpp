@@ -181,7 +181,7 @@ Report run(const Arguments &arguments) {
         result.notes.emplace_back(
             "nothing to change: these are the values in force (--force writes them all the same)");
     } else if (arguments.dryRun) {
-        result.notes.emplace_back("not written: this is a dry run");
+        result.notes.emplace_back("dry run: nothing written; whether the gateway takes it was not asked");
     } else if (arguments.storeOnly) {
         result.notes.emplace_back("stored: in force after the next start");
     }
@@ -197,7 +197,7 @@ Run define(CLI::App &command) {
                  "radio` show them");
     addFlag(command, "--ui", arguments->ui, "The values are in the user interface's words");
     addFlag(command, "--dry-run", arguments->dryRun,
-            "Only tell what would be written; whether the gateway takes the values is not checked");
+            "Only tell what would be written; the gateway is not asked whether it takes the values");
     addFlag(command, "--db-only", arguments->storeOnly,
             "Store all that is given without applying: in force after the next start");
     addFlag(command, "--force", arguments->force, "Write values that are the same as well");

@@ -71,7 +71,11 @@ Report show(Subject subject, const std::string &word) {
     const bool ssid = subject == Subject::Ssid;
     const int instance = checkedInstance(word, ssid ? "SSID" : "radio");
     const Settings settings = snapshot(subject, instance);
-    Report result{{{ssid ? "ssid" : "radio", instance}, {"settings", Json::object()}}, {}, {}, {}};
+    Report result{
+        {{ssid ? "ssid" : "radio", instance}, {"settings", Json::object()}, {"user_interface", Json::object()}},
+        {},
+        {},
+        {}};
     result.table.headings = {"SETTING", "VALUE", "USER INTERFACE"};
     for (const WifiParamRow &row : rows(*settings)) {
         const std::string object = text(row.object);
@@ -79,6 +83,9 @@ Report show(Subject subject, const std::string &word) {
         const std::string value = text(row.value);
         const std::string ui = uiWord(name, value);
         put(result.json["settings"][object], name, typed(name, value));
+        if (ui != value) {
+            put(result.json["user_interface"][object], name, ui);
+        }
         result.table.rows.push_back(
             {{lastPart(object) + "." + name}, {value.empty() ? "-" : value}, {ui == value ? "" : ui}});
     }

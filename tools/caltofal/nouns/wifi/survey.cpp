@@ -6,10 +6,12 @@
 #include "device.h"
 #include "failure.h"
 #include "nouns/wifi/interface.h"
+#include "nouns/wifi/radar.h"
 #include "nouns/wifi/verbs.h"
 #include "page.h"
 #include "shell_output.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <span>
@@ -56,6 +58,7 @@ Json jsonOf(const SiteSurveyEntry &entry) {
     Json json = Json::object();
     put(json, "ssid", text(entry.ssid));
     json["channel"] = entry.channel;
+    json["dfs"] = isRadarChannel(entry.channel);
     json["rssi_dbm"] = entry.rssi;
     put(json, "security", text(entry.security));
     put(json, "encryption", text(entry.encryption));
@@ -69,7 +72,7 @@ Json jsonOf(const SiteSurveyEntry &entry) {
 
 std::vector<Cell> rowOf(const SiteSurveyEntry &entry) {
     return {{text(entry.ssid)},
-            {std::to_string(entry.channel)},
+            {markedChannel(entry.channel)},
             {std::to_string(entry.rssi)},
             {text(entry.security)},
             {text(entry.encryption)},
@@ -150,9 +153,13 @@ Report surveyReport(const std::string &file, const std::string &ssid) {
     Survey survey;
     const int count = GetSiteSurveyList(file.c_str(), &survey.list, ssid.c_str());
     Report result{{{"networks", Json::array()}}, {}, {}, {}};
-    result.table.headings = {"SSID", "CHANNEL", "DBM", "SECURITY", "ENCRYPTION", "BSSID", "MHZ", "STANDARDS", "SIDE"};
-    for (const SiteSurveyEntry &entry : std::span(survey.list.entries, static_cast<size_t>(count))) {
+    result.table.headings = {"SSID", "CHANNEL", "DBM", "SECURITY", "ENCRYPTION", "BSSID", "MHZ", "STANDARDS", "2ND"};
+    const std::span entries(survey.list.entries, static_cast<size_t>(count));
+    for (const SiteSurveyEntry &entry : entries) {
         result.json["networks"].push_back(jsonOf(entry));
+    }
+    std::stable_sort(entries.begin(), entries.end(), [](const auto &a, const auto &b) { return a.rssi > b.rssi; });
+    for (const SiteSurveyEntry &entry : entries) {
         result.table.rows.push_back(rowOf(entry));
     }
     const int lost = ssid.empty() ? GetFileLineCnt(file.c_str()) - count : 0;

@@ -55,20 +55,21 @@ Report start(const std::string &pace) {
         cancelQuietly();
         throw Interrupted(Interruptible::signal(), "interrupted: WPS cancelled");
     case Outcome::TimeOut:
-        throw Failure(Exit::TimeOut, "WPS is still in progress: caltofal wifi wps cancel ends it");
+        throw Failure(Exit::TimeOut, "WPS: still in progress; caltofal wifi wps cancel ends it");
     case Outcome::Done:
         break;
     }
     const std::string state = status();
     if (state == "Timeout") {
-        throw Failure(Exit::TimeOut, "WPS: nobody pressed the button of the other device");
+        throw Failure(Exit::TimeOut, "WPS: timed out, no device has joined: was its button pressed?");
     }
     if (state != "Success" && !state.empty()) {
-        throw Failure(Exit::Failed, "WPS: " + state);
+        throw Failure(Exit::Failed, "WPS: the service daemon reports \"" + state + "\"");
     }
     Report result = reportOf(state);
     if (state.empty()) {
-        result.notes.push_back(std::string("requested; ") + kStatusFile + " does not tell how it ends");
+        result.notes.push_back(std::string("WPS: requested; how it ends is not known, as ") + kStatusFile +
+                               " is missing or empty");
     }
     return result;
 }
@@ -81,7 +82,7 @@ Run defineRequest(CLI::App & /*command*/) {
         request(call);
         Report result = reportOf(status());
         if (call == ReqWPSCancel && !running) {
-            result.notes.emplace_back("nothing was in progress");
+            result.notes.emplace_back("WPS: nothing was in progress, so the state is unchanged");
         }
         return result;
     };

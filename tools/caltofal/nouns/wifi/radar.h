@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// The channels that a radio leaves to radar (DFS).
+#pragma once
+
+#include <string>
+
+namespace cli::wifi {
+
+// Those from 5,250 to 5,730 MHz, in every regulatory domain.
+constexpr bool isRadarChannel(int channel) {
+    return channel >= 52 && channel <= 144;
+}
+
+// "52 (DFS)": a channel as tables show it.
+inline std::string markedChannel(int channel) {
+    return std::to_string(channel) + (isRadarChannel(channel) ? " (DFS)" : "");
+}
+
+} // namespace cli::wifi
