@@ -13,6 +13,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <strings.h>
+#include <type_traits>
 #include <unistd.h>
 
 namespace by_hand {
@@ -90,8 +91,13 @@ void print(const char (&line)[Size]) {
 
 // The first four bytes of a name of at least three characters.
 constexpr uint32_t four(const char *name) {
-    const char bytes[4] = {name[0], name[1], name[2], name[3]};
-    return std::bit_cast<uint32_t>(bytes);
+    if (std::is_constant_evaluated()) {
+        const char bytes[4] = {name[0], name[1], name[2], name[3]};
+        return std::bit_cast<uint32_t>(bytes);
+    }
+    uint32_t bytes = 0;
+    memcpy(&bytes, name, sizeof(bytes));
+    return bytes;
 }
 
 // Whether a text that fills a larger buffer equals a literal.
@@ -159,7 +165,7 @@ void copy(char (&field)[Size], const char *value) {
 
 // Copies a value's characters without a terminator.
 inline void copyUnterminated(char *field, const char *value) {
-    memcpy(field, value, strlen(value));
+    memcpy(field, value, strlen(value)); // NOLINT(bugprone-not-null-terminated-result): as its name says
 }
 
 // for each object or parameter: the rings, walked by their links.

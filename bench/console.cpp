@@ -27,15 +27,15 @@ std::string bench::takeConsole() {
     return lines;
 }
 
-extern "C" [[gnu::visibility("default")]] int open(const char *path, int flags, ...) {
+extern "C" [[gnu::visibility("default")]] int open(const char *file, int oflag, ...) {
     va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    va_start(arguments, oflag);
+    const mode_t mode = (oflag & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
     va_end(arguments);
     constexpr char kConsole[] = "/dev/console";
-    const bool isConsole = strncmp(path, kConsole, sizeof(kConsole)) == 0;
+    const bool isConsole = strncmp(file, kConsole, sizeof(kConsole)) == 0;
     if (isConsole && record >= 0) {
         return dup(record);
     }
-    return openat(AT_FDCWD, isConsole ? "/dev/null" : path, flags, mode);
+    return openat(AT_FDCWD, isConsole ? "/dev/null" : file, oflag, mode);
 }

@@ -50,9 +50,9 @@ int call(void *record) {
 
 // A page of two functions `int (Record *)`; the answers are text (platform/answers.h).
 template <auto Library, auto Floor>
-Page page(std::string name, std::string_view answers, Growth growth) {
+Page page(const std::string &name, std::string_view answers, Growth growth) {
     using Record = typename detail::RecordOf<decltype(Library)>::Type;
-    return {.name = std::move(name),
+    return {.name = name,
             .answers = parseAnswers(answers),
             .growth = growth,
             .recordSize = sizeof(Record),

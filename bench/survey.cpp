@@ -52,6 +52,7 @@ int byScan(void *argument) {
     FILE *file = fopen(run->file.path(), "r");
     for (char line[128]; fgets(line, sizeof(line), file);) {
         char c[10][128] = {};
+        // cppcheck-suppress invalidscanf // no column is longer than the line
         sscanf(line, "%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]\t%[^\t]", c[0], c[1], c[2],
                c[3], c[4], c[5], c[6], c[7], c[8], c[9]);
         if (!*c[9]) {

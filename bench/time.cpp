@@ -16,7 +16,7 @@ void run(benchmark::State &state, const Page &page, Side side) {
     holdAnswers(page.answers);
     const Cost cost = costOf(page, side);
     std::string record(page.recordSize, '\0');
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(runOnce(page, side, record.data()));
     }
     state.counters["calls"] = static_cast<double>(cost.calls);
@@ -26,7 +26,7 @@ void run(benchmark::State &state, const Page &page, Side side) {
 
 void runSurvey(benchmark::State &state, const SurveyReader &reader, int lines) {
     const SurveyFile file(lines);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         SurveyRun run(file);
         benchmark::DoNotOptimize(reader.read(&run));
     }

@@ -4,8 +4,7 @@
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     fuzz::startOver();
-    const std::string output = fuzz::Bytes(data, size).rest();
-    test::shell().onPopen = [&](const std::string &) { return output; };
+    test::shell().onPopen = [output = fuzz::Bytes(data, size).rest()](const std::string &) { return output; };
     int channel = -77;
     fuzz::require(GetCurrentChannel("wlan0", 0, &channel) == 1, "the tool ran");
     GetPhyNumber("wlan0");

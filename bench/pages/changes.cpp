@@ -28,7 +28,7 @@ struct Settings {
         }
     }
     WifiParamTable held = {};
-    Wanted wanted[kRows];
+    Wanted wanted[kRows] = {};
 };
 
 Settings &settings() {

@@ -77,10 +77,10 @@ Node *nodeOf(ListLink *link) {
 // Gives all objects of a list back; the head stays, empty.
 void clear(ListLink &head) {
     for (ListLink *at = head.next; at != &head;) {
-        ObjectNode *object = nodeOf<ObjectNode>(at);
+        auto *object = nodeOf<ObjectNode>(at);
         at = at->next;
         for (ListLink *link = object->params.next; link != &object->params;) {
-            ParamNode *param = nodeOf<ParamNode>(link);
+            auto *param = nodeOf<ParamNode>(link);
             link = link->next;
             state.paramNodes.giveBack(param);
         }
@@ -110,7 +110,7 @@ Param *findParam(Object &object, std::string_view name) {
 // Whether an object has all values that a request filters by.
 bool matches(Object &object, ObjectNode &request) {
     for (ListLink *at = request.params.next; at != &request.params; at = at->next) {
-        const ParamNode *asked = nodeOf<ParamNode>(at);
+        const auto *asked = nodeOf<ParamNode>(at);
         if (asked->platform[0] == kValued) {
             const Param *held = findParam(object, asked->name);
             if (!held || held->value != asked->value) {
@@ -126,7 +126,7 @@ void append(ObjectNode &head, Object &object, ObjectNode &request) {
     ObjectNode *node = addObject(head, object.name.c_str());
     bool named = false;
     for (ListLink *at = request.params.next; at != &request.params; at = at->next) {
-        const ParamNode *asked = nodeOf<ParamNode>(at);
+        const auto *asked = nodeOf<ParamNode>(at);
         if (asked->platform[0] != kValued) {
             named = true;
             if (const Param *held = findParam(object, asked->name)) {
@@ -156,7 +156,7 @@ int answer(ObjectNode &list) {
     list.link = {&list.link, &list.link};
     int result = 0;
     for (ListLink *at = asked.next; at != &asked && result == 0; at = at->next) {
-        ObjectNode *request = nodeOf<ObjectNode>(at);
+        auto *request = nodeOf<ObjectNode>(at);
         Answer *found = findAnswer(request->name);
         result = found ? 0 : CALTOFAL_ABSENT_OBJECT;
         if (found) {
@@ -169,7 +169,7 @@ int answer(ObjectNode &list) {
 
 int store(Object &object, ObjectNode &from) {
     for (ListLink *at = from.params.next; at != &from.params; at = at->next) {
-        const ParamNode *param = nodeOf<ParamNode>(at);
+        const auto *param = nodeOf<ParamNode>(at);
         Param *found = findParam(object, param->name);
         if (!found) {
             return CALTOFAL_UNKNOWN_PARAMETER;
@@ -183,7 +183,7 @@ int store(Object &object, ObjectNode &from) {
 int store(ObjectNode &list) {
     int result = 0;
     for (ListLink *at = list.link.next; at != &list.link && result == 0; at = at->next) {
-        ObjectNode *object = nodeOf<ObjectNode>(at);
+        auto *object = nodeOf<ObjectNode>(at);
         Answer *found = findAnswer(object->name);
         result = found ? store(found->objects.front(), *object) : CALTOFAL_ABSENT_OBJECT;
     }

@@ -27,7 +27,7 @@ Entries sourceEntries(const std::string &from) {
 void addNew(CLI::App &app, Tool &tool) {
     auto options = makeOptions<Options>();
     CLI::App *command = app.add_subcommand("new", "Make a gateway");
-    command->add_option("NAME", options->name, "Its name: letters, digits, \".\", \"_\" and \"-\"")->required();
+    command->add_option("NAME", options->name, R"(Its name: letters, digits, ".", "_" and "-")")->required();
     command->add_option("--from", options->from, "A demo or a file; without it, the demo of that name, else home")
         ->type_name("DEMO|FILE");
     command->footer("Examples:\n  caltofal-sandbox new lab --from dhcp\n  caltofal-sandbox new lab --from lab.tr181");

@@ -73,11 +73,11 @@ class Handler : public nlohmann::json_sax<json> {
     bool boolean(bool value) override { return take(value ? "true" : "false"); }
     bool number_integer(number_integer_t value) override { return take(std::to_string(value)); }
     bool number_unsigned(number_unsigned_t value) override { return take(std::to_string(value)); }
-    bool number_float(number_float_t, const string_t &text) override { return take(text); }
+    bool number_float(number_float_t /*value*/, const string_t &text) override { return take(text); }
     bool string(string_t &value) override { return take(value); }
-    bool binary(binary_t &) override { refuse("binary is no value"); }
+    bool binary(binary_t & /*value*/) override { refuse("binary is no value"); }
 
-    bool start_object(std::size_t) override {
+    bool start_object(std::size_t /*elements*/) override {
         if (depth_ == 2 || (depth_ == 1 && path_.empty())) {
             refuse("a value is text, a number, a flag or {\"hex\": ...}");
         }
@@ -98,9 +98,11 @@ class Handler : public nlohmann::json_sax<json> {
         --depth_;
         return true;
     }
-    bool start_array(std::size_t) override { refuse("an array is no value"); }
+    bool start_array(std::size_t /*elements*/) override { refuse("an array is no value"); }
     bool end_array() override { return true; }
-    bool parse_error(std::size_t, const std::string &, const json::exception &error) override { refuse(error.what()); }
+    bool parse_error(std::size_t /*position*/, const std::string & /*token*/, const json::exception &error) override {
+        refuse(error.what());
+    }
 
     Entries entries;
 

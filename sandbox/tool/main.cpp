@@ -55,8 +55,6 @@ int run(int argc, char **argv) {
     } catch (const Refusal &refusal) {
         const bool absent = refusal.code() == CALTOFAL_NO_GATEWAY || refusal.code() == CALTOFAL_ABSENT_OBJECT;
         return fail(refusal, absent ? kAbsent : kFailed);
-    } catch (const std::exception &error) {
-        return fail(error, kFailed);
     }
 }
 
@@ -64,5 +62,9 @@ int run(int argc, char **argv) {
 } // namespace sandbox
 
 int main(int argc, char **argv) {
-    return sandbox::run(argc, argv);
+    try {
+        return sandbox::run(argc, argv);
+    } catch (const std::exception &error) {
+        return sandbox::fail(error, sandbox::kFailed);
+    }
 }

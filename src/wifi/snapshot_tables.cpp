@@ -19,12 +19,13 @@ consteval Snapshot packed(const Step (&steps)[StepCount], const Setting (&settin
         snapshot.nameAt[i] = static_cast<uint16_t>(end - snapshot.names);
         end = std::copy(name.begin(), name.end(), end) + 1; // past the array: does not compile
     }
+    static_assert(Count <= UINT8_MAX);
     uint8_t kept = 0;
     for (size_t length = 1; length <= kLongestName; ++length) {
         snapshot.index.first[length] = kept;
-        for (uint8_t i = 0; i < Count; ++i) {
+        for (size_t i = 0; i < Count; ++i) {
             if (settings[i].use != Use::Ask && std::string_view(settings[i].name).size() == length) {
-                snapshot.index.order[kept++] = i;
+                snapshot.index.order[kept++] = static_cast<uint8_t>(i);
             }
         }
     }
