@@ -72,6 +72,29 @@ std::string writeBack() {
     return std::to_string(result);
 }
 
+// The request functions that hosts call themselves, which leave the release to them.
+template <class Call>
+std::string request(Call call) {
+    MsgHeader message = {};
+    const int result = call(&message);
+    faltocal_finalize(&message);
+    return std::to_string(result);
+}
+
+std::string everyRequest() {
+    return request([](auto *m) { return faltocal_send_main(m, "Device.A.", "get", "get", 2, "P", "Q"); }) +
+           request([](auto *m) { return faltocal_send_main_ToDb(m, "Device.A.", "set", "add", 1, "P", "v"); }) +
+           request([](auto *m) {
+               const char *pairs[] = {"P", "v"};
+               char object[] = "Device.A.";
+               return faltocal_send_main_multi_obj_No_variable(m, object, "set", "set", 1, pairs);
+           }) +
+           request([](auto *m) {
+               return faltocal_SendMultiObj(0, 256, 2, m, "Device.A.", "get", "get", 1, "P") |
+                      faltocal_SendMultiObj(1, 256, 2, m, "Device.B.", "get", "get", 0);
+           });
+}
+
 std::string channelList() {
     return fill<WifiChannelList>([](WifiChannelList *list) { return GetChannelList("wlan0", 1, list); });
 }
@@ -125,6 +148,7 @@ const std::vector<Getter> &getters() {
          [] { return fill<WifiParamTable>([](auto *table) { return GetWireInfoFromFapiToBuff(2, table); }); }},
         {"WriteBack", 0, writeBack},
         {"EPEnable", 0, [] { return fillText(GetEPEnable); }},
+        {"Requests", 0, everyRequest},
     };
     return rows;
 }
