@@ -74,7 +74,7 @@ int GetDeviceID(char *identifier) {
     }
     Message message;
     if (faltocal_send_main_multi_obj(message, "Device.Hosts.", "get", "get", 0) == -1) {
-        traceError({1124}, "faltocal_send_main_multi_obj is Failure\n");
+        traceFailedRequest({1124});
         return 0;
     }
     TableObject table;

@@ -49,4 +49,8 @@ void traceCode(int code, const char *message, Spot spot) {
     PRINT_TO_CONSOLE("%s", message);
 }
 
+void traceFailedRequest(Spot spot) {
+    traceError(spot, "faltocal_send_main_multi_obj is Failure\n");
+}
+
 } // namespace frame

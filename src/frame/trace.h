@@ -97,7 +97,10 @@ void traceError(Spot spot, FormatOf<Values...> message, Values... values) {
 }
 
 // "\n\n\t[function : line] (code)", then the message as it stands.
-void traceCode(int code, const char *message, Spot spot = {});
+void traceCode(int code, const char *message, Spot spot);
+
+// A request through faltocal_send_main_multi_obj() that failed.
+void traceFailedRequest(Spot spot = {});
 
 // The tag of traceVola() alone, put together by the compiler: for what is traced when all goes well. It stands in a
 // `static constexpr` of the function that traces.

@@ -49,7 +49,7 @@ int ZINTU_meshgrove_set_enable_value(uint8_t enable) {
     const int result =
         faltocal_send_main_multi_obj(message, kRoamingMesh, "set", "set", 1, kEnable, enable != 0 ? "true" : "false");
     if (result == -1) {
-        traceError({301}, "faltocal_send_main_multi_obj is Failure\n");
+        traceFailedRequest({301});
     }
     return result;
 }

@@ -75,7 +75,7 @@ int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info) {
     PRINT_TO_CONSOLE("START_FUNCTION : FAL \n");
     Message message;
     if (const int line = request(message)) {
-        traceError(line, "faltocal_send_main_multi_obj is Failure\n");
+        traceFailedRequest(line);
         return -1;
     }
     for (ObjectNode &object : objects(*message)) {

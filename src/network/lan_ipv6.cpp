@@ -115,7 +115,7 @@ int32_t ZintuGet_LANv6Info(LANv6Info *pxLANv6Info) {
     traceVola(Unit::NetworkGet, "START_FUNCTION : FAL \n");
     Message message;
     if (const int line = request(message)) {
-        traceError({line}, "faltocal_send_main_multi_obj is Failure\n");
+        traceFailedRequest(line);
         return -1;
     }
     bool hasAddress = false;

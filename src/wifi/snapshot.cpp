@@ -75,7 +75,7 @@ int take(const Snapshot &snapshot, int own, int accessPoint, WifiParamTable *tab
     Message message(Message::Empty::Skip);
     const int result = askAll(snapshot, message, own, accessPoint);
     if (result == -1) {
-        traceFailedRequest(__LINE__, function);
+        traceFailedRequest({__LINE__, function});
     } else {
         keepSettings(snapshot, *message, table);
     }
