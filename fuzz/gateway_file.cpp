@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The importers of gateways: whatever they take, they write and read back alike.
-#include "gateway_file.h"
+#include "exchange/gateway_file.h"
 #include "bytes.h"
-#include "csv_file.h"
-#include "entry.h"
-#include "json_file.h"
+#include "exchange/csv_file.h"
+#include "exchange/json_file.h"
+#include "value/entry.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
 // libcal.so: the sandbox's configuration layer. Each message is one transaction on the gateway's store.
-#include "cal_codes.h"
-#include "cal_sandbox.h"
-#include "connection.h"
-#include "fault.h"
-#include "message.h"
-#include "path.h"
-#include "refusal.h"
-#include "refusal_log.h"
-#include "schema.h"
+#include "cal/cal_sandbox.h"
+#include "cal/connection.h"
+#include "cal/message.h"
+#include "store/cal_codes.h"
+#include "store/fault.h"
+#include "store/refusal_log.h"
+#include "store/schema.h"
+#include "value/path.h"
+#include "value/refusal.h"
 
 #include "libcal.h"
 

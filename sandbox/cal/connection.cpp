@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "connection.h"
+#include "cal/connection.h"
 
-#include "store.h"
+#include "exchange/gateway.h"
 
 #include <pthread.h>
 #include <sys/stat.h>
@@ -38,7 +38,7 @@ Database &Connection::open(const Location &location) {
         watchingForks_ = true;
     }
     database_.reset();
-    database_ = openStore(location);
+    database_ = openGateway(location);
     struct stat status {};
     stat(file.c_str(), &status);
     file_ = file;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "database.h"
-#include "location.h"
+#include "store/database.h"
+#include "store/location.h"
 
 #include <memory>
 #include <mutex>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "message.h"
+#include "cal/message.h"
 
-#include "path.h"
-#include "refusal.h"
+#include "value/path.h"
+#include "value/refusal.h"
 
-#include "../helper/node_words.h"
+#include "helper/node_words.h"
 #include "libhelper.h"
 
 #include <new>

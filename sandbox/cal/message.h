@@ -3,8 +3,8 @@
 // Messages (caltofal.h) taken apart into requests, and the answer put back into them.
 #pragma once
 
-#include "reader.h"
-#include "writer.h"
+#include "store/reader.h"
+#include "store/writer.h"
 
 #include "caltofal.h"
 

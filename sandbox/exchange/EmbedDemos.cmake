@@ -14,5 +14,5 @@ foreach(demo_file IN LISTS demo_files)
 endforeach()
 
 set(CALTOFAL_DEMO_SOURCE ${CMAKE_CURRENT_BINARY_DIR}/demo_texts.cpp)
-configure_file(${CMAKE_CURRENT_LIST_DIR}/demo_texts.cpp.in ${CALTOFAL_DEMO_SOURCE} @ONLY)
+configure_file(demo_texts.cpp.in ${CALTOFAL_DEMO_SOURCE} @ONLY)
 set_source_files_properties(${CALTOFAL_DEMO_SOURCE} PROPERTIES OBJECT_DEPENDS "${demo_files}")

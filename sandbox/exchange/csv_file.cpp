@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "csv_file.h"
+#include "exchange/csv_file.h"
 
-#include "escape.h"
+#include "value/escape.h"
 
 #include <algorithm>
 #include <ostream>

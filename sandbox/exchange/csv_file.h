@@ -4,7 +4,7 @@
 // and running, in any order.
 #pragma once
 
-#include "entry.h"
+#include "value/entry.h"
 
 #include <iosfwd>
 #include <string_view>

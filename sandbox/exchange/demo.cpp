@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "demo.h"
+#include "exchange/demo.h"
 
 namespace sandbox {
 

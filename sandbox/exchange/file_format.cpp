@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "file_format.h"
+#include "exchange/file_format.h"
 
-#include "command.h"
-#include "csv_file.h"
-#include "gateway_file.h"
-#include "json_file.h"
+#include "exchange/csv_file.h"
+#include "exchange/gateway_file.h"
+#include "exchange/json_file.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -74,7 +73,7 @@ void writeEntries(FileFormat format, const Entries &entries, std::ostream &out) 
 std::string readWhole(const std::string &file) {
     std::ifstream stream;
     if (std::filesystem::is_directory(file)) {
-        throw Failure(file + ": is a directory");
+        throw FileError(file, "is a directory");
     }
     if (file != "-") {
         stream.open(file, std::ios::binary);
@@ -82,7 +81,7 @@ std::string readWhole(const std::string &file) {
     std::istream &in = file == "-" ? std::cin : stream;
     std::string text(std::istreambuf_iterator<char>(in), {});
     if (!in || in.bad()) {
-        throw Failure(file + ": " + std::strerror(errno));
+        throw FileError(file, std::strerror(errno));
     }
     return text;
 }

@@ -3,7 +3,7 @@
 // The formats in which gateways are read and written.
 #pragma once
 
-#include "entry.h"
+#include "value/entry.h"
 
 #include <iosfwd>
 #include <string>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "gateway_export.h"
+#include "exchange/gateway_export.h"
 
-#include "model.h"
-#include "path.h"
+#include "store/model.h"
+#include "value/path.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "gateway_file.h"
+#include "exchange/gateway_file.h"
 
-#include "escape.h"
-#include "schema.h"
+#include "store/schema.h"
+#include "value/escape.h"
 
 #include <algorithm>
 #include <charconv>

@@ -3,7 +3,7 @@
 // The gateway text format (docs/gateway-file.md): reading and writing.
 #pragma once
 
-#include "entry.h"
+#include "value/entry.h"
 
 #include <string_view>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "gateway_import.h"
+#include "exchange/gateway_import.h"
 
-#include "accepted_value.h"
-#include "model.h"
-#include "path.h"
-#include "refusal.h"
+#include "store/model.h"
+#include "value/accepted_value.h"
+#include "value/path.h"
+#include "value/refusal.h"
 
 #include <unordered_map>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "database.h"
-#include "entry.h"
+#include "store/database.h"
+#include "value/entry.h"
 
 namespace sandbox {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "json_file.h"
+#include "exchange/json_file.h"
 
-#include "escape.h"
-#include "value_syntax.h"
+#include "value/escape.h"
+#include "value/value_syntax.h"
 
 #include <charconv>
 #include <iterator>

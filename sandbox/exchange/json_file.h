@@ -5,7 +5,7 @@
 // objects without parameters are left out.
 #pragma once
 
-#include "entry.h"
+#include "value/entry.h"
 
 #include <iosfwd>
 #include <string_view>

@@ -2,8 +2,8 @@
 //
 // libhelper.so: allocates, links and releases the nodes of a message. Texts are cut to their fields, new nodes go
 // to the end of their list, and nothing is added to a NULL list.
+#include "helper/node_words.h"
 #include "libhelper.h"
-#include "node_words.h"
 
 #include <cstddef>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "boot.h"
+#include "store/boot.h"
 
-#include "path.h"
-#include "schema.h"
+#include "store/schema.h"
+#include "value/path.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "database.h"
+#include "store/database.h"
 
 #include <optional>
 #include <string>

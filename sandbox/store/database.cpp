@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "database.h"
+#include "store/database.h"
 
 #include <algorithm>
 #include <new>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "definition.h"
+#include "store/definition.h"
 
 namespace sandbox {
 

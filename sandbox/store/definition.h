@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "database.h"
-#include "value_type.h"
+#include "store/database.h"
+#include "value/value_type.h"
 
 #include <map>
 #include <tuple>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "fault.h"
+#include "store/fault.h"
 
 #include <algorithm>
 

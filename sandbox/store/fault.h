@@ -3,7 +3,7 @@
 // Faults that a test orders: requests that fail or are answered late.
 #pragma once
 
-#include "database.h"
+#include "store/database.h"
 
 #include <optional>
 #include <string>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "location.h"
+#include "store/location.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "model.h"
+#include "store/model.h"
 
-#include "path.h"
+#include "value/path.h"
 
 #include <algorithm>
 #include <cstdlib>

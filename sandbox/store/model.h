@@ -4,9 +4,9 @@
 // their templates, and a parameter XNumberOfEntries beside a table X tells its number of instances.
 #pragma once
 
-#include "definition.h"
-#include "schema.h"
-#include "templates.h"
+#include "store/definition.h"
+#include "store/schema.h"
+#include "store/templates.h"
 
 #include <optional>
 #include <span>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "reader.h"
+#include "store/reader.h"
 
-#include "escape.h"
-#include "model.h"
-#include "path.h"
-#include "refusal.h"
+#include "store/model.h"
+#include "value/escape.h"
+#include "value/path.h"
+#include "value/refusal.h"
 
 #include "caltofal.h"
 

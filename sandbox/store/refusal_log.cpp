@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "refusal_log.h"
+#include "store/refusal_log.h"
 
-#include "cal_codes.h"
+#include "store/cal_codes.h"
 
 #include <cstdio>
 #include <ctime>

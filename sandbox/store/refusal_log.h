@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "location.h"
+#include "store/location.h"
 
 namespace sandbox {
 

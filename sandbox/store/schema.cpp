@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "schema.h"
+#include "store/schema.h"
 
-#include "refusal.h"
+#include "value/refusal.h"
 
 #include "caltofal.h"
 

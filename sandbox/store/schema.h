@@ -3,7 +3,7 @@
 // The tables of a gateway's store.
 #pragma once
 
-#include "database.h"
+#include "store/database.h"
 
 namespace sandbox {
 

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "store.h"
+#include "store/store.h"
 
-#include "demo.h"
-#include "escape.h"
-#include "gateway_file.h"
-#include "gateway_import.h"
-#include "refusal.h"
-#include "schema.h"
+#include "store/schema.h"
+#include "value/escape.h"
+#include "value/refusal.h"
 
 #include "caltofal.h"
 
@@ -135,27 +132,17 @@ class Draft {
     std::string file_;
 };
 
-void fill(const std::string &file, const Entries &entries, const std::string &source) {
+void make(const std::string &file, const std::function<void(Database &)> &fill) {
     const std::unique_ptr<Database> database = openDatabase(file, Database::Open::New);
     // Nobody sees the draft before it is whole, and a torn one is thrown away.
     database->execute("PRAGMA synchronous = OFF; PRAGMA journal_mode = MEMORY");
     {
         Transaction transaction(*database, Transaction::Kind::Write);
         createSchema(*database);
-        importEntries(*database, entries, source);
+        fill(*database);
         transaction.commit();
     }
     database->execute("PRAGMA journal_mode = WAL");
-}
-
-void createFromDemo(const Location &location) {
-    const Demo *demo = findDemo(location.name);
-    if (!demo) {
-        throw Refusal(CALTOFAL_NO_GATEWAY,
-                      "there is no gateway " + quotedShort(location.name) + " in " + location.directory);
-    }
-    const std::string file = std::string(demo->name) + ".tr181";
-    createStore(location, readGatewayFile(demo->text, file), file);
 }
 
 } // namespace
@@ -175,7 +162,8 @@ bool storeExists(const Location &location) {
 
 std::unique_ptr<Database> openStore(const Location &location) {
     if (!storeExists(location)) {
-        createFromDemo(location);
+        throw Refusal(CALTOFAL_NO_GATEWAY,
+                      "there is no gateway " + quotedShort(location.name) + " in " + location.directory);
     }
     std::unique_ptr<Database> database = openDatabase(location.storeFile(), howToOpen(location));
     // With a write-ahead log this loses nothing when a process dies, only when the machine does.
@@ -184,13 +172,13 @@ std::unique_ptr<Database> openStore(const Location &location) {
     return database;
 }
 
-bool createStore(const Location &location, const Entries &entries, const std::string &file) {
+bool createStore(const Location &location, const std::function<void(Database &)> &fill) {
     if (storeExists(location)) {
         return false;
     }
     makeDirectory(location.directory);
     const Draft draft(location);
-    fill(draft.file(), entries, file);
+    make(draft.file(), fill);
     const DirectoryLock lock(location.directory);
     if (storeExists(location)) {
         return false;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "templates.h"
+#include "store/templates.h"
 
-#include "path.h"
+#include "value/path.h"
 
 #include <algorithm>
 

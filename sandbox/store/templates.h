@@ -3,7 +3,7 @@
 // What the instances of tables are made of: the "{i}" entries of a gateway.
 #pragma once
 
-#include "database.h"
+#include "store/database.h"
 
 #include <map>
 #include <string>

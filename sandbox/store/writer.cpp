@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "writer.h"
+#include "store/writer.h"
 
-#include "accepted_value.h"
-#include "escape.h"
-#include "model.h"
-#include "path.h"
-#include "reader.h"
-#include "refusal.h"
+#include "store/model.h"
+#include "store/reader.h"
+#include "value/accepted_value.h"
+#include "value/escape.h"
+#include "value/path.h"
+#include "value/refusal.h"
 
 #include "caltofal.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "changes.h"
+#include "tool/changes.h"
 
-#include "escape.h"
+#include "value/escape.h"
 
 #include <ostream>
 

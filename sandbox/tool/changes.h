@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "boot.h"
+#include "store/boot.h"
 
 #include <iosfwd>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "command.h"
+#include "tool/command.h"
 
-#include "path.h"
-#include "store.h"
+#include "exchange/gateway.h"
+#include "value/path.h"
 
 #include <iostream>
 
@@ -14,7 +14,7 @@ Location Tool::location(const std::string &name) const {
 }
 
 std::unique_ptr<Database> Tool::open(const std::string &name) const {
-    return openStore(location(name));
+    return openGateway(location(name));
 }
 
 std::string keyOfArgument(const std::string &path) {

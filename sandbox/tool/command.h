@@ -3,8 +3,8 @@
 // The commands of caltofal-sandbox and what they share.
 #pragma once
 
-#include "database.h"
-#include "location.h"
+#include "store/database.h"
+#include "store/location.h"
 
 #include <CLI/CLI.hpp>
 #include <memory>

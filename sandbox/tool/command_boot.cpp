@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "boot.h"
+#include "store/boot.h"
 
-#include "changes.h"
-#include "command.h"
+#include "tool/changes.h"
+#include "tool/command.h"
 
 #include <iostream>
 

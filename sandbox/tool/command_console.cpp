@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "command.h"
-#include "places.h"
+#include "device/box/places.h"
+#include "tool/command.h"
 
 #include <cerrno>
 #include <cstring>

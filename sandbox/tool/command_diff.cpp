@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "changes.h"
-#include "command.h"
-#include "gateway_export.h"
-#include "path.h"
+#include "exchange/gateway_export.h"
+#include "tool/changes.h"
+#include "tool/command.h"
+#include "value/path.h"
 
 #include <iostream>
 #include <map>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "command.h"
-#include "demo.h"
-#include "file_format.h"
-#include "gateway_export.h"
-#include "model.h"
-#include "store.h"
+#include "exchange/demo.h"
+#include "exchange/file_format.h"
+#include "exchange/gateway_export.h"
+#include "store/model.h"
+#include "store/store.h"
+#include "tool/command.h"
 
 #include <iostream>
 

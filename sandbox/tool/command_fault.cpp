@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "cal_codes.h"
-#include "command.h"
-#include "fault.h"
-#include "json_value.h"
-#include "path.h"
+#include "exchange/json_value.h"
+#include "store/cal_codes.h"
+#include "store/fault.h"
+#include "tool/command.h"
+#include "value/path.h"
 
 #include <charconv>
 #include <iostream>

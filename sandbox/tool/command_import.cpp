@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "command.h"
-#include "demo.h"
-#include "file_format.h"
-#include "gateway_import.h"
-#include "store.h"
+#include "exchange/demo.h"
+#include "exchange/file_format.h"
+#include "exchange/gateway.h"
+#include "exchange/gateway_import.h"
+#include "tool/command.h"
 
 namespace sandbox {
 namespace {
@@ -27,10 +27,10 @@ void merge(Database &database, const Entries &entries, const Options &options) {
 // True when the gateway was made of the file.
 bool importFile(const Location &location, const Entries &entries, const Options &options) {
     const bool fromDemo = findDemo(location.name) && !options.replace;
-    if (!fromDemo && createStore(location, entries, options.file)) {
+    if (!fromDemo && createGateway(location, entries, options.file)) {
         return true;
     }
-    merge(*openStore(location), entries, options);
+    merge(*openGateway(location), entries, options);
     return false;
 }
 

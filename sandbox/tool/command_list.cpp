@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "command.h"
-#include "demo.h"
-#include "json_value.h"
-#include "refusal.h"
-#include "store.h"
+#include "exchange/demo.h"
+#include "exchange/json_value.h"
+#include "store/store.h"
+#include "tool/command.h"
+#include "value/refusal.h"
 
 #include <algorithm>
 #include <iomanip>

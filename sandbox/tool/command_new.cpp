@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "command.h"
-#include "demo.h"
-#include "file_format.h"
-#include "gateway_file.h"
-#include "store.h"
+#include "exchange/demo.h"
+#include "exchange/file_format.h"
+#include "exchange/gateway.h"
+#include "exchange/gateway_file.h"
+#include "tool/command.h"
 
 namespace sandbox {
 namespace {
@@ -36,7 +36,7 @@ void addNew(CLI::App &app, Tool &tool) {
         const std::string from = !options->from.empty()    ? options->from
                                  : findDemo(options->name) ? options->name
                                                            : kUsualDemo;
-        if (!createStore(location, sourceEntries(from), from)) {
+        if (!createGateway(location, sourceEntries(from), from)) {
             throw Failure("there is a gateway " + location.name + " already");
         }
         say("made gateway " + location.name + " of " + from);

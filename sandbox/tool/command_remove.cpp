@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "command.h"
-#include "places.h"
-#include "store.h"
+#include "device/box/places.h"
+#include "store/store.h"
+#include "tool/command.h"
 
 namespace sandbox {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "command.h"
+#include "tool/command.h"
 
-#include "box.h"
-#include "obstacle.h"
-#include "store.h"
+#include "device/box/box.h"
+#include "device/box/obstacle.h"
+#include "exchange/gateway.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -20,7 +20,7 @@ struct Options {
 void enterBox(Tool &tool, const Options &options, std::vector<std::string> command) {
     try {
         const Location location = tool.location();
-        openStore(location); // made when it is a demo's; refused here, not by each program in the box
+        openGateway(location); // made when it is a demo's; refused here, not by each program in the box
         tool.exitCode = box::run({location, std::move(command), options.shown});
     } catch (const box::Obstacle &obstacle) {
         say(std::string("caltofal-sandbox: ") + obstacle.what());

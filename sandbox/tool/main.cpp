@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // caltofal-sandbox: makes, shows and changes the gateways that the sandbox's libcal serves.
-#include "command.h"
-#include "refusal.h"
+#include "tool/command.h"
+#include "value/refusal.h"
 
 #include "caltofal.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "accepted_value.h"
+#include "value/accepted_value.h"
 
-#include "escape.h"
-#include "refusal.h"
+#include "value/escape.h"
+#include "value/refusal.h"
 
 #include "caltofal.h"
 

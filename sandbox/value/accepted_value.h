@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "value_type.h"
+#include "value/value_type.h"
 
 namespace sandbox {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "entry.h"
+#include "value/entry.h"
 
-#include "escape.h"
-#include "path.h"
+#include "value/escape.h"
+#include "value/path.h"
 
 namespace sandbox {
 

@@ -3,7 +3,7 @@
 // What one line of a gateway file says, whatever the file's format.
 #pragma once
 
-#include "value_type.h"
+#include "value/value_type.h"
 
 #include <cstdint>
 #include <optional>
@@ -41,11 +41,12 @@ struct Entry {
 
 using Entries = std::vector<Entry>;
 
-// A file that can not be taken in: what() is "FILE:LINE: message".
+// A file that can not be taken in: what() is "FILE:LINE: message", or "FILE: message" where the file as a whole fails.
 class FileError : public std::runtime_error {
   public:
     FileError(const std::string &file, size_t line, const std::string &message)
         : std::runtime_error(file + ":" + std::to_string(line) + ": " + message) {}
+    FileError(const std::string &file, const std::string &message) : std::runtime_error(file + ": " + message) {}
 };
 
 // Sorts a parameter's or an object's path (with a final dot) into kind, path and name. Throws std::invalid_argument

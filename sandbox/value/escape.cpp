@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "escape.h"
+#include "value/escape.h"
 
 #include <charconv>
 #include <cstdint>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "path.h"
+#include "value/path.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "value_syntax.h"
+#include "value/value_syntax.h"
 
 #include <algorithm>
 #include <cctype>

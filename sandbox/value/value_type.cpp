@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "value_type.h"
+#include "value/value_type.h"
 
-#include "escape.h"
-#include "value_syntax.h"
+#include "value/escape.h"
+#include "value/value_syntax.h"
 
 #include <algorithm>
 #include <stdexcept>

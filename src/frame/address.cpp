@@ -2,7 +2,7 @@
 // Checks of MAC and IPv4 address text.
 #include "caltofal.h"
 
-#include "log.h"
+#include "frame/log.h"
 
 #include <arpa/inet.h>
 #include <regex.h>

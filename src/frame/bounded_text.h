@@ -2,7 +2,7 @@
 // A text put together on the stack; what is put together here is too short and simple for printf().
 #pragma once
 
-#include "text.h"
+#include "frame/text.h"
 
 #include <cstdarg>
 #include <cstddef>

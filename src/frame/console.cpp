@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // PRINT_TO_CONSOLE(). Almost every trace is made of "%s" and "%d" alone, and tracing was the largest part of a page's
 // own work when each of them went through vsnprintf().
-#include "console.h"
+#include "frame/console.h"
 
 #include "caltofal.h"
 

@@ -2,8 +2,8 @@
 // A console line as the library puts it together.
 #pragma once
 
-#include "bounded_text.h"
-#include "text.h"
+#include "frame/bounded_text.h"
+#include "frame/text.h"
 
 #include <cstdarg>
 #include <cstring>

@@ -2,10 +2,10 @@
 // Finding a LAN device in the host table.
 #include "caltofal.h"
 
-#include "lookup.h"
-#include "message.h"
-#include "range.h"
-#include "trace.h"
+#include "frame/lookup.h"
+#include "frame/message.h"
+#include "frame/range.h"
+#include "frame/trace.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "field_table.h"
+#include "frame/field_table.h"
 
-#include "range.h"
-#include "text.h"
+#include "frame/range.h"
+#include "frame/text.h"
 
 #include <cstring>
 

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "caltofal.h"
-#include "name_filter.h"
+#include "frame/name_filter.h"
 
 #include <algorithm>
 #include <cstddef>

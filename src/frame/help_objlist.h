@@ -3,8 +3,8 @@
 #pragma once
 
 #include "caltofal.h"
+#include "frame/log.h"
 #include "libhelper.h"
-#include "log.h"
 
 namespace frame {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "keyword.h"
+#include "frame/keyword.h"
 
 #include <cstddef>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "log.h"
+#include "frame/log.h"
 
 #include <cstdio>
 #include <ctime>

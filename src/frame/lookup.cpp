@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "lookup.h"
+#include "frame/lookup.h"
 
-#include "name_filter.h"
-#include "range.h"
-#include "text.h"
-#include "trace.h"
+#include "frame/name_filter.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "frame/trace.h"
 
 #include <cstring>
 

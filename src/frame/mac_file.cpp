@@ -2,8 +2,8 @@
 // MAC addresses allotted to interfaces: lines of the form "eth0_1> AA:BB:CC:DD:EE:FF".
 #include "caltofal.h"
 
-#include "text.h"
-#include "trace.h"
+#include "frame/text.h"
+#include "frame/trace.h"
 
 #include <cstdio>
 #include <cstring>

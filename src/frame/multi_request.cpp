@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Requests that collect several objects in one message: "&" queues, "query" sends what was queued.
-#include "arguments.h"
-#include "help_objlist.h"
-#include "keyword.h"
-#include "trace.h"
+#include "frame/arguments.h"
+#include "frame/help_objlist.h"
+#include "frame/keyword.h"
+#include "frame/trace.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Building a message: header, objects, parameters, filters.
-#include "help_objlist.h"
+#include "frame/help_objlist.h"
 
-#include "log.h"
+#include "frame/log.h"
 
 using namespace frame;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "pipe.h"
+#include "frame/pipe.h"
 
 #include <cctype>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The two senders: the only calls into the configuration layer, each under the process-wide lock.
-#include "help_objlist.h"
+#include "frame/help_objlist.h"
 #include "libcal.h"
 
 #include <cstdio>

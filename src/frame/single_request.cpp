@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Requests of one object, built from keywords and sent at once.
-#include "arguments.h"
-#include "help_objlist.h"
-#include "keyword.h"
+#include "frame/arguments.h"
+#include "frame/help_objlist.h"
+#include "frame/keyword.h"
 
 using namespace frame;
 

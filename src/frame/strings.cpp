@@ -2,7 +2,7 @@
 // Exported text helpers.
 #include "caltofal.h"
 
-#include "text.h"
+#include "frame/text.h"
 
 #include <algorithm>
 #include <cctype>

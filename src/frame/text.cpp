@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "text.h"
+#include "frame/text.h"
 
 #include <cstdlib>
 #include <cstring>

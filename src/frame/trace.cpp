@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "trace.h"
+#include "frame/trace.h"
 
-#include "console.h"
+#include "frame/console.h"
 
 #include <cstdarg>
 

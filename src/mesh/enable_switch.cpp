@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The enable switch of the roaming mesh.
-#include "lookup.h"
-#include "message.h"
-#include "range.h"
-#include "trace.h"
+#include "frame/lookup.h"
+#include "frame/message.h"
+#include "frame/range.h"
+#include "frame/trace.h"
 
 using namespace frame;
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The satellites of a mesh master: finding their address, and having settings pushed to them.
-#include "trace.h"
+#include "frame/trace.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The first line that a shell command prints, in two variants: one insists on an output buffer and clears all of it
 // on failure, the other also runs commands for their effect alone.
-#include "pipe.h"
-#include "trace.h"
+#include "frame/pipe.h"
+#include "frame/trace.h"
 
 #include <cstring>
 

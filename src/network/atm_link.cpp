@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The first ATM link: its virtual circuit and QoS class.
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "network/request.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The WAN of a device in bridge mode: its first IP interface.
-#include "forwarding.h"
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "network/forwarding.h"
+#include "network/request.h"
 
 #include <cstring>
 

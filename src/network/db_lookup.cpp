@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Finding an object by one parameter's value and reading another of its parameters.
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
-#include "trace.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "frame/trace.h"
+#include "network/request.h"
 
 using namespace frame;
 using namespace network;

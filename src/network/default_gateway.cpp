@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Which WAN connection carries the default route.
-#include "field_tables.h"
-#include "range.h"
-#include "request.h"
+#include "frame/range.h"
+#include "network/field_tables.h"
+#include "network/request.h"
 
 using namespace frame;
 using namespace network;

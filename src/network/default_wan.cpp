@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The default WAN summary: everything that the user interface shows about the connection with the default route.
-#include "field_tables.h"
-#include "forwarding.h"
-#include "interface_path.h"
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
-#include "trace.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "frame/trace.h"
+#include "network/field_tables.h"
+#include "network/forwarding.h"
+#include "network/interface_path.h"
+#include "network/request.h"
 
 #include <cstring>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // DSL line 1 and channel 1.
-#include "field_tables.h"
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "network/field_tables.h"
+#include "network/request.h"
 
 #include <cstring>
 

@@ -2,7 +2,7 @@
 // The network pages' tables.
 #pragma once
 
-#include "field_table.h"
+#include "frame/field_table.h"
 
 namespace network {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "forwarding.h"
+#include "network/forwarding.h"
 
-#include "text.h"
+#include "frame/text.h"
 
 using namespace frame;
 

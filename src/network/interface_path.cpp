@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "interface_path.h"
+#include "network/interface_path.h"
 
 #include "caltofal.h"
-#include "text.h"
+#include "frame/text.h"
 
 #include <cstring>
 

@@ -2,8 +2,8 @@
 // Interface paths that compare equal with and without their final dot.
 #pragma once
 
-#include "bounded_text.h"
 #include "caltofal.h"
+#include "frame/bounded_text.h"
 
 namespace network {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Whether the bridge of an IPTV set-top box is in use.
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "network/request.h"
 
 #include <cstring>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // IPv6 prefix delegation on the current WAN.
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "network/request.h"
 
 #include <cstring>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // LAN page, IPv4: address, DHCP server, MAC address.
-#include "console.h"
-#include "field_tables.h"
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "trace.h"
+#include "frame/console.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/trace.h"
+#include "network/field_tables.h"
+#include "network/request.h"
 
 #include <cstring>
 

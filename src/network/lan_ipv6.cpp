@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // LAN page, IPv6: state, address, DNS, DHCPv6 range, prefix delegation, manual prefix.
-#include "field_tables.h"
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
-#include "trace.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "frame/trace.h"
+#include "network/field_tables.h"
+#include "network/request.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Multi-WAN: fail-over or load balancing over two connections.
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "network/request.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What the router is doing now.
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "network/request.h"
 
 #include <cstdlib>
 

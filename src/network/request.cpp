@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "request.h"
+#include "network/request.h"
 
-#include "trace.h"
+#include "frame/trace.h"
 
 namespace network {
 

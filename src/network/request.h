@@ -2,7 +2,7 @@
 // The requests that the network pages make, and how they report a failed one.
 #pragma once
 
-#include "message.h"
+#include "frame/message.h"
 
 namespace network {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The IPv4 DNS servers of a WAN interface.
-#include "interface_path.h"
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
-#include "trace.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "frame/trace.h"
+#include "network/interface_path.h"
+#include "network/request.h"
 
 #include <cstring>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The Linux name of the current WAN interface.
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
-#include "trace.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "frame/trace.h"
+#include "network/request.h"
 
 #include <cstring>
 

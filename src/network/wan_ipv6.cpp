@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The IPv6 block of the default WAN summary.
-#include "interface_path.h"
-#include "lookup.h"
-#include "range.h"
-#include "request.h"
-#include "text.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "network/interface_path.h"
+#include "network/request.h"
 
 #include <cstring>
 

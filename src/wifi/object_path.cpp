@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "object_path.h"
+#include "wifi/object_path.h"
 
 namespace wifi {
 

@@ -2,7 +2,7 @@
 // The path of an instance below Device.WiFi.
 #pragma once
 
-#include "bounded_text.h"
+#include "frame/bounded_text.h"
 
 #include <cstdint>
 

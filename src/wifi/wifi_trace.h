@@ -2,7 +2,7 @@
 // The trace line that several Wi-Fi functions share. Line and function are those of the caller.
 #pragma once
 
-#include "trace.h"
+#include "frame/trace.h"
 
 namespace wifi {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "field_table.h"
+#include "frame/field_table.h"
 #include "platform.h"
 
 #include "../../src/network/field_tables.h"

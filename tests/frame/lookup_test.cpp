@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform.h"
 
-#include "lookup.h"
-#include "message.h"
-#include "range.h"
+#include "frame/lookup.h"
+#include "frame/message.h"
+#include "frame/range.h"
 
 using namespace test;
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox_fixture.h"
 
-#include "cal_sandbox.h"
-#include "fault.h"
-#include "path.h"
-#include "store.h"
+#include "cal/cal_sandbox.h"
+#include "exchange/gateway.h"
+#include "store/fault.h"
+#include "value/path.h"
 
 #include <chrono>
 #include <sys/wait.h>
@@ -18,7 +18,7 @@ class Faults : public SandboxTest {
   protected:
     static void order(const std::string &object, const std::string &operation, std::optional<int> code, int lateMs,
                       std::optional<int64_t> nth) {
-        const auto database = openStore(location());
+        const auto database = openGateway(location());
         Transaction transaction(*database, Transaction::Kind::Write);
         addFault(*database, {0, object.empty() ? "" : *keyOf(object), operation, code, lateMs, nth});
         transaction.commit();
@@ -43,7 +43,7 @@ TEST_F(Faults, HitEveryRequestOfOneKind) {
     EXPECT_EQ(setOne("Device.Pair", {{"Left", "1"}}), -999);
     EXPECT_EQ(valueOf("Device.Pair", "Left"), "0");
     {
-        const auto database = openStore(location());
+        const auto database = openGateway(location());
         clearFaults(*database);
     }
     EXPECT_EQ(setOne("Device.Pair", {{"Left", "1"}}), 0);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "gateway_file.h"
+#include "exchange/gateway_file.h"
 #include "sandbox_fixture.h"
 
-#include "gateway_import.h"
-#include "store.h"
+#include "exchange/gateway.h"
+#include "exchange/gateway_import.h"
 
 using namespace sandbox;
 
@@ -94,7 +94,7 @@ TEST_F(Import, TakesAllOrNothing) {
         {"Device.New.A = 1\nDevice.New.B = 1\nDevice.New.A = 2\n", "f:3: Device.New.A was already given in line 1"},
         {"Device.New.{i}.A [int default=\"x\"]\n", "f:1: Device.New.{i}.A: \"x\" is not of type int"},
     };
-    const auto database = openStore(location());
+    const auto database = openGateway(location());
     for (const Case &row : cases) {
         try {
             Transaction transaction(*database, Transaction::Kind::Write);
@@ -108,7 +108,7 @@ TEST_F(Import, TakesAllOrNothing) {
 }
 
 TEST_F(Import, MergesIntoWhatIsThere) {
-    const auto database = openStore(location());
+    const auto database = openGateway(location());
     {
         Transaction transaction(*database, Transaction::Kind::Write);
         importEntries(*database,

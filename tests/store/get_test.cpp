@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox_fixture.h"
 
-#include "cal_sandbox.h"
+#include "cal/cal_sandbox.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 // libhelper.so; the address sanitizer sees what is not released.
 #include "sandbox_fixture.h"
 
-#include "node_words.h"
+#include "helper/node_words.h"
 
 #include <cstring>
 

@@ -3,8 +3,8 @@
 // Many processes, and many threads of one, on one gateway.
 #include "sandbox_fixture.h"
 
-#include "cal_sandbox.h"
-#include "store.h"
+#include "cal/cal_sandbox.h"
+#include "store/store.h"
 
 #include <filesystem>
 #include <set>

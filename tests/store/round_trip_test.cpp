@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox_fixture.h"
 
-#include "demo.h"
-#include "gateway_file.h"
-#include "store.h"
+#include "exchange/demo.h"
+#include "exchange/gateway.h"
+#include "exchange/gateway_file.h"
 
 using namespace sandbox;
 
@@ -31,7 +31,7 @@ TEST_F(RoundTrip, KeepsEverythingThatAGatewayHolds) {
     ASSERT_EQ(cal_setValue(&removed->header), 0);
 
     const Lines before = exported();
-    ASSERT_TRUE(createStore(location("copy"), readGatewayFile(joined(before), "copy"), "copy"));
+    ASSERT_TRUE(createGateway(location("copy"), readGatewayFile(joined(before), "copy"), "copy"));
     EXPECT_EQ(joined(exported("copy")), joined(before));
 
     // The number of an instance that was deleted is not given again, and the same comes and goes with a boot.
@@ -50,14 +50,14 @@ TEST_F(RoundTrip, KeepsTheDemos) {
         const std::string name(demo.name);
         const Lines made = exported(name); // made on first use
         EXPECT_GT(made.size(), 100U) << name;
-        ASSERT_TRUE(createStore(location(name + ".copy"), readGatewayFile(joined(made), name), name));
+        ASSERT_TRUE(createGateway(location(name + ".copy"), readGatewayFile(joined(made), name), name));
         EXPECT_EQ(joined(exported(name + ".copy")), joined(made)) << name;
     }
 }
 
 TEST_F(RoundTrip, GivesEveryDemoACountThatIsTrue) {
     for (const Demo &demo : demos()) {
-        const auto database = openStore(location(std::string(demo.name)));
+        const auto database = openGateway(location(std::string(demo.name)));
         Statement counts(*database, "SELECT t.key, p.running, (SELECT count(*) FROM object i WHERE i.parent = t.id) "
                                     "FROM object t JOIN parameter p ON p.object = t.parent WHERE t.kind = 1 "
                                     "AND t.key LIKE '%.' || replace(p.name, 'NumberOfEntries', '') || '.' "

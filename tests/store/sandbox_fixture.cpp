@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox_fixture.h"
 
-#include "gateway_export.h"
-#include "gateway_file.h"
-#include "store.h"
+#include "exchange/gateway.h"
+#include "exchange/gateway_export.h"
+#include "exchange/gateway_file.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -92,7 +92,7 @@ void SandboxTest::SetUp() {
     setenv("CALTOFAL_SANDBOX_DIR", directory_.c_str(), 1);
     setenv("CALTOFAL_GATEWAY", "lab", 1);
     const std::string text = readFile(LAB_FILE);
-    ASSERT_TRUE(sandbox::createStore(location(), sandbox::readGatewayFile(text, "lab.tr181"), "lab.tr181"));
+    ASSERT_TRUE(sandbox::createGateway(location(), sandbox::readGatewayFile(text, "lab.tr181"), "lab.tr181"));
 }
 
 void SandboxTest::TearDown() {
@@ -101,7 +101,7 @@ void SandboxTest::TearDown() {
 
 Lines SandboxTest::exported(const std::string &name) {
     Lines lines;
-    const auto database = sandbox::openStore(location(name));
+    const auto database = sandbox::openGateway(location(name));
     for (const sandbox::Entry &entry : sandbox::exportEntries(*database, "", sandbox::View::Both)) {
         lines.push_back(sandbox::gatewayLine(entry));
     }

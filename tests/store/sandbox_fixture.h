@@ -3,8 +3,8 @@
 // A private sandbox for each test, and messages written in one line.
 #pragma once
 
-#include "database.h"
-#include "location.h"
+#include "store/database.h"
+#include "store/location.h"
 
 #include "libcal.h"
 #include "libhelper.h"

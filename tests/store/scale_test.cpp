@@ -3,9 +3,9 @@
 // Ten thousand hosts cost no more than three where three are asked for.
 #include "sandbox_fixture.h"
 
-#include "cal_sandbox.h"
-#include "gateway_import.h"
-#include "store.h"
+#include "cal/cal_sandbox.h"
+#include "exchange/gateway.h"
+#include "exchange/gateway_import.h"
 
 #include <algorithm>
 #include <ctime>
@@ -87,7 +87,7 @@ TEST_F(SandboxTest, TenThousandHostsCostNoMoreThanWhatIsAsked) {
         small.push_back(cost(row.call));
     }
     {
-        const auto database = openStore(location());
+        const auto database = openGateway(location());
         Transaction transaction(*database, Transaction::Kind::Write);
         importEntries(*database, manyHosts(), "hosts");
         transaction.commit();

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "sandbox_fixture.h"
 
-#include "boot.h"
-#include "cal_sandbox.h"
-#include "store.h"
+#include "cal/cal_sandbox.h"
+#include "exchange/gateway.h"
+#include "store/boot.h"
 
 namespace {
 
@@ -20,7 +20,7 @@ std::unique_ptr<Message> change(uint32_t subOper, const std::string &path, const
 }
 
 void bootLab() {
-    const auto database = sandbox::openStore(sandbox::Location::current());
+    const auto database = sandbox::openGateway(sandbox::Location::current());
     sandbox::Transaction transaction(*database, sandbox::Transaction::Kind::Write);
     sandbox::boot(*database);
     transaction.commit();

@@ -3,8 +3,9 @@
 // Stores that can not be used.
 #include "sandbox_fixture.h"
 
-#include "cal_sandbox.h"
-#include "store.h"
+#include "cal/cal_sandbox.h"
+#include "exchange/gateway.h"
+#include "store/store.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -63,7 +64,7 @@ TEST_F(Trouble, WithAStoreThatIsNone) {
 TEST_F(Trouble, WithAStoreThatStaysLocked) {
     setenv("CALTOFAL_SANDBOX_BUSY_MS", "50", 1);
     {
-        const auto database = openStore(location());
+        const auto database = openGateway(location());
         const Transaction writing(*database, Transaction::Kind::Write);
         EXPECT_EQ(setOne("Device.Pair", {{"Left", "1"}}), CALTOFAL_STORE_BUSY);
         EXPECT_EQ(getInfo(), 0) << "readers do not wait for a writer";

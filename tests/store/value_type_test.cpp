@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "value_type.h"
+#include "value/value_type.h"
 
 #include <gtest/gtest.h>
 #include <stdexcept>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "snapshot.h"
+#include "wifi/settings/snapshot.h"
 #include "wifi_support.h"
 
 #include <regex>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "box.h"
+#include "device/box/box.h"
 
-#include "bwrap.h"
-#include "mounts.h"
-#include "obstacle.h"
-#include "places.h"
+#include "device/box/bwrap.h"
+#include "device/box/mounts.h"
+#include "device/box/obstacle.h"
+#include "device/box/places.h"
 
 #include <cerrno>
 #include <cstdlib>

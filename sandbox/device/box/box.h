@@ -4,7 +4,7 @@
 // unchanged.
 #pragma once
 
-#include "location.h"
+#include "store/location.h"
 
 #include <string>
 #include <vector>

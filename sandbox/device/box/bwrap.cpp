@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "bwrap.h"
+#include "device/box/bwrap.h"
 
-#include "obstacle.h"
+#include "device/box/obstacle.h"
 
 #include <cerrno>
 #include <csignal>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mounts.h"
+#include "device/box/mounts.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -3,7 +3,7 @@
 // The file system of a box, as arguments of bubblewrap.
 #pragma once
 
-#include "places.h"
+#include "device/box/places.h"
 
 #include <string>
 #include <vector>

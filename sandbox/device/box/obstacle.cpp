@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "obstacle.h"
+#include "device/box/obstacle.h"
 
 #include <fstream>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "places.h"
+#include "device/box/places.h"
 
-#include "obstacle.h"
+#include "device/box/obstacle.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -3,7 +3,7 @@
 // Where the box finds its parts on the host.
 #pragma once
 
-#include "location.h"
+#include "store/location.h"
 
 #include <string>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "console.h"
+#include "device/init/console.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "links.h"
+#include "device/init/links.h"
 
 #include <algorithm>
 #include <cctype>

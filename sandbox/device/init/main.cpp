@@ -9,9 +9,9 @@
 // byte once the command runs and stays open as long as the box, SIGNALS the one from which it reads, a byte each, the
 // signals for the command; its end says that nobody waits for the box any more. The terminal's own signals reach the
 // command directly, for it is in the caller's process group; the daemons are not.
-#include "console.h"
-#include "links.h"
-#include "system_log.h"
+#include "device/init/console.h"
+#include "device/init/links.h"
+#include "device/init/system_log.h"
 
 #include <cerrno>
 #include <chrono>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "system_log.h"
+#include "device/init/system_log.h"
 
 #include <cerrno>
 #include <charconv>

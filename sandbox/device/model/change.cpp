@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "change.h"
+#include "device/model/change.h"
 
-#include "accepted_value.h"
-#include "model.h"
-#include "path.h"
-#include "rows.h"
-#include "schema.h"
+#include "device/model/rows.h"
+#include "store/model.h"
+#include "store/schema.h"
+#include "value/accepted_value.h"
+#include "value/path.h"
 
 #include <algorithm>
 

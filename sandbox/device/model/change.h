@@ -3,7 +3,7 @@
 // Changes that a device makes to its own model, read-only parameters included.
 #pragma once
 
-#include "database.h"
+#include "store/database.h"
 
 #include <string>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "channel_plan.h"
+#include "device/model/channel_plan.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "wifi.h"
+#include "device/model/wifi.h"
 
 #include <string>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "driver.h"
+#include "device/model/driver.h"
 
-#include "driver_files.h"
-#include "neighbours.h"
-#include "store.h"
-#include "wifi.h"
+#include "device/model/driver_files.h"
+#include "device/model/neighbours.h"
+#include "device/model/wifi.h"
+#include "exchange/gateway.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -72,7 +72,7 @@ class View {
     }
 
     void open() {
-        database_ = sandbox::openStore(location_);
+        database_ = sandbox::openGateway(location_);
         version_ = -1;
     }
 

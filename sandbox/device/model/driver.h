@@ -3,7 +3,7 @@
 // The wireless driver's files, kept true while the gateway changes.
 #pragma once
 
-#include "location.h"
+#include "store/location.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "driver_files.h"
+#include "device/model/driver_files.h"
 
-#include "channel_plan.h"
+#include "device/model/channel_plan.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -3,8 +3,8 @@
 // The texts of the wireless driver's files below /proc/net/mtlk/.
 #pragma once
 
-#include "neighbours.h"
-#include "wifi.h"
+#include "device/model/neighbours.h"
+#include "device/model/wifi.h"
 
 #include <string>
 #include <vector>

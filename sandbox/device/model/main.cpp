@@ -2,14 +2,14 @@
 //
 // caltofal-device-model: what the device's programs, most of them shell scripts, ask of the gateway's model. It works
 // on the store itself, so that faults ordered for the configuration layer do not hit the device's own programs.
-#include "change.h"
-#include "channel_plan.h"
-#include "driver.h"
-#include "neighbours.h"
-#include "notification.h"
-#include "rows.h"
-#include "store.h"
-#include "wifi.h"
+#include "device/model/change.h"
+#include "device/model/channel_plan.h"
+#include "device/model/driver.h"
+#include "device/model/neighbours.h"
+#include "device/model/notification.h"
+#include "device/model/rows.h"
+#include "device/model/wifi.h"
+#include "exchange/gateway.h"
 
 #include <algorithm>
 #include <iostream>
@@ -25,7 +25,7 @@ constexpr int kFailed = 1;
 constexpr int kUsage = 2;
 
 std::unique_ptr<sandbox::Database> openGateway() {
-    return sandbox::openStore(sandbox::Location::current());
+    return sandbox::openGateway(sandbox::Location::current());
 }
 
 // The text as one word of a shell.

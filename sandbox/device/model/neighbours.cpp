@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "neighbours.h"
+#include "device/model/neighbours.h"
 
 #include <algorithm>
 #include <cstdlib>

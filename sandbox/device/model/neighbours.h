@@ -3,7 +3,7 @@
 // The networks within reach of a gateway: what a survey finds and what an end point can join.
 #pragma once
 
-#include "wifi.h"
+#include "device/model/wifi.h"
 
 #include <string>
 #include <vector>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "notification.h"
+#include "device/model/notification.h"
 
 #include <nlohmann/json.hpp>
 

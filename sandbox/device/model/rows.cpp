@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "rows.h"
+#include "device/model/rows.h"
 
-#include "path.h"
-#include "reader.h"
-#include "refusal.h"
+#include "store/reader.h"
+#include "value/path.h"
+#include "value/refusal.h"
 
 #include "caltofal.h"
 

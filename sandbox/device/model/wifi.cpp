@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "wifi.h"
+#include "device/model/wifi.h"
 
-#include "rows.h"
+#include "device/model/rows.h"
 
 #include <algorithm>
 #include <cctype>

@@ -3,7 +3,7 @@
 // The Wi-Fi part of a gateway, as its wireless driver sees it.
 #pragma once
 
-#include "database.h"
+#include "store/database.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Words of one vocabulary into words of the other, by the pair tables.
-#include "trace.h"
+#include "frame/trace.h"
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Numbers and switches of the Wi-Fi pages: limits, numberings, percentages, frequencies.
-#include "text.h"
+#include "frame/text.h"
 
 #include "caltofal.h"
 

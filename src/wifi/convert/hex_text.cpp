@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "hex_text.h"
+#include "wifi/convert/hex_text.h"
 
 #include "caltofal.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Checking and comparing MAC address text.
 #include "caltofal.h"
-#include "hex_text.h"
+#include "wifi/convert/hex_text.h"
 
 using namespace wifi;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // On which side the secondary channel of a 40 MHz network lies at 2.4 GHz.
 #include "caltofal.h"
-#include "text.h"
+#include "frame/text.h"
 
 using namespace frame;
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "channel_list.h"
+#include "wifi/driver/channel_list.h"
 
-#include "file.h"
-#include "formatted.h"
-#include "lookup.h"
-#include "message.h"
-#include "object_path.h"
-#include "pipe.h"
-#include "range.h"
-#include "wifi_trace.h"
-#include "words.h"
+#include "frame/lookup.h"
+#include "frame/message.h"
+#include "frame/pipe.h"
+#include "frame/range.h"
+#include "wifi/convert/words.h"
+#include "wifi/driver/file.h"
+#include "wifi/driver/formatted.h"
+#include "wifi/object_path.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstring>
 #include <iterator>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "current_channel.h"
+#include "wifi/driver/current_channel.h"
 
-#include "file.h"
-#include "formatted.h"
-#include "pipe.h"
-#include "wifi_trace.h"
+#include "frame/pipe.h"
+#include "wifi/driver/file.h"
+#include "wifi/driver/formatted.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstring>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The upstream link of a repeater's endpoint, from its driver's files.
-#include "file.h"
-#include "formatted.h"
-#include "pipe.h"
-#include "text.h"
-#include "wifi_trace.h"
+#include "frame/pipe.h"
+#include "frame/text.h"
+#include "wifi/driver/file.h"
+#include "wifi/driver/formatted.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstring>
 

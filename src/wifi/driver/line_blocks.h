@@ -2,7 +2,7 @@
 // The lines of a file, cut out of the blocks that it is read in.
 #pragma once
 
-#include "file.h"
+#include "wifi/driver/file.h"
 
 #include <cstring>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Asking the service daemon for WPS and scan actions, over the message bus's command-line client.
-#include "formatted.h"
-#include "pipe.h"
-#include "trace.h"
+#include "frame/pipe.h"
+#include "frame/trace.h"
+#include "wifi/driver/formatted.h"
 
 using namespace frame;
 using namespace wifi;

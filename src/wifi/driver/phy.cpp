@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "phy.h"
+#include "wifi/driver/phy.h"
 
 #include "caltofal.h"
-#include "formatted.h"
-#include "pipe.h"
+#include "frame/pipe.h"
+#include "wifi/driver/formatted.h"
 
 #include <cstdlib>
 #include <cstring>

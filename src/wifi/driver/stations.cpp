@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "stations.h"
+#include "wifi/driver/stations.h"
 
-#include "file.h"
-#include "formatted.h"
-#include "pipe.h"
-#include "text.h"
-#include "wifi_trace.h"
-#include "words.h"
+#include "frame/pipe.h"
+#include "frame/text.h"
+#include "wifi/convert/words.h"
+#include "wifi/driver/file.h"
+#include "wifi/driver/formatted.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstring>
 #include <iterator>

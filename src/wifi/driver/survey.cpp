@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Reading a survey's result file.
-#include "file.h"
-#include "line_blocks.h"
-#include "survey_parse.h"
-#include "wifi_trace.h"
+#include "wifi/driver/file.h"
+#include "wifi/driver/line_blocks.h"
+#include "wifi/driver/survey_parse.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstdlib>
 #include <cstring>

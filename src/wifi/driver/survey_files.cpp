@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The files that surveys leave behind, and the SDK's generated configuration.
 #include "caltofal.h"
-#include "file.h"
-#include "formatted.h"
-#include "line_blocks.h"
-#include "pipe.h"
+#include "frame/pipe.h"
+#include "wifi/driver/file.h"
+#include "wifi/driver/formatted.h"
+#include "wifi/driver/line_blocks.h"
 
 #include <unistd.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "survey_parse.h"
+#include "wifi/driver/survey_parse.h"
 
-#include "field.h"
-#include "text.h"
-#include "words.h"
+#include "frame/text.h"
+#include "wifi/convert/words.h"
+#include "wifi/field.h"
 
 using namespace frame;
 

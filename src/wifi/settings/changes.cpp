@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Finding out whether a wanted setting differs from what a table holds.
-#include "lookup.h"
-#include "param_table.h"
-#include "wifi_trace.h"
+#include "frame/lookup.h"
+#include "wifi/settings/param_table.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstring>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A header that the host fills and sends itself.
-#include "help_objlist.h"
-#include "keyword.h"
+#include "frame/help_objlist.h"
+#include "frame/keyword.h"
 
 using namespace frame;
 

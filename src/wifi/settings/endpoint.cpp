@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Which endpoint of a repeater is in use.
-#include "lookup.h"
-#include "message.h"
-#include "object_path.h"
-#include "range.h"
-#include "text.h"
-#include "wifi_trace.h"
+#include "frame/lookup.h"
+#include "frame/message.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "wifi/object_path.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstring>
 

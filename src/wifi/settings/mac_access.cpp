@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The MAC filter table of an SSID, one entry a call.
-#include "lookup.h"
-#include "range.h"
-#include "text.h"
-#include "wifi_trace.h"
+#include "frame/lookup.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstring>
 #include <iterator>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "param_table.h"
+#include "wifi/settings/param_table.h"
 
-#include "field.h"
+#include "wifi/field.h"
 
 #include <cstring>
 

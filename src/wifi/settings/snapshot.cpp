@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "snapshot.h"
+#include "wifi/settings/snapshot.h"
 
-#include "message.h"
-#include "param_table.h"
-#include "range.h"
-#include "wifi_trace.h"
+#include "frame/message.h"
+#include "frame/range.h"
+#include "wifi/settings/param_table.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstring>
 

@@ -6,7 +6,7 @@
 #pragma once
 
 #include "caltofal.h"
-#include "object_path.h"
+#include "wifi/object_path.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // How many clients a radio serves.
-#include "lookup.h"
-#include "message.h"
-#include "object_path.h"
-#include "range.h"
-#include "text.h"
-#include "wifi_trace.h"
+#include "frame/lookup.h"
+#include "frame/message.h"
+#include "frame/range.h"
+#include "frame/text.h"
+#include "wifi/object_path.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstring>
 

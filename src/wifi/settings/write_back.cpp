@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Sending a table of changes: one set per object, all in one message.
-#include "lookup.h"
-#include "param_table.h"
-#include "text.h"
-#include "wifi_trace.h"
+#include "frame/lookup.h"
+#include "frame/text.h"
+#include "wifi/settings/param_table.h"
+#include "wifi/wifi_trace.h"
 
 #include <cstdio>
 #include <cstdlib>

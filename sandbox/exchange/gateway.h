@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+//
+// Gateways by name: made of entries, and the demo gateways made on first use.
+#pragma once
+
+#include "store/database.h"
+#include "store/location.h"
+#include "value/entry.h"
+
+#include <memory>
+#include <string>
+
+namespace sandbox {
+
+// Opens a gateway. One that does not exist is made from the demo of its name. Throws a Refusal with
+// CALTOFAL_NO_GATEWAY when there is none, or when the name is not a gateway's.
+std::unique_ptr<Database> openGateway(const Location &location);
+
+// Makes a gateway of a file's entries. It appears whole or not at all. False when it exists already, be it that
+// another process made it in the meantime. Throws FileError for a bad entry.
+bool createGateway(const Location &location, const Entries &entries, const std::string &file);
+
+} // namespace sandbox
