@@ -10,6 +10,13 @@ endif()
 
 string(COMPARE EQUAL "${CALTOFAL_PLATFORM}" sandbox is_sandbox)
 option(CALTOFAL_TOOLS "Build the command-line tool" ON)
+# Where it is cross-built, the sysroot must have its libraries.
+if(is_sandbox AND NOT CMAKE_CROSSCOMPILING)
+  set(is_native ON)
+else()
+  set(is_native OFF)
+endif()
+option(CALTOFAL_WEB "Build the web back end" ${is_native})
 option(CALTOFAL_TESTS "Build the tests" ${is_sandbox})
 option(CALTOFAL_BENCH "Build the benchmarks" OFF)
 

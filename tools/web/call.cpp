@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "call.h"
+
+#include "refusal.h"
+
+#include <algorithm>
+
+namespace web {
+namespace {
+
+void checkQuery(const Resource &resource, const std::vector<QueryItem> &query) {
+    for (const QueryItem &item : query) {
+        const bool known = item.name.find(' ') == std::string::npos && !item.name.empty() &&
+                           (" " + std::string(resource.queries)).find(" " + item.name + " ") != std::string::npos;
+        if (!known) {
+            throw Refusal(Status::BadRequest, "\"" + item.name + "\" is not understood in this URL's query");
+        }
+    }
+}
+
+} // namespace
+
+std::string Call::text(std::string_view name) const {
+    std::string last;
+    for (const QueryItem &item : query) {
+        last = item.name == name ? item.value : last;
+    }
+    return last;
+}
+
+bool Call::flag(std::string_view name) const {
+    const std::string value = text(name);
+    if (value == "1" || value == "true") {
+        return true;
+    }
+    if (!value.empty() && value != "0" && value != "false") {
+        throw Refusal(Status::BadRequest, std::string(name) + " is 1 or 0");
+    }
+    return false;
+}
+
+Call parseCall(std::string_view method, const Target &target) {
+    Route route = findRoute(target.path);
+    if (!route.resource) {
+        throw Refusal(Status::NotFound, target.path + ": there is no such resource; GET /api/v1 lists them");
+    }
+    Call call{route.resource, methodOf(method), std::move(route.argument), target.query, Json::object()};
+    if ((call.method & route.resource->methods) == 0) {
+        throw Refusal(Status::MethodNotAllowed,
+                      std::string(method) + " is not possible here: " + methodNames(*route.resource, false) + " is",
+                      {{"Allow", methodNames(*route.resource, false)}});
+    }
+    checkQuery(*call.resource, call.query);
+    return call;
+}
+
+void takeBody(Call &call, std::string_view body) {
+    if (call.method == kGet || call.method == kDelete) {
+        if (!body.empty()) {
+            throw Refusal(Status::BadRequest, "a body is not understood here");
+        }
+        return;
+    }
+    call.body = parseBody(body);
+}
+
+} // namespace web

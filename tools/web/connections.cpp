@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "connections.h"
+
+#include "response.h"
+
+#include <algorithm>
+#include <sys/socket.h>
+
+namespace web {
+namespace {
+
+using std::chrono::steady_clock;
+
+// To a connection that the server gives up; what does not go out at once is lost.
+void sayGoodbye(int descriptor, Status status, const std::string &message, std::vector<Header> headers = {}) {
+    const std::string bytes = closingBytes(errorResponse(Refusal(status, message, std::move(headers))));
+    static_cast<void>(send(descriptor, bytes.data(), bytes.size(), MSG_DONTWAIT | MSG_NOSIGNAL));
+}
+
+} // namespace
+
+Connections::Connections(Limits limits) : limits_(limits), watcher_([this] { watch(); }) {}
+
+Connections::~Connections() {
+    {
+        const std::lock_guard lock(mutex_);
+        ending_ = true;
+    }
+    changed_.notify_all();
+    watcher_.join();
+}
+
+Connections::Handle Connections::opened(int descriptor, std::string address) {
+    const std::lock_guard lock(mutex_);
+    unsigned &ofAddress = perAddress_[address];
+    const bool full = served_ >= limits_.connections;
+    const bool refused = full || ofAddress >= limits_.perAddress;
+    entries_.push_front({descriptor, std::move(address), State::Idle, true, steady_clock::now() + kRequestTime});
+    const Handle entry = entries_.begin();
+    if (refused) {
+        entry->state = State::Refused;
+        entry->deadline = steady_clock::now() + std::chrono::seconds(1);
+        sayGoodbye(descriptor, Status::Unavailable,
+                   full ? "too many connections" : "too many connections from this address", {{"Retry-After", "1"}});
+        shutdown(descriptor, SHUT_WR); // what the client still sends is read, so that it sees the answer
+    } else {
+        ++ofAddress;
+        ++served_;
+    }
+    wakeBefore(entry->deadline);
+    return entry;
+}
+
+void Connections::closed(Handle entry) {
+    const std::lock_guard lock(mutex_);
+    if (entry->state != State::Refused) {
+        --served_;
+        const auto ofAddress = perAddress_.find(entry->address);
+        if (--ofAddress->second == 0) {
+            perAddress_.erase(ofAddress);
+        }
+    }
+    entries_.erase(entry);
+    if (ending_) {
+        changed_.notify_all();
+    }
+}
+
+void Connections::become(Handle entry, State state) {
+    const std::lock_guard lock(mutex_);
+    if (entry->state == State::Refused) {
+        return;
+    }
+    entry->state = state;
+    entry->fresh = false;
+    entry->deadline = state == State::Working
+                          ? steady_clock::time_point::max()
+                          : steady_clock::now() + (state == State::Answering ? kAnswerTime : kRequestTime);
+    wakeBefore(entry->deadline);
+}
+
+void Connections::wakeBefore(steady_clock::time_point deadline) {
+    if (ending_ || deadline < wake_) {
+        changed_.notify_all();
+    }
+}
+
+bool Connections::isRefused(Handle entry) {
+    const std::lock_guard lock(mutex_);
+    return entry->state == State::Refused;
+}
+
+void Connections::drain(steady_clock::time_point deadline) {
+    std::unique_lock lock(mutex_);
+    ending_ = true;
+    const auto done = [this] {
+        bool busy = false;
+        for (Entry &entry : entries_) {
+            if (entry.state == State::Idle || entry.state == State::Refused) {
+                shutdown(entry.descriptor, SHUT_RDWR);
+            } else {
+                busy = true;
+            }
+        }
+        return !busy;
+    };
+    changed_.wait_until(lock, deadline, done);
+}
+
+// A connection that was silent since its last answer is closed without a word: a client could take it for the answer
+// to what it is about to ask.
+void Connections::expire(Entry &entry) {
+    if (entry.state == State::Receiving || (entry.state == State::Idle && entry.fresh)) {
+        sayGoodbye(entry.descriptor, Status::RequestTimeout,
+                   "the request did not come whole within " + std::to_string(kRequestTime.count()) + " seconds");
+    }
+    shutdown(entry.descriptor, SHUT_RDWR);
+    entry.deadline = steady_clock::time_point::max();
+}
+
+steady_clock::time_point Connections::expireAll(steady_clock::time_point now) {
+    steady_clock::time_point next = steady_clock::time_point::max();
+    for (Entry &entry : entries_) {
+        if (entry.deadline <= now) {
+            expire(entry);
+        }
+        next = std::min(next, entry.deadline);
+    }
+    return next;
+}
+
+void Connections::watch() {
+    std::unique_lock lock(mutex_);
+    while (!ending_) {
+        wake_ = expireAll(steady_clock::now());
+        if (wake_ == steady_clock::time_point::max()) {
+            changed_.wait(lock);
+        } else {
+            changed_.wait_until(lock, wake_);
+        }
+    }
+}
+
+} // namespace web

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "exchange.h"
+
+#include <charconv>
+#include <cstring>
+#include <microhttpd.h>
+#include <strings.h>
+
+namespace web {
+namespace {
+
+struct Wanted {
+    const char *name;
+    std::string Request::*member;
+};
+
+constexpr Wanted kWanted[] = {
+    {"Host", &Request::host},
+    {"Origin", &Request::origin},
+    {"Sec-Fetch-Site", &Request::fetchSite},
+    {"Authorization", &Request::authorization},
+    {"Cookie", &Request::cookie},
+    {"Content-Type", &Request::contentType},
+    {"If-None-Match", &Request::ifNoneMatch},
+};
+
+struct Headers {
+    Request &request;
+    size_t bytes = 0;
+    bool twice = false; // one that may stand there once
+    bool awaitsContinue = false;
+};
+
+bool is(const char *name, const char *wanted) {
+    return strcasecmp(name, wanted) == 0;
+}
+
+void takeOther(Headers &headers, const char *name, const char *value) {
+    if (is(name, "Content-Length")) {
+        uint64_t length = 0;
+        const auto [end, error] = std::from_chars(value, value + strlen(value), length);
+        headers.request.contentLength = error == std::errc() && *end == '\0' ? length : UINT64_MAX;
+    } else if (is(name, "Transfer-Encoding")) {
+        headers.request.chunked = true;
+    } else if (is(name, "Expect")) {
+        headers.awaitsContinue = true;
+    }
+}
+
+MHD_Result takeHeader(void *context, MHD_ValueKind /*kind*/, const char *name, const char *text) {
+    Headers &headers = *static_cast<Headers *>(context);
+    const char *value = text ? text : "";
+    headers.bytes += strlen(name) + strlen(value) + strlen(": \r\n");
+    for (const Wanted &wanted : kWanted) {
+        if (is(name, wanted.name)) {
+            std::string &member = headers.request.*wanted.member;
+            headers.twice = headers.twice || !member.empty();
+            member = value;
+        }
+    }
+    takeOther(headers, name, value);
+    return MHD_YES;
+}
+
+} // namespace
+
+void Exchange::takeHeaders(MHD_Connection *from, const char *method) {
+    Headers headers{request};
+    request.method = method;
+    MHD_get_connection_values(from, MHD_HEADER_KIND, takeHeader, &headers);
+    awaitsContinue_ = headers.awaitsContinue;
+    if (headers.bytes + request.target.size() > kHeadersMax) {
+        throw Refusal(Status::HeadersTooLarge, "the headers are larger than " + std::to_string(kHeadersMax) + " bytes");
+    }
+    if (headers.twice) {
+        throw Refusal(Status::BadRequest, "a header stands twice in the request");
+    }
+}
+
+void Exchange::takeBody(std::string_view bytes) {
+    if (response) {
+        return;
+    }
+    if (request.body.size() + bytes.size() > kBodyMax) {
+        response = errorResponse(
+            Refusal(Status::ContentTooLarge, "the body is larger than " + std::to_string(kBodyMax) + " bytes"));
+        return;
+    }
+    request.body += bytes;
+}
+
+bool Exchange::skipsBody() const {
+    return awaitsContinue_ || request.contentLength.value_or(0) > kDrainMax;
+}
+
+} // namespace web

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// A request as it came over a connection, nothing of it judged yet.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace web {
+
+constexpr size_t kBodyMax = 64 * 1024;    // bytes of a body
+constexpr size_t kHeadersMax = 16 * 1024; // bytes of the request line and all headers
+constexpr int kDepthMax = 16;             // of JSON in a body
+
+struct Request {
+    std::string method;
+    std::string target; // path and query, still encoded
+    std::string body;
+    std::string address; // the client's, as text
+    // Headers; absent ones are empty.
+    std::string host, origin, fetchSite, authorization, cookie, contentType, ifNoneMatch;
+    std::optional<uint64_t> contentLength;
+    bool chunked = false;
+};
+
+} // namespace web

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "response.h"
+
+#include "etag.h"
+#include "page_file.h"
+
+namespace web {
+namespace {
+
+const char *phraseOf(Status status) {
+    return status == Status::RequestTimeout ? "Request Timeout" : "Service Unavailable";
+}
+
+} // namespace
+
+Response jsonResponse(const Json &json, Status status) {
+    return {status, json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n"};
+}
+
+Response errorResponse(const Refusal &refusal) {
+    Response response = jsonResponse(
+        {{"error", {{"code", nullptr}, {"exit", nullptr}, {"message", refusal.what()}, {"object", nullptr}}}},
+        refusal.status());
+    response.headers = refusal.headers();
+    return response;
+}
+
+Response tagged(Response response, std::string_view ifNoneMatch) {
+    std::string etag = etagOf(response.body);
+    if (etagMatches(ifNoneMatch, etag)) {
+        response.status = Status::NotModified;
+        response.body.clear();
+    }
+    response.headers.push_back({"ETag", std::move(etag)});
+    return response;
+}
+
+Response fileResponse(const PageFile &file, std::string_view ifNoneMatch) {
+    const bool known = etagMatches(ifNoneMatch, file.etag);
+    return {known ? Status::NotModified : Status::Ok,
+            {},
+            known ? std::string_view() : file.content,
+            file.type,
+            "no-cache", // a new version of the program is seen at the next look
+            {{"ETag", file.etag}}};
+}
+
+const std::vector<Header> &safetyHeaders() {
+    static const std::vector<Header> headers = {
+        {"Content-Security-Policy", "default-src 'self'; frame-ancestors 'none'; base-uri 'none'; form-action 'self'"},
+        {"X-Content-Type-Options", "nosniff"},
+        {"Referrer-Policy", "no-referrer"},
+    };
+    return headers;
+}
+
+std::string closingBytes(const Response &response) {
+    std::string text = "HTTP/1.1 " + std::to_string(static_cast<unsigned>(response.status)) + " " +
+                       phraseOf(response.status) +
+                       "\r\nConnection: close\r\nContent-Type: " + std::string(response.type) +
+                       "\r\nCache-Control: " + std::string(response.caching) + "\r\n";
+    for (const std::vector<Header> *headers : {&safetyHeaders(), &response.headers}) {
+        for (const Header &header : *headers) {
+            text += header.name + ": " + header.value + "\r\n";
+        }
+    }
+    return text + "Content-Length: " + std::to_string(response.body.size()) + "\r\n\r\n" + response.body;
+}
+
+} // namespace web

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// An answer before it goes over a connection.
+#pragma once
+
+#include "body.h"
+#include "refusal.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace web {
+
+struct PageFile;
+
+struct Response {
+    Status status = Status::Ok;
+    std::string body = {};
+    std::string_view file = {}; // in place of the body: text that lives as long as the process
+    std::string_view type = "application/json";
+    std::string_view caching = "no-store";
+    std::vector<Header> headers = {};
+};
+
+// JSON as the command line prints it.
+Response jsonResponse(const Json &json, Status status = Status::Ok);
+
+// {"error": {"code", "exit", "message", "object"}}, null where there is none.
+Response errorResponse(const Refusal &refusal);
+
+// Adds the tag of the body, and drops the body where the client has it already.
+Response tagged(Response response, std::string_view ifNoneMatch);
+
+Response fileResponse(const PageFile &file, std::string_view ifNoneMatch);
+
+// What every answer carries.
+const std::vector<Header> &safetyHeaders();
+
+// A whole answer as bytes, after which the connection ends: for connections that are not served.
+std::string closingBytes(const Response &response);
+
+} // namespace web

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "server.h"
+
+#include "exchange.h"
+#include "listener.h"
+
+#include <cstdarg>
+#include <cstdio>
+#include <memory>
+#include <microhttpd.h>
+#include <stdexcept>
+
+namespace web {
+namespace {
+
+constexpr unsigned kThreads = 4;
+constexpr unsigned kSpareConnections = 32;  // to tell those beyond the limit so
+constexpr size_t kConnectionMemory = 24576; // kHeadersMax, and what the HTTP library keeps beside it
+constexpr unsigned kSilenceMax = 75;        // seconds; the connections' own deadlines come first
+
+MHD_Response *makeResponse(const Response &response) {
+    const std::string_view content = response.file.empty() ? std::string_view(response.body) : response.file;
+    const MHD_ResponseMemoryMode mode = response.file.empty() ? MHD_RESPMEM_MUST_COPY : MHD_RESPMEM_PERSISTENT;
+    // The library only reads it.
+    MHD_Response *made =
+        MHD_create_response_from_buffer(content.size(), const_cast<char *>(content.data()), mode); // NOLINT
+    if (!made) {
+        throw std::bad_alloc();
+    }
+    const auto add = [&](const std::string &name, std::string_view value) {
+        MHD_add_response_header(made, name.c_str(), std::string(value).c_str());
+    };
+    if (response.status != Status::NotModified && !content.empty()) {
+        add(MHD_HTTP_HEADER_CONTENT_TYPE, response.type);
+    }
+    add(MHD_HTTP_HEADER_CACHE_CONTROL, response.caching);
+    for (const std::vector<Header> *headers : {&safetyHeaders(), &response.headers}) {
+        for (const Header &header : *headers) {
+            add(header.name, header.value);
+        }
+    }
+    return made;
+}
+
+MHD_Result send(MHD_Connection *connection, const Response &response) {
+    MHD_Response *made = makeResponse(response);
+    const MHD_Result queued = MHD_queue_response(connection, static_cast<unsigned>(response.status), made);
+    MHD_destroy_response(made);
+    return queued;
+}
+
+Connections::Handle &handleOf(MHD_Connection *connection) {
+    const MHD_ConnectionInfo *info = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_SOCKET_CONTEXT);
+    return *static_cast<Connections::Handle *>(info->socket_context);
+}
+
+} // namespace
+
+struct Callbacks {
+    static void connection(void *self, MHD_Connection *connection, void **context,
+                           MHD_ConnectionNotificationCode code) {
+        Server &server = *static_cast<Server *>(self);
+        if (code == MHD_CONNECTION_NOTIFY_CLOSED) {
+            const std::unique_ptr<Connections::Handle> handle(static_cast<Connections::Handle *>(*context));
+            server.connections_.closed(*handle);
+            return;
+        }
+        const int descriptor = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CONNECTION_FD)->connect_fd;
+        const sockaddr *address = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CLIENT_ADDRESS)->client_addr;
+        *context = new Connections::Handle(server.connections_.opened(descriptor, addressText(address)));
+    }
+
+    // The request line has come.
+    static void *begin(void *self, const char *target, MHD_Connection *connection) {
+        auto exchange = std::make_unique<Exchange>();
+        exchange->connection = handleOf(connection);
+        exchange->request.target = target;
+        exchange->request.address = exchange->connection->address;
+        static_cast<Server *>(self)->connections_.become(exchange->connection, Connections::State::Receiving);
+        return exchange.release();
+    }
+
+    static void end(void *self, MHD_Connection * /*connection*/, void **context, MHD_RequestTerminationCode /*code*/) {
+        const std::unique_ptr<Exchange> exchange(static_cast<Exchange *>(*context));
+        *context = nullptr;
+        static_cast<Server *>(self)->connections_.become(exchange->connection, Connections::State::Idle);
+    }
+
+    static MHD_Result handle(void *self, MHD_Connection *connection, const char * /*url*/, const char *method,
+                             const char * /*version*/, const char *data, size_t *size, void **context) {
+        Server &server = *static_cast<Server *>(self);
+        Exchange &exchange = *static_cast<Exchange *>(*context);
+        if (server.connections_.isRefused(exchange.connection)) {
+            return MHD_NO;
+        }
+        if (!exchange.headersTaken) {
+            exchange.headersTaken = true;
+            takeHeaders(server, connection, exchange, method);
+            return exchange.response && exchange.skipsBody() ? finish(server, connection, exchange) : MHD_YES;
+        }
+        if (*size > 0) {
+            exchange.takeBody({data, *size});
+            *size = 0;
+            return MHD_YES;
+        }
+        return exchange.response ? finish(server, connection, exchange) : work(server, connection, exchange);
+    }
+
+    static void takeHeaders(Server &server, MHD_Connection *connection, Exchange &exchange, const char *method) {
+        try {
+            exchange.takeHeaders(connection, method);
+            server.gate_.check(exchange.request);
+        } catch (const Refusal &refusal) {
+            exchange.response = errorResponse(refusal);
+        }
+    }
+
+    static MHD_Result finish(Server &server, MHD_Connection *connection, Exchange &exchange) {
+        server.connections_.become(exchange.connection, Connections::State::Answering);
+        return send(connection, *exchange.response);
+    }
+
+    // The request is whole. After a wait the HTTP library comes back with the answer in place.
+    static MHD_Result work(Server &server, MHD_Connection *connection, Exchange &exchange) {
+        server.connections_.become(exchange.connection, Connections::State::Working);
+        if (!Api::isSlow(exchange.request)) {
+            exchange.response = server.api_.answer(exchange.request);
+            return finish(server, connection, exchange);
+        }
+        MHD_suspend_connection(connection);
+        const bool taken = server.workers_->add([&server, connection, &exchange] {
+            exchange.response = server.api_.answer(exchange.request);
+            MHD_resume_connection(connection);
+        });
+        if (!taken) {
+            exchange.response = errorResponse(
+                Refusal(Status::Unavailable, "too many requests wait for the device", {{"Retry-After", "1"}}));
+            MHD_resume_connection(connection);
+        }
+        return MHD_YES;
+    }
+
+    static void log(void * /*self*/, const char *format, va_list arguments) __attribute__((format(printf, 2, 0))) {
+        static_cast<void>(format);
+        static_cast<void>(arguments); // what clients do wrong
+    }
+};
+
+Server::Server(int listener, Limits limits, const Gate &gate, Api &api)
+    : gate_(gate), api_(api), connections_(limits), workers_(std::in_place),
+      daemon_(MHD_start_daemon(MHD_USE_EPOLL_INTERNAL_THREAD | MHD_ALLOW_SUSPEND_RESUME | MHD_USE_ERROR_LOG, 0, nullptr,
+                               nullptr, &Callbacks::handle, this, MHD_OPTION_EXTERNAL_LOGGER, &Callbacks::log, this,
+                               MHD_OPTION_LISTEN_SOCKET, listener, MHD_OPTION_THREAD_POOL_SIZE, kThreads,
+                               MHD_OPTION_CONNECTION_LIMIT, limits.connections + kSpareConnections,
+                               MHD_OPTION_CONNECTION_MEMORY_LIMIT, kConnectionMemory, MHD_OPTION_CONNECTION_TIMEOUT,
+                               kSilenceMax, MHD_OPTION_STRICT_FOR_CLIENT, 1, MHD_OPTION_NOTIFY_CONNECTION,
+                               &Callbacks::connection, this, MHD_OPTION_URI_LOG_CALLBACK, &Callbacks::begin, this,
+                               MHD_OPTION_NOTIFY_COMPLETED, &Callbacks::end, this, MHD_OPTION_END)) {
+    if (!daemon_) {
+        throw std::runtime_error("the HTTP server cannot be started");
+    }
+}
+
+Server::~Server() {
+    workers_.reset(); // the HTTP library waits for connections that are suspended
+    MHD_stop_daemon(daemon_);
+}
+
+void Server::drain(std::chrono::steady_clock::time_point deadline) {
+    MHD_quiesce_daemon(daemon_);
+    connections_.drain(deadline);
+}
+
+} // namespace web

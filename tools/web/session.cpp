@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "session.h"
+
+#include "refusal.h"
+#include "token.h"
+
+#include <string_view>
+
+namespace web {
+namespace {
+
+constexpr std::string_view kBearer = "Bearer ";
+
+// The value of a cookie in a Cookie header; "" when it is not there.
+std::string_view cookieValue(std::string_view header, std::string_view name) {
+    while (!header.empty()) {
+        std::string_view item = header.substr(0, header.find(';'));
+        header.remove_prefix(item.size() == header.size() ? item.size() : item.size() + 1);
+        item.remove_prefix(std::min(item.find_first_not_of(' '), item.size()));
+        if (item.starts_with(name) && item.substr(name.size()).starts_with('=')) {
+            return item.substr(name.size() + 1);
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+Session::Session(int port)
+    : token_(randomToken()), cookie_(randomToken()), cookieName_("caltofal-" + std::to_string(port)) {}
+
+void Session::check(const Request &request) {
+    if (request.authorization.starts_with(kBearer)) {
+        checkToken(request.authorization.substr(kBearer.size()), request);
+        return;
+    }
+    // A cookie from another start is no try: a page that stayed open asks with it for hours.
+    if (!isSameSecret(cookieValue(request.cookie, cookieName_), cookie_)) {
+        throw Refusal(
+            Status::Unauthorized,
+            "there is no session: open the URL that caltofal-web printed, or send its token as Authorization: "
+            "Bearer TOKEN",
+            {{"WWW-Authenticate", "Bearer"}});
+    }
+}
+
+std::string Session::open(const std::string &token, const Request &request) {
+    checkToken(token, request);
+    return cookieName_ + "=" + cookie_ + "; Path=/; HttpOnly; SameSite=Strict";
+}
+
+void Session::checkToken(const std::string &token, const Request &request) {
+    if (tries_.mustWait(request.address)) {
+        throw Refusal(Status::Unavailable, "too many wrong tokens: wait a little",
+                      {{"Retry-After", std::to_string(WrongTries::kWait.count())}});
+    }
+    if (!isSameSecret(token, token_)) {
+        tries_.noteWrong(request.address);
+        throw Refusal(Status::Unauthorized, "the token is not the one that caltofal-web printed at its start",
+                      {{"WWW-Authenticate", "Bearer"}});
+    }
+    tries_.noteRight(request.address);
+}
+
+} // namespace web
