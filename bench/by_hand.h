@@ -18,15 +18,6 @@
 
 namespace by_hand {
 
-// Owners and list flags with which the pages send.
-inline constexpr uint32_t kSingle = 32;
-inline constexpr uint32_t kSingleToDb = 4;
-inline constexpr uint32_t kMulti = 2;
-inline constexpr uint32_t kPlain = SOPT_OBJVALUE;
-inline constexpr uint32_t kMultiPlain = 0x1004;
-inline constexpr uint32_t kLeaf = 256;
-inline constexpr uint32_t kMultiLeaf = 0x1100;
-
 // Starts a message; false when memory is short.
 inline bool begin(MsgHeader &message, uint32_t mainOper, uint32_t listFlags, uint32_t owner) {
     auto *head = static_cast<ObjectNode *>(help_calloc(1, sizeof(ObjectNode), "by_hand", __LINE__));
@@ -58,8 +49,9 @@ inline int release(MsgHeader &message) {
 }
 
 // Asks for a whole object.
-inline int get(MsgHeader &message, const char *path, uint32_t listFlags = kPlain, uint32_t owner = kSingle) {
-    if (!begin(message, 1, listFlags, owner)) {
+inline int get(MsgHeader &message, const char *path, uint32_t listFlags = SOPT_OBJVALUE,
+               uint32_t owner = CALTOFAL_OWNER_SINGLE) {
+    if (!begin(message, CALTOFAL_OPER_GET, listFlags, owner)) {
         return -1;
     }
     object(message, path);
@@ -68,7 +60,7 @@ inline int get(MsgHeader &message, const char *path, uint32_t listFlags = kPlain
 
 // Asks for the instances of a table whose parameter has a value.
 inline int getFiltered(MsgHeader &message, const char *path, const char *name, const char *value) {
-    if (!begin(message, 1, kLeaf, kMulti)) {
+    if (!begin(message, CALTOFAL_OPER_GET, CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST)) {
         return -1;
     }
     param(object(message, path), name, value);

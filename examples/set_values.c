@@ -25,11 +25,11 @@ int main(int argc, char **argv) {
     const int stored = argc > 2 && strcmp(argv[2], "stored") == 0;
     MsgHeader message = {0};
     /* The first argument, 0, collects; the third is who asks. The layer's own code is told by these senders alone. */
-    int code = faltocal_SendMultiObj(0, SOPT_OBJVALUE, 2, &message, "Device.WiFi.Radio.1.", "set", "set", 2,
-                                     "AutoChannelEnable", "false", "Channel", argv[1]);
+    int code = faltocal_SendMultiObj(0, SOPT_OBJVALUE, CALTOFAL_OWNER_HOST, &message, "Device.WiFi.Radio.1.", "set",
+                                     "set", 2, "AutoChannelEnable", "false", "Channel", argv[1]);
     if (code == 0) {
-        code = faltocal_SendMultiObj(0, SOPT_OBJVALUE, 2, &message, "Device.WiFi.Radio.2.", "set", "set", 1,
-                                     "AutoChannelEnable", "true");
+        code = faltocal_SendMultiObj(0, SOPT_OBJVALUE, CALTOFAL_OWNER_HOST, &message, "Device.WiFi.Radio.2.", "set",
+                                     "set", 1, "AutoChannelEnable", "true");
     }
     if (code == 0) {
         code = stored ? faltocal_sendQuery_ToDb(&message) : faltocal_sendQuery(&message);

@@ -5,14 +5,13 @@
 #include <stdio.h>
 #include <stdlib.h>
 
-enum { kGet = 1 };
-
 /* Adds an object and the names that are asked of it; without names the layer answers with all it has. */
 static int ask(MsgHeader *message, const char *path, const char *const *names) {
     ObjectNode *object = NULL;
-    int code = faltocal_FillObject(&object, message->objectList, path, kGet, 0, SOPT_OBJVALUE);
+    int code =
+        faltocal_FillObject(&object, message->objectList, path, CALTOFAL_OPER_GET, CALTOFAL_SUBOPER_GET, SOPT_OBJVALUE);
     for (; code == 0 && *names; ++names) {
-        code = faltocal_FillParam(&object, kGet, *names, 0, NULL);
+        code = faltocal_FillParam(&object, CALTOFAL_OPER_GET, *names, 0, NULL);
     }
     return code;
 }
@@ -28,7 +27,7 @@ static void print(const MsgHeader *answer) {
 int main(void) {
     static const char *const kHosts[] = {"HostNumberOfEntries", NULL};
     static const char *const kRadio[] = {"Channel", "OperatingChannelBandwidth", NULL};
-    MsgHeader *message = faltocal_createMessage(kGet, SOPT_OBJVALUE);
+    MsgHeader *message = faltocal_createMessage(CALTOFAL_OPER_GET, SOPT_OBJVALUE);
     if (!message || !message->objectList) {
         free(message);
         return 1;

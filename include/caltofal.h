@@ -74,41 +74,110 @@ typedef struct ParamNode {
     ListLink link;                /**< place in the object's parameter list */
 } ParamNode;
 
+/** What a message asks for: MsgHeader.mainOper, which the request functions take as a word. Only gets and sets are ever
+ * delivered. */
+enum CaltofalOperation {
+    CALTOFAL_OPER_GET = 1,               /**< "get" and its variants */
+    CALTOFAL_OPER_SET = 2,               /**< "set", "set_only_db" */
+    CALTOFAL_OPER_FACTORY_RESET = 32,    /**< "factoryreset" */
+    CALTOFAL_OPER_BACKUP = 64,           /**< "backup" */
+    CALTOFAL_OPER_REBOOT = 128,          /**< "reboot" */
+    CALTOFAL_OPER_FIRMWARE_UPGRADE = 256 /**< "fwupgrade" */
+};
+
+/** What becomes of one object: `subOper` of faltocal_FillObject(), which the request functions take as a word. */
+enum CaltofalSubOperation {
+    CALTOFAL_SUBOPER_ADD = 1,    /**< "add": the table gets a new instance */
+    CALTOFAL_SUBOPER_DELETE = 2, /**< "del": the instance goes */
+    CALTOFAL_SUBOPER_SET = 4,    /**< "set": its parameters get the values */
+    CALTOFAL_SUBOPER_GET = 8,    /**< "get" */
+    CALTOFAL_SUBOPER_ACTION = 16 /**< "act": for operations that are never delivered */
+};
+
+/** MsgHeader.listFlags: a node kind and, for a get, modifiers that the configuration layer interprets. A host passes
+ * SOPT_OBJVALUE for the objects that it names and everything below them, or one of the last three. */
+enum CaltofalListFlag {
+    SOPT_OBJVALUE = 4,                /**< value objects; so does any other bit of CALTOFAL_VALUE_KINDS */
+    SOPT_OBJATTR = 8,                 /**< attribute objects, where no value objects are chosen */
+    SOPT_OBJACSATTR = 16,             /**< access-attribute objects, where neither is chosen */
+    CALTOFAL_VALUE_KINDS = 0x147,     /**< every bit that chooses value objects */
+    CALTOFAL_LIST_DEFAULTS = 0x40,    /**< default values instead of current ones */
+    CALTOFAL_LIST_LEAF = 0x100,       /**< with CALTOFAL_LIST_MULTI: own parameters only, no objects below */
+    CALTOFAL_LIST_MULTI = 0x1000,     /**< put by multi-object gets */
+    CALTOFAL_LIST_GET = 0x1004,       /**< what "get" of a multi-object request stands for */
+    CALTOFAL_LIST_GET_DEFAULT = 0x44, /**< "get_def_val" */
+    CALTOFAL_LIST_GET_LEAF = 0x1100   /**< "get_leaf_node" and "get_filter_by_param_value" */
+};
+
+/** Who sends a message: MsgHeader.owner. A host is CALTOFAL_OWNER_HOST: it passes that to faltocal_SendMultiObj(); all
+ * other functions put the owner themselves. */
+enum CaltofalOwner {
+    CALTOFAL_OWNER_HOST = 2,   /**< hosts, faltocal_createMessage() and the multi-object requests */
+    CALTOFAL_OWNER_STORE = 4,  /**< faltocal_send_main_ToDb() */
+    CALTOFAL_OWNER_SINGLE = 32 /**< faltocal_send_main() and faltocal_create_msg() */
+};
+
 /** Message header: six words, zeroed before first use. Lives on the caller's stack or comes from
  * faltocal_createMessage(). Its lists are released with faltocal_finalize(); zero it after that before it is used anew.
  */
 typedef struct MsgHeader {
-    uint32_t mainOper;      /**< 1 get, 2 set, 32 factory reset, 64 backup, 128 reboot, 256 firmware upgrade */
-    uint32_t listFlags;     /**< node kind (CaltofalListKind) and request modifiers */
-    uint32_t owner;         /**< who sends: the request functions put 2, 4 or 32 */
+    uint32_t mainOper;      /**< CaltofalOperation */
+    uint32_t listFlags;     /**< CaltofalListFlag */
+    uint32_t owner;         /**< CaltofalOwner */
     uint32_t initialised;   /**< 1 once the list head was asked for */
     uint32_t reserved;      /**< always 0 */
     ObjectNode *objectList; /**< list head; NULL: not initialised. Attribute kinds are cast */
 } MsgHeader;
 
-/** Node kinds of MsgHeader.listFlags. */
-enum CaltofalListKind {
-    SOPT_OBJVALUE = 4,   /**< value objects; so does any other bit of 0x147 */
-    SOPT_OBJATTR = 8,    /**< attribute objects */
-    SOPT_OBJACSATTR = 16 /**< access-attribute objects */
-};
-
 /** Codes with which a configuration layer refuses a message. The first two are common to all; the others are
- * those of the sandbox's layer, a device's layer may have its own. */
+ * those of the sandbox's layer, a device's layer may have its own. caltofal_layerCodeText() words them. */
 enum CaltofalLayerCode {
     CALTOFAL_ABSENT_OBJECT = -202,     /**< the object does not exist */
     CALTOFAL_NO_MATCH = -208,          /**< no instance matches the filter */
     CALTOFAL_BAD_MESSAGE = -201,       /**< message malformed: no list, an empty path, an unknown operation */
     CALTOFAL_UNKNOWN_PARAMETER = -203, /**< the object has no such parameter */
-    CALTOFAL_READ_ONLY = -204,         /**< the parameter or table can not be written */
+    CALTOFAL_READ_ONLY = -204,         /**< the parameter or table cannot be written */
     CALTOFAL_WRONG_TYPE = -205,        /**< the value is not of the parameter's type */
     CALTOFAL_OUT_OF_RANGE = -206,      /**< the value is outside the parameter's range, length or enumeration */
-    CALTOFAL_NOT_A_TABLE = -207,       /**< add or del on what is no table or instance */
+    CALTOFAL_NOT_A_TABLE = -207,       /**< add on what is not a table, or delete on what is not an instance */
     CALTOFAL_NO_GATEWAY = -209,        /**< there is no gateway to talk to */
     CALTOFAL_STORE_BUSY = -210,        /**< the store stayed locked by another process */
-    CALTOFAL_STORE_FAILED = -211,      /**< the store can not be read or written (disk full, damaged, read-only) */
+    CALTOFAL_STORE_FAILED = -211,      /**< the store cannot be read or written (disk full, damaged, read-only) */
     CALTOFAL_NO_MEMORY = -212          /**< out of memory */
 };
+
+/** What a code of CaltofalLayerCode means, such as "the object does not exist", for a person to read; NULL for any
+ * other code. The text is a constant. */
+static inline const char *caltofal_layerCodeText(int code) {
+    switch (code) {
+    case CALTOFAL_ABSENT_OBJECT:
+        return "the object does not exist";
+    case CALTOFAL_NO_MATCH:
+        return "no instance matches the filter";
+    case CALTOFAL_BAD_MESSAGE:
+        return "the message is malformed";
+    case CALTOFAL_UNKNOWN_PARAMETER:
+        return "the object has no such parameter";
+    case CALTOFAL_READ_ONLY:
+        return "the parameter or table cannot be written";
+    case CALTOFAL_WRONG_TYPE:
+        return "the value is not of the parameter's type";
+    case CALTOFAL_OUT_OF_RANGE:
+        return "the value is outside the parameter's range, length or enumeration";
+    case CALTOFAL_NOT_A_TABLE:
+        return "add on what is not a table, or delete on what is not an instance";
+    case CALTOFAL_NO_GATEWAY:
+        return "there is no gateway to talk to";
+    case CALTOFAL_STORE_BUSY:
+        return "the store stayed locked by another process";
+    case CALTOFAL_STORE_FAILED:
+        return "the store cannot be read or written";
+    case CALTOFAL_NO_MEMORY:
+        return "out of memory";
+    default:
+        return NULL;
+    }
+}
 
 /** The next object of a message behind `after` (NULL: the first), or NULL at the end. Value objects only. The node
  * belongs to the message. */
@@ -129,20 +198,21 @@ static inline ParamNode *caltofal_nextParam(const ObjectNode *object, const Para
     return next == &object->params ? NULL : (ParamNode *)(void *)((char *)next - offsetof(ParamNode, link));
 }
 
-/** Allocates a header with help_calloc() and initialises it with owner code 2. `mainOper` and `listFlags` as in
+/** Allocates a header with help_calloc() and initialises it with CALTOFAL_OWNER_HOST. `mainOper` and `listFlags` as in
  * MsgHeader. NULL when there is no memory for the header; objectList is NULL when there is none for the list. The
  * header belongs to the caller, who releases the lists with faltocal_finalize() and the header with free(). */
 MsgHeader *faltocal_createMessage(uint32_t mainOper, uint32_t listFlags);
 
 /** Adds one object node named `objectName` to the list `listHead` and stores it in `*outNode`.
- * Main operation 1 (get): a node of the kind that `listFlags` chooses. 0, or -1 when nothing could be added
- * (`*outNode` is then NULL).
- * Main operation 2 (set): `subOper` 1 adds, 2 deletes, 4 sets; result 0. Others answer -1, `*outNode` untouched.
+ * `mainOper` CALTOFAL_OPER_GET: a node of the kind that `listFlags` chooses; `subOper` does not count. 0, or -1 when
+ * nothing could be added (`*outNode` is then NULL).
+ * CALTOFAL_OPER_SET: `subOper` CALTOFAL_SUBOPER_ADD, _DELETE or _SET; 0. Others answer -1, `*outNode` untouched.
  * Any other main operation adds nothing, leaves `*outNode` untouched and answers 0. */
 int faltocal_FillObject(ObjectNode **outNode, ObjectNode *listHead, const char *objectName, uint32_t mainOper,
                         uint32_t subOper, uint32_t listFlags);
 
-/** Adds a parameter to `*node`: name and value for main operation 2, the name alone for 1, nothing for others.
+/** Adds a parameter to `*node`: name and value for CALTOFAL_OPER_SET, the name alone for CALTOFAL_OPER_GET, nothing for
+ * others.
  * 0; -1 when `paramName` is NULL and `paramId` is 0. The id itself is not passed on. */
 int faltocal_FillParam(ObjectNode **node, uint32_t mainOper, const char *paramName, uint32_t paramId,
                        const char *value);
@@ -158,14 +228,14 @@ int faltocal_finalize(MsgHeader *message);
  * and closed for each call. The result of closing it, or the negative descriptor when it can not be opened. */
 int PRINT_TO_CONSOLE(const char *format, ...) CALTOFAL_PRINTF(1, 2);
 
-/** Hands a finished message to the configuration layer: main operation 1 is read, 2 is set and applied. 0, the
+/** Hands a finished message to the configuration layer: a get is read, a set is set and applied. 0, the
  * layer's code (a line on standard error says which of the two failed), or -1 for any other main operation. */
 int faltocal_sendQuery(MsgHeader *message);
 
 /** As faltocal_sendQuery(), but a set is stored in the configuration database only and not applied. */
 int faltocal_sendQuery_ToDb(MsgHeader *message);
 
-/** One object, one message, one call. `message` is initialised here (owner code 32), whatever it held.
+/** One object, one message, one call. `message` is initialised here (CALTOFAL_OWNER_SINGLE), whatever it held.
  * What it held before is not released: do that first.
  * `mainOper`: "get", "set", "factoryreset", "backup", "reboot" or "fwupgrade"; `subOper`: "get", "set", "add",
  * "del" or "act". Then `count` parameters: for "get" a name each (const char *), for "set" a name and a value.
@@ -174,13 +244,13 @@ int faltocal_sendQuery_ToDb(MsgHeader *message);
 int faltocal_send_main(MsgHeader *message, const char *object, const char *mainOper, const char *subOper, int count,
                        ...);
 
-/** As faltocal_send_main() with owner code 4 and faltocal_sendQuery_ToDb(). */
+/** As faltocal_send_main() with CALTOFAL_OWNER_STORE and faltocal_sendQuery_ToDb(). */
 int faltocal_send_main_ToDb(MsgHeader *message, const char *object, const char *mainOper, const char *subOper,
                             int count, ...);
 
 /** Collects objects in one message and sends it with the last call. A path with a "&", meant to be its end, is only
  * queued: without its last character and cut to 255; a path without it is added and the message sent; the word
- * "query" in any case sends what was queued. The first call on a zeroed header initialises it (owner code 2).
+ * "query" in any case sends what was queued. The first call on a zeroed header initialises it (CALTOFAL_OWNER_HOST).
  * `mainOper` adds to the keywords of faltocal_send_main(): "get_def_val" (defaults), "get_leaf_node" (own
  * parameters only), "get_filter_by_param_value" (parameters are name/value filters) and "set_only_db" (stores
  * without applying, when the message was started by an earlier call). 0, or -1 with a console trace. The caller
@@ -193,9 +263,10 @@ int faltocal_send_main_multi_obj(MsgHeader *message, const char *object, const c
 int faltocal_send_main_multi_obj_No_variable(MsgHeader *message, char *object, const char *mainOper,
                                              const char *subOper, int count, const char **params);
 
-/** As faltocal_send_main_multi_obj(), but the caller chooses list flags and owner code, `send` says whether this
- * call sends, "&" has no meaning, only "query" in lower case is a query, and the keywords are those of
- * faltocal_send_main() and "get_filter_by_param_value". 0, the layer's own code, or -1 for an unknown keyword. */
+/** As faltocal_send_main_multi_obj(), but the caller chooses list flags (CaltofalListFlag) and owner (CaltofalOwner),
+ * `send` says whether this call sends, "&" has no meaning, only "query" in lower case is a query, and the keywords are
+ * those of faltocal_send_main() and "get_filter_by_param_value". 0, the layer's own code, or -1 for an unknown keyword.
+ */
 int faltocal_SendMultiObj(uint8_t send, uint32_t listFlags, uint32_t owner, MsgHeader *message, const char *object,
                           const char *mainOper, const char *subOper, int count, ...);
 
@@ -821,8 +892,8 @@ int GetEPConnectionStatus(char *macOut);
  * GetEPContection() behind. */
 int ReqEPChannelInfo(const char *ifname, int32_t *values);
 
-/** Initialises a header for the operation "get", "set", "factoryreset", "backup", "reboot" or "fwupgrade" (owner
- * code 32, list flags 0x1004). 0, or -1 for an unknown keyword with the header untouched. */
+/** Initialises a header for the operation "get", "set", "factoryreset", "backup", "reboot" or "fwupgrade" with
+ * CALTOFAL_OWNER_SINGLE and CALTOFAL_LIST_GET. 0, or -1 for an unknown keyword with the header untouched. */
 int faltocal_create_msg(MsgHeader *header, const char *operation);
 
 /** Escapes a text for a UCI command line in the shell. `target`: 4 * strlen(source) + 1 bytes. Returns 0. */

@@ -207,7 +207,7 @@ void readPpp(Call &call) {
     char path[sizeof(info->sPppInterface) + 1] = "";
     memcpy(path, info->sPppInterface, sizeof(info->sPppInterface));
     MsgHeader message;
-    if (get(message, path, kMultiPlain, kMulti) == 0) {
+    if (get(message, path, CALTOFAL_LIST_GET, CALTOFAL_OWNER_HOST) == 0) {
         readAll(message, [&](const char *name, const char *value) {
             if (*value) {
                 readPppParam(call, name, value);
@@ -252,7 +252,7 @@ int readGateway(Call &call) {
 int readVlan(Call &call) {
     ZintuWanInfo *info = call.info;
     MsgHeader message;
-    const int code = get(message, call.vlan, kPlain, kSingleToDb);
+    const int code = get(message, call.vlan, SOPT_OBJVALUE, CALTOFAL_OWNER_STORE);
     if (code == 0) {
         readAll(message, [info](const char *name, const char *value) {
             if (is(name, "Enable")) {

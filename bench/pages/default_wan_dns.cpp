@@ -23,7 +23,7 @@ bool isIpv4Text(const char *value) {
 void readStaticDns(Call &call) {
     ZintuWanInfo *info = call.info;
     MsgHeader message;
-    if (get(message, "Device.DNS.Client.Server.", kLeaf, kMulti) == 0) {
+    if (get(message, "Device.DNS.Client.Server.", CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST) == 0) {
         int found = 0;
         eachObject(message, [&](const ObjectNode &entry) {
             const char *interface = nullptr;
@@ -68,7 +68,7 @@ void splitServers(ZintuWanInfo *info, const char *list) {
 bool readReceivedDns(Call &call) {
     MsgHeader message;
     bool taken = false;
-    if (get(message, "Device.DHCPv4.Client.", kLeaf, kMulti) == 0) {
+    if (get(message, "Device.DHCPv4.Client.", CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST) == 0) {
         for (ObjectNode *client = caltofal_nextObject(&message, nullptr); client && !taken;
              client = caltofal_nextObject(&message, client)) {
             const char *enable = nullptr;
@@ -101,7 +101,7 @@ bool readReceivedDns(Call &call) {
 void readServerTable(Call &call) {
     ZintuWanInfo *info = call.info;
     MsgHeader message;
-    if (get(message, "Device.DNS.Client.Server.", kLeaf, kMulti) == 0) {
+    if (get(message, "Device.DNS.Client.Server.", CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST) == 0) {
         int found = 0;
         eachObject(message, [&](const ObjectNode &entry) {
             const char *enable = nullptr;

@@ -130,7 +130,7 @@ int floorPage(Record *record) {
         return 0;
     }
     MsgHeader message;
-    if (get(message, "Device.Hosts.", kMultiPlain, kMulti) == 0) {
+    if (get(message, "Device.Hosts.", CALTOFAL_LIST_GET, CALTOFAL_OWNER_HOST) == 0) {
         record->instance = search(message, identifier);
     }
     release(message);

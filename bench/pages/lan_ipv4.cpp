@@ -123,7 +123,7 @@ void readObject(LANv4Info *info, const ObjectNode &object) {
 int readObjects(LANv4Info *info) {
     MsgHeader message;
     int code = -1;
-    if (begin(message, 1, kMultiPlain, kMulti)) {
+    if (begin(message, CALTOFAL_OPER_GET, CALTOFAL_LIST_GET, CALTOFAL_OWNER_HOST)) {
         ObjectNode *node = object(message, "Device.IP.Interface.1.IPv4Address.1.");
         param(node, "IPAddress");
         param(node, "SubnetMask");
@@ -145,7 +145,7 @@ int readObjects(LANv4Info *info) {
 int readSwitch(LANv4Info *info) {
     MsgHeader message;
     int code = -1;
-    if (begin(message, 1, kLeaf, kMulti)) {
+    if (begin(message, CALTOFAL_OPER_GET, CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST)) {
         param(object(message, "Device.DHCPv4.Server."), "Enable");
         code = locked(cal_getValue, message);
         if (code == 0) {

@@ -146,7 +146,7 @@ void keep(WifiParamTable *table, const char *object, const char *name, const cha
 int floorPage(WifiParamTable *table) {
     MsgHeader message;
     int code = -1;
-    if (begin(message, 1, kMultiLeaf, kMulti)) {
+    if (begin(message, CALTOFAL_OPER_GET, CALTOFAL_LIST_GET_LEAF, CALTOFAL_OWNER_HOST)) {
         ask(message, "Device.WiFi.Radio.", "",
             {"Enable", "Name", "GuardInterval", "BeaconPeriod", "DTIMPeriod", "FragmentationThreshold", "RTSThreshold",
              "IEEE80211hEnabled", "RegulatoryDomain", "AutoChannelEnable", "Channel", "OperatingStandards",

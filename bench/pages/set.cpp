@@ -41,8 +41,8 @@ int libraryPage(Record *record) {
 int floorPage(Record *record) {
     MsgHeader message;
     int code = -1;
-    if (begin(message, 2, kPlain, kSingle)) {
-        ObjectNode *node = object(message, "Device.WiFi.SSID.1.", 4);
+    if (begin(message, CALTOFAL_OPER_SET, SOPT_OBJVALUE, CALTOFAL_OWNER_SINGLE)) {
+        ObjectNode *node = object(message, "Device.WiFi.SSID.1.", CALTOFAL_SUBOPER_SET);
         param(node, "Enable", "true");
         param(node, "SSID", "living room");
         param(node, "X_ZINTU_Active", "true");

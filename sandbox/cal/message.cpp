@@ -12,13 +12,7 @@
 namespace sandbox {
 namespace {
 
-constexpr uint32_t kGet = 1;
-constexpr uint32_t kSet = 2;
-
-// Bits of MsgHeader::listFlags.
-constexpr uint32_t kValueKinds = 0x147;
-constexpr uint32_t kDefaults = 0x40;
-constexpr uint32_t kLeaf = 0x1100; // both bits; either alone means something else
+constexpr uint32_t kLeaf = CALTOFAL_LIST_MULTI | CALTOFAL_LIST_LEAF; // either bit alone means something else
 
 [[noreturn]] void refuse(const std::string &reason) {
     throw Refusal(CALTOFAL_BAD_MESSAGE, reason);
@@ -32,7 +26,7 @@ void judge(const MsgHeader *message, uint32_t mainOper) {
         refuse("main operation " + std::to_string(message->mainOper) + " where " + std::to_string(mainOper) +
                " is meant");
     }
-    if ((message->listFlags & kValueKinds) == 0) {
+    if ((message->listFlags & CALTOFAL_VALUE_KINDS) == 0) {
         refuse("the message does not hold value objects");
     }
     if (!message->objectList || !message->objectList->link.next || !caltofal_nextObject(message, nullptr)) {
@@ -87,13 +81,13 @@ void exchangeRings(ListLink &a, ListLink &b) {
 } // namespace
 
 std::vector<GetRequest> getRequests(const MsgHeader *message) {
-    judge(message, kGet);
+    judge(message, CALTOFAL_OPER_GET);
     std::vector<GetRequest> requests;
     eachObject(message, [&](const ObjectNode &node, std::string path) {
         GetRequest request;
         request.path = std::move(path);
         request.leaf = (message->listFlags & kLeaf) == kLeaf;
-        request.defaults = (message->listFlags & kDefaults) != 0;
+        request.defaults = (message->listFlags & CALTOFAL_LIST_DEFAULTS) != 0;
         eachParam(node, [&](const ParamNode &param) {
             if (readWords<ParamWords>(param).valued != 0) {
                 request.filters.emplace_back(param.name, param.value);
@@ -107,12 +101,12 @@ std::vector<GetRequest> getRequests(const MsgHeader *message) {
 }
 
 std::vector<SetRequest> setRequests(const MsgHeader *message) {
-    judge(message, kSet);
+    judge(message, CALTOFAL_OPER_SET);
     std::vector<SetRequest> requests;
     eachObject(message, [&](const ObjectNode &node, std::string path) {
         SetRequest request;
         const uint32_t subOper = readWords<ObjectWords>(node).subOper;
-        if (subOper != 1 && subOper != 2 && subOper != 4) {
+        if (subOper != CALTOFAL_SUBOPER_ADD && subOper != CALTOFAL_SUBOPER_DELETE && subOper != CALTOFAL_SUBOPER_SET) {
             refuse(shownPath(path) + ": " + std::to_string(subOper) + " is neither add (1), delete (2) nor set (4)");
         }
         request.operation = static_cast<SetRequest::Operation>(subOper);

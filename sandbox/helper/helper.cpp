@@ -13,8 +13,6 @@
 namespace sandbox {
 namespace {
 
-constexpr uint32_t kValueKinds = 0x147;
-
 // Parameter of an attribute object.
 struct AttrParamNode {
     char name[256];
@@ -148,7 +146,7 @@ EXPORTED int help_delMsg(MsgHeader *message, int what) {
     if (!message->objectList) {
         return 0;
     }
-    if (message->listFlags & kValueKinds) {
+    if (message->listFlags & CALTOFAL_VALUE_KINDS) {
         releaseList<ObjectNode, ParamNode>(message->objectList);
     } else if (message->listFlags & SOPT_OBJATTR) {
         releaseList<AttrObjectNode, AttrParamNode>(message->objectList);

@@ -18,7 +18,7 @@ constexpr uint32_t kCutValue = 2;
 struct ObjectWords {
     uint32_t objectId;
     uint32_t instance;
-    uint32_t subOper; // 0 on a get; 1 add, 2 delete, 4 set
+    uint32_t subOper; // CaltofalSubOperation; 0 on a get
     uint32_t flags;
     uint32_t cut;
 };

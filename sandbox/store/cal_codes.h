@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The codes with which the sandbox's layer refuses a message, with their names and meanings.
+// The names of the codes with which the sandbox's layer refuses a message. What they mean: caltofal_layerCodeText().
 #pragma once
 
 #include "caltofal.h"
@@ -9,30 +9,29 @@
 
 namespace sandbox {
 
-struct CodeMeaning {
+struct CodeName {
     int code; // CaltofalLayerCode
     std::string_view name;
-    std::string_view meaning;
 };
 
-inline constexpr CodeMeaning kCodeMeanings[] = {
-    {CALTOFAL_BAD_MESSAGE, "bad-message", "the message is malformed"},
-    {CALTOFAL_ABSENT_OBJECT, "absent-object", "the object does not exist"},
-    {CALTOFAL_UNKNOWN_PARAMETER, "unknown-parameter", "the object has no such parameter"},
-    {CALTOFAL_READ_ONLY, "read-only", "the parameter or table can not be written"},
-    {CALTOFAL_WRONG_TYPE, "wrong-type", "the value is not of the parameter's type"},
-    {CALTOFAL_OUT_OF_RANGE, "out-of-range", "the value is outside the parameter's range, length or enumeration"},
-    {CALTOFAL_NOT_A_TABLE, "not-a-table", "add on what is no table, or del on what is no instance"},
-    {CALTOFAL_NO_MATCH, "no-match", "no instance matches the filter"},
-    {CALTOFAL_NO_GATEWAY, "no-gateway", "there is no gateway of that name"},
-    {CALTOFAL_STORE_BUSY, "store-busy", "the store stayed locked by another process"},
-    {CALTOFAL_STORE_FAILED, "store-failed", "the store can not be read or written"},
-    {CALTOFAL_NO_MEMORY, "no-memory", "out of memory"},
+inline constexpr CodeName kCodeNames[] = {
+    {CALTOFAL_BAD_MESSAGE, "bad-message"},
+    {CALTOFAL_ABSENT_OBJECT, "absent-object"},
+    {CALTOFAL_UNKNOWN_PARAMETER, "unknown-parameter"},
+    {CALTOFAL_READ_ONLY, "read-only"},
+    {CALTOFAL_WRONG_TYPE, "wrong-type"},
+    {CALTOFAL_OUT_OF_RANGE, "out-of-range"},
+    {CALTOFAL_NOT_A_TABLE, "not-a-table"},
+    {CALTOFAL_NO_MATCH, "no-match"},
+    {CALTOFAL_NO_GATEWAY, "no-gateway"},
+    {CALTOFAL_STORE_BUSY, "store-busy"},
+    {CALTOFAL_STORE_FAILED, "store-failed"},
+    {CALTOFAL_NO_MEMORY, "no-memory"},
 };
 
 // NULL for a code that the layer does not use.
-constexpr const CodeMeaning *findCode(int code) {
-    for (const CodeMeaning &row : kCodeMeanings) {
+constexpr const CodeName *findCode(int code) {
+    for (const CodeName &row : kCodeNames) {
         if (row.code == code) {
             return &row;
         }
@@ -41,8 +40,8 @@ constexpr const CodeMeaning *findCode(int code) {
 }
 
 // By its name in the table; NULL when there is none.
-constexpr const CodeMeaning *findCode(std::string_view name) {
-    for (const CodeMeaning &row : kCodeMeanings) {
+constexpr const CodeName *findCode(std::string_view name) {
+    for (const CodeName &row : kCodeNames) {
         if (row.name == name) {
             return &row;
         }

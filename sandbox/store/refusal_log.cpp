@@ -39,9 +39,9 @@ void logRefusal(const Location &location, const char *operation, int code, const
     }
     try {
         const std::string file = location.logFile();
-        const CodeMeaning *meaning = findCode(code);
+        const CodeName *known = findCode(code);
         const std::string line = now() + " " + std::to_string(getpid()) + " " + operation + " " + std::to_string(code) +
-                                 " " + std::string(meaning ? meaning->name : "other") + " " + reason + "\n";
+                                 " " + std::string(known ? known->name : "other") + " " + reason + "\n";
         setAside(file);
         const int log = open(file.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
         if (log >= 0) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "caltofal.h"
 #include "store/database.h"
 
 #include <string>
@@ -12,7 +13,7 @@ namespace sandbox {
 // What one object of a set message changes.
 struct SetRequest {
     // The values are those of the message.
-    enum class Operation { Add = 1, Delete = 2, Set = 4 };
+    enum class Operation { Add = CALTOFAL_SUBOPER_ADD, Delete = CALTOFAL_SUBOPER_DELETE, Set = CALTOFAL_SUBOPER_SET };
 
     Operation operation = Operation::Set;
     std::string path;

@@ -23,8 +23,8 @@ struct Options {
 
 // A code by its number or its name.
 int codeOf(const std::string &text) {
-    if (const CodeMeaning *meaning = findCode(std::string_view(text))) {
-        return meaning->code;
+    if (const CodeName *known = findCode(std::string_view(text))) {
+        return known->code;
     }
     int code = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), code);
@@ -36,8 +36,9 @@ int codeOf(const std::string &text) {
 
 std::string codeNames() {
     std::string names;
-    for (const CodeMeaning &row : kCodeMeanings) {
-        names += "\n  " + std::to_string(row.code) + "  " + std::string(row.name) + ": " + std::string(row.meaning);
+    for (const CodeName &row : kCodeNames) {
+        names +=
+            "\n  " + std::to_string(row.code) + "  " + std::string(row.name) + ": " + caltofal_layerCodeText(row.code);
     }
     return names;
 }
@@ -45,9 +46,9 @@ std::string codeNames() {
 std::string effectOf(const Fault &fault) {
     std::string text = fault.lateMs > 0 ? "late by " + std::to_string(fault.lateMs) + " ms" : "";
     if (fault.code) {
-        const CodeMeaning *meaning = findCode(*fault.code);
+        const CodeName *known = findCode(*fault.code);
         text += (text.empty() ? "" : ", ") + std::to_string(*fault.code) +
-                (meaning ? " " + std::string(meaning->name) : std::string());
+                (known ? " " + std::string(known->name) : std::string());
     }
     return text;
 }

@@ -8,20 +8,11 @@
 
 namespace frame {
 
-inline constexpr uint32_t kMainGet = 1;
-inline constexpr uint32_t kMainSet = 2;
-
-inline constexpr uint32_t kSubAdd = 1;
-inline constexpr uint32_t kSubDel = 2;
-inline constexpr uint32_t kSubSet = 4;
-
-inline constexpr uint32_t kValueKindMask = 0x147;
-
 // Which kind of node a message's list flags ask for; the first matching test wins.
 enum class NodeKind : uint8_t { Value, Attribute, AccessAttribute, None };
 
 constexpr NodeKind nodeKind(uint32_t listFlags) {
-    if ((listFlags & kValueKindMask) != 0) {
+    if ((listFlags & CALTOFAL_VALUE_KINDS) != 0) {
         return NodeKind::Value;
     }
     if ((listFlags & SOPT_OBJATTR) != 0) {

@@ -1,22 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "frame/keyword.h"
 
+#include "caltofal.h"
+
 #include <cstddef>
 
 namespace frame {
 namespace {
 
 constexpr ExtendedOperation kMain[] = {
-    {"get", true, false, 1, 0x1004},
-    {"get_def_val", false, false, 1, 0x44},
-    {"get_leaf_node", false, false, 1, 0x1100},
-    {"get_filter_by_param_value", false, true, 1, 0x1100},
-    {"set", true, false, 2, 4},
-    {"set_only_db", false, false, 2, 4},
-    {"factoryreset", true, false, 32, 4},
-    {"backup", true, false, 64, 4},
-    {"reboot", true, false, 128, 4},
-    {"fwupgrade", true, false, 256, 4},
+    {"get", true, false, CALTOFAL_OPER_GET, CALTOFAL_LIST_GET},
+    {"get_def_val", false, false, CALTOFAL_OPER_GET, CALTOFAL_LIST_GET_DEFAULT},
+    {"get_leaf_node", false, false, CALTOFAL_OPER_GET, CALTOFAL_LIST_GET_LEAF},
+    {"get_filter_by_param_value", false, true, CALTOFAL_OPER_GET, CALTOFAL_LIST_GET_LEAF},
+    {"set", true, false, CALTOFAL_OPER_SET, SOPT_OBJVALUE},
+    {"set_only_db", false, false, CALTOFAL_OPER_SET, SOPT_OBJVALUE},
+    {"factoryreset", true, false, CALTOFAL_OPER_FACTORY_RESET, SOPT_OBJVALUE},
+    {"backup", true, false, CALTOFAL_OPER_BACKUP, SOPT_OBJVALUE},
+    {"reboot", true, false, CALTOFAL_OPER_REBOOT, SOPT_OBJVALUE},
+    {"fwupgrade", true, false, CALTOFAL_OPER_FIRMWARE_UPGRADE, SOPT_OBJVALUE},
 };
 
 constexpr ExtendedOperation kUnknown = {};
@@ -27,7 +29,8 @@ struct SubOperation {
 };
 
 constexpr SubOperation kSub[] = {
-    {"get", 8}, {"set", 4}, {"add", 1}, {"del", 2}, {"act", 16},
+    {"get", CALTOFAL_SUBOPER_GET},    {"set", CALTOFAL_SUBOPER_SET},    {"add", CALTOFAL_SUBOPER_ADD},
+    {"del", CALTOFAL_SUBOPER_DELETE}, {"act", CALTOFAL_SUBOPER_ACTION},
 };
 
 // Words are too short for a call of strcmp().

@@ -13,7 +13,6 @@ using namespace frame;
 
 namespace {
 
-constexpr uint32_t kOwnerMultiObject = 2;
 constexpr size_t kPathSize = 256;
 
 // Lines that the traces of one request function carry.
@@ -62,12 +61,12 @@ bool isQuery(const char *object) {
 // Takes `count` parameters. A null node is handed on; what becomes of it is the helper library's affair.
 void addParameters(ObjectNode *node, uint32_t mainOper, bool filter, uint32_t listFlags, int count,
                    Arguments &arguments) {
-    if (mainOper == kMainSet || filter) {
+    if (mainOper == CALTOFAL_OPER_SET || filter) {
         for (; count > 0; --count) {
             const char *name = arguments.next();
             HELP_PARAM_SET(node, name, arguments.next());
         }
-    } else if (mainOper == kMainGet) {
+    } else if (mainOper == CALTOFAL_OPER_GET) {
         for (; count > 0; --count) {
             HELP_PARAM_GET(node, arguments.next(), listFlags);
         }
@@ -102,7 +101,7 @@ int addAndSend(const Request &request, Arguments arguments, const TraceLines &li
         if (operation.mainOper == 0) {
             return unknownWord(lines, lines.unknownMain, request.mainOper, request.object);
         }
-        HELP_CREATE_OBJ(message, operation.mainOper, operation.listFlags, kOwnerMultiObject);
+        HELP_CREATE_OBJ(message, operation.mainOper, operation.listFlags, CALTOFAL_OWNER_HOST);
         filter = operation.filter;
     }
     const uint32_t sub = subOperation(request.subOper);
@@ -111,7 +110,7 @@ int addAndSend(const Request &request, Arguments arguments, const TraceLines &li
     }
     ObjectNode *node = nullptr;
     faltocal_FillObject(&node, message->objectList, path.text(), message->mainOper, sub, SOPT_OBJVALUE);
-    const bool pairs = message->mainOper == kMainSet || filter;
+    const bool pairs = message->mainOper == CALTOFAL_OPER_SET || filter;
     if (node || pairs) {
         addParameters(node, message->mainOper, filter, SOPT_OBJVALUE, request.count, arguments);
     }
@@ -161,7 +160,7 @@ int faltocal_SendMultiObj(uint8_t send, uint32_t listFlags, uint32_t owner, MsgH
     bool filter = false;
     if (!message->objectList) {
         filter = isKeyword(mainOper, "get_filter_by_param_value");
-        const uint32_t main = filter ? kMainGet : mainOperation(mainOper);
+        const uint32_t main = filter ? uint32_t{CALTOFAL_OPER_GET} : mainOperation(mainOper);
         if (main == 0) {
             return -1;
         }

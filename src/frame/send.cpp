@@ -26,9 +26,9 @@ int callLocked(LayerCall call, MsgHeader *message, const char *failure) {
 // Only gets and sets are ever delivered.
 int deliver(MsgHeader *message, LayerCall set) {
     switch (message->mainOper) {
-    case kMainGet:
+    case CALTOFAL_OPER_GET:
         return callLocked(cal_getValue, message, "\n Get test failure\n");
-    case kMainSet:
+    case CALTOFAL_OPER_SET:
         return callLocked(set, message, "\n Set test failure\n");
     default:
         return -1;

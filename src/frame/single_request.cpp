@@ -22,12 +22,12 @@ int sendOne(const Request &request, Arguments arguments, uint32_t owner, Sender 
     }
     ObjectNode *node = nullptr;
     faltocal_FillObject(&node, request.message->objectList, request.object, main, sub, SOPT_OBJVALUE);
-    if (main == kMainSet) {
+    if (main == CALTOFAL_OPER_SET) {
         for (int i = 0; i < request.count; ++i) {
             const char *name = arguments.next();
             HELP_PARAM_SET(node, name, arguments.next());
         }
-    } else if (main == kMainGet) {
+    } else if (main == CALTOFAL_OPER_GET) {
         for (int i = 0; i < request.count; ++i) {
             HELP_PARAM_GET(node, arguments.next(), SOPT_OBJVALUE);
         }
@@ -41,7 +41,8 @@ int faltocal_send_main(MsgHeader *message, const char *object, const char *mainO
                        ...) {
     va_list list;
     va_start(list, count);
-    const int result = sendOne({message, object, mainOper, subOper, count}, Arguments(&list), 32, faltocal_sendQuery);
+    const int result = sendOne({message, object, mainOper, subOper, count}, Arguments(&list), CALTOFAL_OWNER_SINGLE,
+                               faltocal_sendQuery);
     va_end(list);
     return result;
 }
@@ -50,8 +51,8 @@ int faltocal_send_main_ToDb(MsgHeader *message, const char *object, const char *
                             int count, ...) {
     va_list list;
     va_start(list, count);
-    const int result =
-        sendOne({message, object, mainOper, subOper, count}, Arguments(&list), 4, faltocal_sendQuery_ToDb);
+    const int result = sendOne({message, object, mainOper, subOper, count}, Arguments(&list), CALTOFAL_OWNER_STORE,
+                               faltocal_sendQuery_ToDb);
     va_end(list);
     return result;
 }

@@ -38,7 +38,7 @@ Outcome find(const Query &query, char *outObjectName, char *outValue) {
         return invalidInput(2061);
     }
     const int code = getFiltered(message, query.object, query.filterParam, query.filterValue);
-    if (code == kNoMatch) {
+    if (code == CALTOFAL_NO_MATCH) {
         return {0, false};
     }
     if (code != 0) {

@@ -82,7 +82,8 @@ int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info) {
         fillFrom(object, *pxLANv4Info);
     }
     message.reset();
-    const int code = faltocal_SendMultiObj(1, 256, 2, message, "Device.DHCPv4.Server.", "get", "get", 1, "Enable");
+    const int code = faltocal_SendMultiObj(1, CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST, message, "Device.DHCPv4.Server.",
+                                           "get", "get", 1, "Enable");
     if (code == -1) {
         traceError(1629, "faltocal_SendMultiObj is Failure \n");
         return -1;

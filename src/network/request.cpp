@@ -14,11 +14,12 @@ int getParam(MsgHeader *message, const char *object, const char *param) {
 }
 
 int getTable(MsgHeader *message, const char *object) {
-    return faltocal_SendMultiObj(1, 256, 2, message, object, "get", "get", 0);
+    return faltocal_SendMultiObj(1, CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST, message, object, "get", "get", 0);
 }
 
 int getFiltered(MsgHeader *message, const char *object, const char *param, const char *value) {
-    return faltocal_SendMultiObj(1, 256, 2, message, object, "get_filter_by_param_value", "get", 1, param, value);
+    return faltocal_SendMultiObj(1, CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST, message, object,
+                                 "get_filter_by_param_value", "get", 1, param, value);
 }
 
 int failed(int code, const char *text, int line, const char *function) {

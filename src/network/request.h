@@ -18,10 +18,6 @@ int getTable(MsgHeader *message, const char *object);
 // The instances of a table whose parameter has a value.
 int getFiltered(MsgHeader *message, const char *object, const char *param, const char *value);
 
-// Codes of the layer that some pages take for an answer.
-inline constexpr int kAbsent = CALTOFAL_ABSENT_OBJECT;
-inline constexpr int kNoMatch = CALTOFAL_NO_MATCH;
-
 // Traces a failed request with its code and the text of its page; -1.
 int failed(int code, const char *text, int line = __builtin_LINE(), const char *function = __builtin_FUNCTION());
 

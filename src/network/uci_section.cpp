@@ -62,7 +62,7 @@ int32_t ZintuGet_UciSectionByConnMode(const char *connMode, char *uciSection) {
         return -1;
     }
     const int code = getFiltered(message, "Device.X_LANTIQ_COM_NwHardware.WANConnection", "ConnMode", connMode);
-    if (code == kNoMatch) {
+    if (code == CALTOFAL_NO_MATCH) {
         return -1;
     }
     if (code != 0) {

@@ -121,7 +121,7 @@ int32_t ZintuGet_WanDns(const char *ipInterface, char *dns1, char *dns2) {
     }
     Message message;
     const int code = getTable(message, kServerTable);
-    if (code == kAbsent) {
+    if (code == CALTOFAL_ABSENT_OBJECT) {
         return 0;
     }
     if (code != 0) {
@@ -139,7 +139,7 @@ int32_t ZintuGet_WanStaticDns(const char *ipInterface, int32_t *dnsAuto, char *d
     const InterfacePath interface(ipInterface);
     Message message;
     const int code = getTable(message, kServerTable);
-    if (code == kAbsent) {
+    if (code == CALTOFAL_ABSENT_OBJECT) {
         traceVola(Unit::NetworkGet, "no exist (%s)\n", kServerTable);
         *dnsAuto = 1;
         return 0;

@@ -24,7 +24,8 @@ int32_t readName(char *ifName) {
         traceVola({Unit::NetworkGet, 2035, kFunction}, "ZintuGet_DefGw is Failure \n");
         return -1;
     }
-    const int code = faltocal_SendMultiObj(1, 256, 2, message, interface, "get", "get", 1, "Name");
+    const int code =
+        faltocal_SendMultiObj(1, CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST, message, interface, "get", "get", 1, "Name");
     if (code != 0) {
         return failed(code, "faltocal_SendMultiObj is Failure \n", 2018, kFunction);
     }

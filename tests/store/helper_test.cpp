@@ -10,7 +10,7 @@
 using namespace sandbox;
 
 TEST(Helper, AppendsAndCutsTexts) {
-    Message message(2, SOPT_OBJVALUE);
+    Message message(CALTOFAL_OPER_SET, SOPT_OBJVALUE);
     message.object("Device.A.", kSet).param("First", "1").param("Second", nullptr).object("Device.B.", kDelete);
     EXPECT_EQ(message.lines(), (Lines{"Device.A..First=1", "Device.A..Second=", "Device.B."}));
 

@@ -24,7 +24,7 @@ Message::~Message() {
 }
 
 std::unique_ptr<Message> Message::get(uint32_t listFlags, const std::string &path, const Lines &names) {
-    auto message = std::make_unique<Message>(1, listFlags);
+    auto message = std::make_unique<Message>(CALTOFAL_OPER_GET, listFlags);
     message->object(path);
     for (const std::string &name : names) {
         message->param(name, nullptr);
@@ -33,13 +33,13 @@ std::unique_ptr<Message> Message::get(uint32_t listFlags, const std::string &pat
 }
 
 std::unique_ptr<Message> Message::filter(const std::string &path, const Pairs &filters) {
-    auto message = std::make_unique<Message>(1, kFilterGet);
+    auto message = std::make_unique<Message>(CALTOFAL_OPER_GET, kFilterGet);
     message->with(path, 0, filters);
     return message;
 }
 
 std::unique_ptr<Message> Message::set() {
-    return std::make_unique<Message>(2, SOPT_OBJVALUE);
+    return std::make_unique<Message>(CALTOFAL_OPER_SET, SOPT_OBJVALUE);
 }
 
 Message &Message::object(const std::string &path, uint32_t subOper) {

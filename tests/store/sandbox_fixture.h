@@ -21,7 +21,7 @@ using Pairs = std::vector<std::pair<std::string, std::string>>;
 constexpr uint32_t kPlainGet = 0x1004;
 constexpr uint32_t kLeafGet = 0x1100;
 constexpr uint32_t kDefaultGet = 0x44;
-constexpr uint32_t kFilterGet = 0x100;
+constexpr uint32_t kFilterGet = CALTOFAL_LIST_LEAF;
 
 // A message with its lists, built as the library builds it.
 class Message {
@@ -49,9 +49,9 @@ class Message {
     ObjectNode *object_ = nullptr;
 };
 
-constexpr uint32_t kAdd = 1;
-constexpr uint32_t kDelete = 2;
-constexpr uint32_t kSet = 4;
+constexpr uint32_t kAdd = CALTOFAL_SUBOPER_ADD;
+constexpr uint32_t kDelete = CALTOFAL_SUBOPER_DELETE;
+constexpr uint32_t kSet = CALTOFAL_SUBOPER_SET;
 
 // One object set through cal_setValue; its code.
 int setOne(const std::string &path, const Pairs &values);

@@ -5,12 +5,14 @@
 
 #include "cal/cal_sandbox.h"
 #include "exchange/gateway.h"
+#include "store/cal_codes.h"
 #include "store/store.h"
 
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -35,6 +37,15 @@ int inChild(Work work) {
     int status = 0;
     waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+TEST(Codes, EachHasWordsOfItsOwn) {
+    std::set<std::string_view> texts;
+    for (const CodeName &row : kCodeNames) {
+        const char *text = caltofal_layerCodeText(row.code);
+        EXPECT_TRUE(text && texts.insert(text).second) << row.name;
+    }
+    EXPECT_EQ(nullptr, caltofal_layerCodeText(-1));
 }
 
 TEST_F(Trouble, WithoutAGateway) {

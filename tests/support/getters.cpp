@@ -90,8 +90,10 @@ std::string everyRequest() {
                return faltocal_send_main_multi_obj_No_variable(m, object, "set", "set", 1, pairs);
            }) +
            request([](auto *m) {
-               return faltocal_SendMultiObj(0, 256, 2, m, "Device.A.", "get", "get", 1, "P") |
-                      faltocal_SendMultiObj(1, 256, 2, m, "Device.B.", "get", "get", 0);
+               return faltocal_SendMultiObj(0, CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST, m, "Device.A.", "get", "get", 1,
+                                            "P") |
+                      faltocal_SendMultiObj(1, CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST, m, "Device.B.", "get", "get",
+                                            0);
            });
 }
 

@@ -176,7 +176,7 @@ int Platform::answer(const char *function, MsgHeader *message) {
         reply = queue.front();
         queue.pop_front();
     }
-    if (message->mainOper == 1 && reply.code == 0 && message->objectList) {
+    if (message->mainOper == CALTOFAL_OPER_GET && reply.code == 0 && message->objectList) {
         freeObjects(*message->objectList);
         for (const Object &object : reply.objects) {
             auto *node = addNode<ObjectNode>(&message->objectList->link, object.name.c_str(), 0);
@@ -199,9 +199,9 @@ int Platform::release(MsgHeader *message, int what) {
     if (!message->objectList) {
         return 0;
     }
-    if ((message->listFlags & 0x147) != 0) {
+    if ((message->listFlags & CALTOFAL_VALUE_KINDS) != 0) {
         freeObjects(*message->objectList);
-    } else if ((message->listFlags & 8) != 0) {
+    } else if ((message->listFlags & SOPT_OBJATTR) != 0) {
         freeObjects(*reinterpret_cast<AttrObjectNode *>(message->objectList));
     }
     deallocate(message->objectList);
