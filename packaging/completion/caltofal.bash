@@ -34,7 +34,7 @@ _caltofal_gateways() {
 # _caltofal_parameters PROGRAM GATEWAY-OPTIONS... OBJECT: the paths of all parameters at or below an object
 _caltofal_parameters() {
     if [[ ${1##*/} == caltofal-sandbox ]]; then
-        "${@:1:$#-1}" export --format csv "" "${@: -1}" 2>/dev/null | sed -n 's/^\(Device[^,{]*[^,{.]\),.*/\1/p'
+        "${@:1:$#-1}" export --format csv "${@: -1}" 2>/dev/null | sed -n 's/^\(Device[^,{]*[^,{.]\),.*/\1/p'
     else
         "${@:1:$#-1}" get "${@: -1}" 2>/dev/null | sed -n 's/^\(Device[^ ]*\).*/\1/p'
     fi

@@ -20,13 +20,24 @@ std::unique_ptr<Database> Tool::open(const std::string &name) const {
 std::string keyOfArgument(const std::string &path) {
     const std::optional<std::string> key = keyOf(path);
     if (!key) {
-        throw Failure(path + " is no object path", kUsage);
+        throw Failure(path + " is not an object path", kUsage);
     }
     return *key;
 }
 
+void addCommands(Command &root, Tool &tool) {
+    for (auto *add : {addNew, addList, addImport, addExport, addDiff, addBoot, addFault, addPath, addRemove, addRun,
+                      addShell, addConsole}) {
+        add(root, tool);
+    }
+}
+
 void say(const std::string &words) {
     std::cerr << words << '\n';
+}
+
+std::string counted(size_t number, const std::string &one, const std::string &several) {
+    return std::to_string(number) + " " + (number == 1 ? one : several);
 }
 
 } // namespace sandbox

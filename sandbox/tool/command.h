@@ -5,8 +5,8 @@
 
 #include "store/database.h"
 #include "store/location.h"
+#include "tool/command_line.h"
 
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -30,7 +30,7 @@ class Failure : public std::runtime_error {
 // One run of the tool.
 struct Tool {
     std::string gateway;            // from -g; "" the environment's choice
-    std::vector<std::string> words; // behind "--": the command of `run`
+    std::vector<std::string> words; // after "--": the command of `run`
     int exitCode = kDone;
 
     // The gateway of that name, or of -g, or the environment's choice.
@@ -39,31 +39,30 @@ struct Tool {
     std::unique_ptr<Database> open(const std::string &name = {}) const;
 };
 
-// A row of the command table: adds a subcommand, whose callback does the work and throws what goes wrong.
-struct Command {
-    void (*add)(CLI::App &app, Tool &tool);
-};
+// Each declares a command, whose work throws what goes wrong.
+void addBoot(Command &root, Tool &tool);
+void addConsole(Command &root, Tool &tool);
+void addDiff(Command &root, Tool &tool);
+void addExport(Command &root, Tool &tool);
+void addFault(Command &root, Tool &tool);
+void addImport(Command &root, Tool &tool);
+void addList(Command &root, Tool &tool);
+void addNew(Command &root, Tool &tool);
+void addPath(Command &root, Tool &tool);
+void addRemove(Command &root, Tool &tool);
+void addRun(Command &root, Tool &tool);
+void addShell(Command &root, Tool &tool);
 
-void addBoot(CLI::App &app, Tool &tool);
-void addConsole(CLI::App &app, Tool &tool);
-void addDiff(CLI::App &app, Tool &tool);
-void addExport(CLI::App &app, Tool &tool);
-void addFault(CLI::App &app, Tool &tool);
-void addImport(CLI::App &app, Tool &tool);
-void addList(CLI::App &app, Tool &tool);
-void addNew(CLI::App &app, Tool &tool);
-void addPath(CLI::App &app, Tool &tool);
-void addRemove(CLI::App &app, Tool &tool);
-void addRun(CLI::App &app, Tool &tool);
-void addShell(CLI::App &app, Tool &tool);
+// All of them, in the order in which help lists them.
+void addCommands(Command &root, Tool &tool);
 
 // The key of an object path that a command was given. Throws a Failure.
 std::string keyOfArgument(const std::string &path);
 
-// Takes the words behind "--" off the arguments of `run`, exactly as they are: what is left is for the parser.
+// Takes the words after "--" off the arguments of `run`, exactly as they are: what is left is for the parser.
 void takeWords(int &argc, char **argv, Tool &tool);
 
-// Options that live as long as their command's callback.
+// Options that live as long as their command's work.
 template <typename Options>
 std::shared_ptr<Options> makeOptions() {
     return std::make_shared<Options>();
@@ -71,5 +70,8 @@ std::shared_ptr<Options> makeOptions() {
 
 // A word on standard error.
 void say(const std::string &words);
+
+// "1 entry", "2 entries".
+std::string counted(size_t number, const std::string &one, const std::string &several);
 
 } // namespace sandbox

@@ -8,12 +8,12 @@
 
 namespace sandbox {
 
-void addBoot(CLI::App &app, Tool &tool) {
+void addBoot(Command &root, Tool &tool) {
     auto name = makeOptions<std::string>();
-    CLI::App *command = app.add_subcommand("boot", "Make the running values follow the stored ones");
-    command->add_option("NAME", *name, "The gateway");
-    command->footer("Prints what changed, as diff does.");
-    command->callback([&tool, name] {
+    Command command = root.add("boot", "Make the running values follow the stored ones");
+    command.word("NAME", *name, "The gateway");
+    command.footer("Prints what changed, as diff does.");
+    command.runs([&tool, name] {
         const std::unique_ptr<Database> database = tool.open(*name);
         Transaction transaction(*database, Transaction::Kind::Write);
         const std::vector<Change> changes = pendingChanges(*database);

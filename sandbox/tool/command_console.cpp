@@ -30,12 +30,12 @@ void print(const std::string &file) {
 
 } // namespace
 
-void addConsole(CLI::App &app, Tool &tool) {
+void addConsole(Command &root, Tool &tool) {
     auto options = makeOptions<Options>();
-    CLI::App *command = app.add_subcommand("console", "Print what was written to the device's console");
-    command->add_flag("-f,--follow", options->follow, "Go on with what comes, up to Ctrl-C");
-    command->add_flag("-m,--messages", options->messages, "The system log instead: the daemons' and libraries' lines");
-    command->callback([&tool, options] {
+    Command command = root.add("console", "Print what was written to the device's console");
+    command.flag("-f,--follow", options->follow, "Go on with what comes, up to Ctrl-C");
+    command.flag("-m,--messages", options->messages, "The system log instead: the daemons' and libraries' lines");
+    command.runs([&tool, options] {
         const Location location = tool.location();
         const std::string file = options->messages ? box::messagesFile(location) : box::consoleFile(location);
         options->follow ? follow(file) : print(file);

@@ -68,16 +68,16 @@ struct Options {
 
 } // namespace
 
-void addDiff(CLI::App &app, Tool &tool) {
+void addDiff(Command &root, Tool &tool) {
     auto options = makeOptions<Options>();
-    CLI::App *command = app.add_subcommand("diff", "Compare the running values of two gateways, or the running with "
-                                                   "the stored values of one");
-    command->add_option("A", options->first, "The gateway")->required();
-    command->add_option("B", options->second, "The gateway to compare it with");
-    command->footer(
+    Command command =
+        root.add("diff", "Compare the running values of two gateways, or the running with the stored values of one");
+    command.word("A", options->first, "The gateway", Need::Required);
+    command.word("B", options->second, "The gateway to compare it with");
+    command.footer(
         "Exit code 1 when they differ.\n\n"
         "Examples:\n  caltofal-sandbox diff home lab\n  caltofal-sandbox diff home     what a boot would change");
-    command->callback([&tool, options] {
+    command.runs([&tool, options] {
         const std::unique_ptr<Database> first = tool.open(options->first);
         const std::vector<Change> changes =
             options->second.empty() ? pending(*first)

@@ -30,16 +30,15 @@ View viewOf(FileFormat format, bool stored) {
 
 } // namespace
 
-void addExport(CLI::App &app, Tool &tool) {
+void addExport(Command &root, Tool &tool) {
     auto options = makeOptions<Options>();
-    CLI::App *command = app.add_subcommand("export", "Write a gateway, or the branch at PATH, to standard output");
-    command->add_option("NAME PATH", options->arguments, "The gateway; the object to begin at")->expected(0, 2);
-    command->add_option("--format", options->format, "tr181 (the default), csv or json")
-        ->check(CLI::IsMember(formatNames()));
-    command->add_flag("--stored", options->stored, "Stored values only, as after the next boot");
-    command->footer("Examples:\n  caltofal-sandbox export > home.tr181\n"
-                    "  caltofal-sandbox export lab --format json Device.WiFi.");
-    command->callback([&tool, options] {
+    Command command = root.add("export", "Write a gateway, or the branch at PATH, to standard output");
+    command.words("NAME PATH", options->arguments, 2, "The gateway; the object to begin at");
+    command.choice("--format", options->format, formatNames(), "tr181 (the default), csv or json");
+    command.flag("--stored", options->stored, "Stored values only, as after the next boot");
+    command.footer("Examples:\n  caltofal-sandbox export > home.tr181\n"
+                   "  caltofal-sandbox export lab --format json Device.WiFi.");
+    command.runs([&tool, options] {
         std::vector<std::string> arguments = options->arguments;
         if (arguments.size() == 1 && isPath(arguments.front())) {
             arguments.insert(arguments.begin(), "");

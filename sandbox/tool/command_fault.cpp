@@ -1,22 +1,25 @@
 // SPDX-License-Identifier: MIT
-#include "exchange/json_value.h"
 #include "store/cal_codes.h"
 #include "store/fault.h"
 #include "tool/command.h"
+#include "tool/json_rows.h"
 #include "value/path.h"
 
+#include <algorithm>
 #include <charconv>
 #include <iostream>
 
 namespace sandbox {
 namespace {
 
+constexpr int64_t kLateMax = 3'600'000; // an hour
+constexpr int64_t kNthMax = 1'000'000'000;
+
 struct Options {
     std::string object;
     std::string operation;
     std::string code;
-    int lateMs = 0;
-    std::optional<int64_t> nth;
+    std::optional<int64_t> lateMs, nth;
     std::optional<int64_t> id;
     bool json = false;
 };
@@ -60,14 +63,17 @@ void printFault(const Fault &fault) {
               << ": " << effectOf(fault) << '\n';
 }
 
-Json toJson(const Fault &fault) {
-    Json object{{"id", fault.id}};
-    object["object"] = fault.object.empty() ? Json() : Json(pathOf(fault.object));
-    object["operation"] = fault.operation.empty() ? Json() : Json(fault.operation);
-    object["code"] = jsonOrNull(fault.code);
-    object["late_ms"] = fault.lateMs;
-    object["nth"] = jsonOrNull(fault.remaining);
-    return object;
+std::optional<std::string> unlessEmpty(const std::string &text) {
+    return text.empty() ? std::nullopt : std::optional(text);
+}
+
+JsonRow toJson(const Fault &fault) {
+    return {{"id", fault.id},
+            {"object", unlessEmpty(fault.object.empty() ? "" : pathOf(fault.object))},
+            {"operation", unlessEmpty(fault.operation)},
+            {"code", fault.code},
+            {"late_ms", fault.lateMs},
+            {"nth", fault.remaining}};
 }
 
 template <typename Work>
@@ -78,30 +84,26 @@ void inTransaction(const Tool &tool, Work work) {
     transaction.commit();
 }
 
-void addFaultAdd(CLI::App &group, Tool &tool) {
+void addFaultAdd(Command &group, Tool &tool) {
     auto options = makeOptions<Options>();
-    CLI::App *command = group.add_subcommand("add", "Make requests fail, or answer them late");
-    command->add_option("OBJECT", options->object, "The object that is hit, with all below it; \"any\" for every one")
-        ->required();
-    command->add_option("--code", options->code, "The code that the request fails with, a number or a name below");
-    command->add_option("--late", options->lateMs, "Wait before the answer")
-        ->type_name("MS")
-        ->check(CLI::Range(0, 3'600'000));
-    command->add_option("--nth", options->nth, "Hit the N-th request from now alone; without it, every one")
-        ->type_name("N")
-        ->check(CLI::Range(int64_t{1}, int64_t{1'000'000'000}));
-    command->add_option("--on", options->operation, "Hit one kind of request only")
-        ->check(CLI::IsMember({"get", "set"}));
-    command->footer("With neither --code nor --late a request fails with store-failed. The codes:" + codeNames() +
-                    "\n\nExamples:\n  caltofal-sandbox fault add any --nth 3\n"
-                    "  caltofal-sandbox fault add Device.Hosts. --late 1500 --on get");
-    command->callback([&tool, options] {
+    Command command = group.add("add", "Make requests fail, or answer them late");
+    command.word("OBJECT", options->object, "The object that is hit, with all below it; \"any\" for every one",
+                 Need::Required);
+    command.option("--code", options->code, "TEXT", "The code that the request fails with, a number or a name below");
+    command.number("--late", options->lateMs, "MS", 0, kLateMax, "Wait before the answer");
+    command.number("--nth", options->nth, "N", 1, kNthMax,
+                   "Hit the N-th request from now alone; without it, every one");
+    command.choice("--on", options->operation, {"get", "set"}, "Hit one kind of request only");
+    command.footer("With neither --code nor --late a request fails with store-failed. The codes:" + codeNames() +
+                   "\n\nExamples:\n  caltofal-sandbox fault add any --nth 3\n"
+                   "  caltofal-sandbox fault add Device.Hosts. --late 1500 --on get");
+    command.runs([&tool, options] {
         Fault fault;
         fault.object = options->object == "any" ? "" : keyOfArgument(options->object);
         fault.operation = options->operation;
-        fault.lateMs = options->lateMs;
+        fault.lateMs = static_cast<int>(options->lateMs.value_or(0));
         fault.remaining = options->nth;
-        if (!options->code.empty() || options->lateMs == 0) {
+        if (!options->code.empty() || fault.lateMs == 0) {
             fault.code = codeOf(options->code.empty() ? "store-failed" : options->code);
         }
         inTransaction(tool, [&](Database &database) { fault.id = addFault(database, fault); });
@@ -109,31 +111,27 @@ void addFaultAdd(CLI::App &group, Tool &tool) {
     });
 }
 
-void addFaultList(CLI::App &group, Tool &tool) {
+void addFaultList(Command &group, Tool &tool) {
     auto options = makeOptions<Options>();
-    CLI::App *command = group.add_subcommand("list", "Show the faults that are ordered");
-    command->add_flag("--json", options->json, "As JSON");
-    command->callback([&tool, options] {
-        const std::unique_ptr<Database> database = tool.open();
-        Json array = Json::array();
-        for (const Fault &fault : listFaults(*database)) {
-            if (options->json) {
-                array.push_back(toJson(fault));
-            } else {
-                printFault(fault);
-            }
-        }
+    Command command = group.add("list", "Show the faults that are ordered");
+    command.flag("--json", options->json, "As JSON");
+    command.runs([&tool, options] {
+        const std::vector<Fault> faults = listFaults(*tool.open());
         if (options->json) {
-            std::cout << array.dump(2) << '\n';
+            std::vector<JsonRow> rows;
+            std::transform(faults.begin(), faults.end(), std::back_inserter(rows), toJson);
+            printJson(rows);
+        } else {
+            std::for_each(faults.begin(), faults.end(), printFault);
         }
     });
 }
 
-void addFaultClear(CLI::App &group, Tool &tool) {
+void addFaultClear(Command &group, Tool &tool) {
     auto options = makeOptions<Options>();
-    CLI::App *command = group.add_subcommand("clear", "Take a fault back, or all");
-    command->add_option("ID", options->id, "The fault's number in the list");
-    command->callback([&tool, options] {
+    Command command = group.add("clear", "Take a fault back, or all");
+    command.number("ID", options->id, "The fault's number in the list");
+    command.runs([&tool, options] {
         inTransaction(tool, [&](Database &database) {
             if (!options->id) {
                 clearFaults(database);
@@ -146,12 +144,11 @@ void addFaultClear(CLI::App &group, Tool &tool) {
 
 } // namespace
 
-void addFault(CLI::App &app, Tool &tool) {
-    CLI::App *group = app.add_subcommand("fault", "Order failing and late requests");
-    group->require_subcommand(1);
-    addFaultAdd(*group, tool);
-    addFaultList(*group, tool);
-    addFaultClear(*group, tool);
+void addFault(Command &root, Tool &tool) {
+    Command group = root.group("fault", "Order failing and late requests");
+    addFaultAdd(group, tool);
+    addFaultList(group, tool);
+    addFaultClear(group, tool);
 }
 
 } // namespace sandbox

@@ -36,24 +36,22 @@ bool importFile(const Location &location, const Entries &entries, const Options 
 
 } // namespace
 
-void addImport(CLI::App &app, Tool &tool) {
+void addImport(Command &root, Tool &tool) {
     auto options = makeOptions<Options>();
-    CLI::App *command =
-        app.add_subcommand("import", "Merge a file into a gateway, which is made where it does not exist");
-    command->add_option("NAME", options->name, "The gateway")->required();
-    command->add_option("FILE", options->file, "The file; - for standard input")->required();
-    command->add_option("--format", options->format, "tr181, csv or json; without it, by the file's name")
-        ->check(CLI::IsMember(formatNames()));
-    command->add_flag("--replace", options->replace, "Start from an empty gateway");
-    command->footer("All of the file is taken in, or nothing.\n\nExamples:\n"
-                    "  caltofal-sandbox import home hosts.csv\n"
-                    "  caltofal-sandbox export lab | caltofal-sandbox import copy -");
-    command->callback([&tool, options] {
+    Command command = root.add("import", "Merge a file into a gateway, which is made where it does not exist");
+    command.word("NAME", options->name, "The gateway", Need::Required);
+    command.word("FILE", options->file, "The file; - for standard input", Need::Required);
+    command.choice("--format", options->format, formatNames(), "tr181, csv or json; without it, by the file's name");
+    command.flag("--replace", options->replace, "Start from an empty gateway");
+    command.footer("All of the file is taken in, or nothing.\n\nExamples:\n"
+                   "  caltofal-sandbox import home hosts.csv\n"
+                   "  caltofal-sandbox export lab | caltofal-sandbox import copy -");
+    command.runs([&tool, options] {
         const Location location = tool.location(options->name);
         const FileFormat format = formatOf(options->format, options->file);
         const Entries entries = readEntries(format, readWhole(options->file), options->file);
         const bool made = importFile(location, entries, *options);
-        say(location.name + (made ? ": made of " : ": took in ") + std::to_string(entries.size()) + " entries");
+        say(location.name + (made ? ": made of " : ": took in ") + counted(entries.size(), "entry", "entries"));
     });
 }
 

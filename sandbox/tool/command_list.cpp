@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/demo.h"
-#include "exchange/json_value.h"
 #include "store/store.h"
 #include "tool/command.h"
+#include "tool/json_rows.h"
 #include "value/refusal.h"
 
 #include <algorithm>
@@ -71,28 +71,36 @@ void printTable(const std::vector<Gateway> &rows) {
     }
 }
 
-void printJson(const std::vector<Gateway> &rows) {
-    Json array = Json::array();
-    for (const Gateway &row : rows) {
-        Json object{{"name", row.name}, {"exists", row.exists}, {"demo", row.demo}, {"chosen", row.chosen}};
-        object["parameters"] = jsonOrNull(row.parameters);
-        object["file"] = Location::named(row.name).storeFile();
-        if (!row.trouble.empty()) {
-            object["trouble"] = row.trouble;
-        }
-        array.push_back(std::move(object));
+JsonRow toJson(const Gateway &gateway) {
+    JsonRow row{{"name", gateway.name},
+                {"exists", gateway.exists},
+                {"demo", gateway.demo},
+                {"chosen", gateway.chosen},
+                {"parameters", gateway.parameters},
+                {"file", Location::named(gateway.name).storeFile()}};
+    if (!gateway.trouble.empty()) {
+        row.emplace_back("trouble", gateway.trouble);
     }
-    std::cout << array.dump(2) << '\n';
+    return row;
+}
+
+void printJson(const std::vector<Gateway> &gateways) {
+    std::vector<JsonRow> rows;
+    rows.reserve(gateways.size());
+    for (const Gateway &gateway : gateways) {
+        rows.push_back(toJson(gateway));
+    }
+    printJson(rows);
 }
 
 } // namespace
 
-void addList(CLI::App &app, Tool &tool) {
+void addList(Command &root, Tool &tool) {
     auto json = makeOptions<bool>();
-    CLI::App *command = app.add_subcommand("list", "Show the gateways, and the demos that are made on first use");
-    command->add_flag("--json", *json, "As JSON");
-    command->footer("The chosen gateway has an asterisk.");
-    command->callback([&tool, json] { *json ? printJson(gateways(tool)) : printTable(gateways(tool)); });
+    Command command = root.add("list", "Show the gateways, and the demos that are made on first use");
+    command.flag("--json", *json, "As JSON");
+    command.footer("The chosen gateway has an asterisk.");
+    command.runs([&tool, json] { *json ? printJson(gateways(tool)) : printTable(gateways(tool)); });
 }
 
 } // namespace sandbox

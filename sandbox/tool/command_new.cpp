@@ -24,14 +24,14 @@ Entries sourceEntries(const std::string &from) {
 
 } // namespace
 
-void addNew(CLI::App &app, Tool &tool) {
+void addNew(Command &root, Tool &tool) {
     auto options = makeOptions<Options>();
-    CLI::App *command = app.add_subcommand("new", "Make a gateway");
-    command->add_option("NAME", options->name, R"(Its name: letters, digits, ".", "_" and "-")")->required();
-    command->add_option("--from", options->from, "A demo or a file; without it, the demo of that name, else home")
-        ->type_name("DEMO|FILE");
-    command->footer("Examples:\n  caltofal-sandbox new lab --from dhcp\n  caltofal-sandbox new lab --from lab.tr181");
-    command->callback([&tool, options] {
+    Command command = root.add("new", "Make a gateway");
+    command.word("NAME", options->name, R"(Its name: letters, digits, ".", "_" and "-")", Need::Required);
+    command.option("--from", options->from, "DEMO|FILE",
+                   "A demo or a file; without it, the demo of that name, else home");
+    command.footer("Examples:\n  caltofal-sandbox new lab --from dhcp\n  caltofal-sandbox new lab --from lab.tr181");
+    command.runs([&tool, options] {
         const Location location = tool.location(options->name);
         const std::string from = !options->from.empty()    ? options->from
                                  : findDemo(options->name) ? options->name

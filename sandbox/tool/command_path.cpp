@@ -5,11 +5,11 @@
 
 namespace sandbox {
 
-void addPath(CLI::App &app, Tool &tool) {
+void addPath(Command &root, Tool &tool) {
     auto name = makeOptions<std::string>();
-    CLI::App *command = app.add_subcommand("path", "Print the file that a gateway is kept in");
-    command->add_option("NAME", *name, "The gateway");
-    command->callback([&tool, name] { std::cout << tool.location(*name).storeFile() << '\n'; });
+    Command command = root.add("path", "Print the file that a gateway is kept in");
+    command.word("NAME", *name, "The gateway");
+    command.runs([&tool, name] { std::cout << tool.location(*name).storeFile() << '\n'; });
 }
 
 } // namespace sandbox

@@ -5,12 +5,12 @@
 
 namespace sandbox {
 
-void addRemove(CLI::App &app, Tool &tool) {
+void addRemove(Command &root, Tool &tool) {
     auto name = makeOptions<std::string>();
-    CLI::App *command = app.add_subcommand("remove", "Delete a gateway, its log and what its device keeps");
-    command->add_option("NAME", *name, "The gateway")->required();
-    command->footer("A demo is made anew on its next use: removing it resets it.");
-    command->callback([&tool, name] {
+    Command command = root.add("remove", "Delete a gateway, its log and what its device keeps");
+    command.word("NAME", *name, "The gateway", Need::Required);
+    command.footer("A demo is made anew on its next use: removing it resets it.");
+    command.runs([&tool, name] {
         const Location location = tool.location(*name);
         if (!removeStore(location)) {
             throw Failure("there is no gateway " + location.name + " in " + location.directory, kAbsent);

@@ -41,10 +41,8 @@ void run(Tool &tool, const Options &options) {
     }
 }
 
-void addShown(CLI::App *command, Options &options) {
-    command->add_option("-b,--bind", options.shown, "A directory to show in the box as well, writable")
-        ->type_name("DIRECTORY")
-        ->allow_extra_args(false);
+void addShown(Command &command, Options &options) {
+    command.list("-b,--bind", options.shown, "DIRECTORY", "A directory to show in the box as well, writable");
 }
 
 } // namespace
@@ -59,26 +57,26 @@ void takeWords(int &argc, char **argv, Tool &tool) {
     }
 }
 
-void addRun(CLI::App &app, Tool &tool) {
+void addRun(Command &root, Tool &tool) {
     auto options = makeOptions<Options>();
-    CLI::App *command = app.add_subcommand("run", "Run a program where the device's paths, tools and daemons are");
-    command->add_flag("--check", options->check, "Only tell whether it can be done here");
+    Command command = root.add("run", "Run a program where the device's paths, tools and daemons are");
+    command.flag("--check", options->check, "Only tell whether it can be done here");
     addShown(command, *options);
-    command->footer(R"(Usage: caltofal-sandbox run [-g NAME] [-b DIRECTORY]... -- COMMAND [ARGUMENT...]
+    command.footer(R"(Usage: caltofal-sandbox run [-g NAME] [-b DIRECTORY]... -- COMMAND [ARGUMENT...]
 
 Examples:
   caltofal-sandbox run -- caltofal mode
   caltofal-sandbox run -g mesh -- sh -c 'gddbc -i -g /runtime/singlesignoninfo/livingslave/ishasrptslave'
 
 The exit code is the command's; 77 where there can be no box.)");
-    command->callback([&tool, options] { run(tool, *options); });
+    command.runs([&tool, options] { run(tool, *options); });
 }
 
-void addShell(CLI::App &app, Tool &tool) {
+void addShell(Command &root, Tool &tool) {
     auto options = makeOptions<Options>();
-    CLI::App *command = app.add_subcommand("shell", "Open the device's shell");
+    Command command = root.add("shell", "Open the device's shell");
     addShown(command, *options);
-    command->callback([&tool, options] {
+    command.runs([&tool, options] {
         setenv("PS1", (tool.location().name + R"(:\w\$ )").c_str(), 1);
         enterBox(tool, *options, {"/bin/sh"});
     });

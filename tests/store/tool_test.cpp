@@ -167,13 +167,42 @@ TEST_F(ToolTest, OrdersFaults) {
 }
 
 TEST_F(ToolTest, TellsWrongUseApart) {
-    for (const char *arguments : {"", "nosuch", "fault add", "fault add any --code 5", "fault add 1.2",
-                                  "export --format xml", "import lab", "list --nope"}) {
-        EXPECT_EQ(run(arguments).code, 2) << arguments;
+    struct Case {
+        const char *arguments;
+        const char *fault; // as the tool words it
+    };
+    const Case cases[] = {
+        {"", "which command?; see caltofal-sandbox --help"},
+        {"nosuch", "\"nosuch\" is not a command; see caltofal-sandbox --help"},
+        {"fault", "fault: which command?; see caltofal-sandbox fault --help"},
+        {"fault nosuch", "fault: \"nosuch\" is not a command; see caltofal-sandbox fault --help"},
+        {"fault add", "fault add: OBJECT is missing; see caltofal-sandbox fault add --help"},
+        {"fault add any --code 5", "5 is neither a negative number nor the name of a code"},
+        {"fault add any --nth 0",
+         "fault add: --nth \"0\" is not a number from 1 to 1000000000; see caltofal-sandbox fault add --help"},
+        {"fault add any --on", "fault add: --on needs a value; see caltofal-sandbox fault add --help"},
+        {"fault add 1.2", "1.2 is not an object path"},
+        {"export --format xml",
+         "export: --format \"xml\" is not one of tr181, csv, json; see caltofal-sandbox export --help"},
+        {"import lab", "import: FILE is missing; see caltofal-sandbox import --help"},
+        {"import '' {}/x --replace", "import: NAME is empty; see caltofal-sandbox import --help"},
+        {"remove ''", "remove: NAME is empty; see caltofal-sandbox remove --help"},
+        {"-g '' list", "list: --gateway is empty; see caltofal-sandbox list --help"},
+        {"list --nope", "list: \"--nope\" is not an option; see caltofal-sandbox list --help"},
+        {"list more", "list: \"more\" is one word too many; see caltofal-sandbox list --help"},
+        {"help nosuch", "help: \"nosuch\" is not a command; see caltofal-sandbox --help"},
+    };
+    for (const Case &row : cases) {
+        const Result result = run(row.arguments);
+        EXPECT_EQ(result.code, 2) << row.arguments;
+        EXPECT_EQ(result.errors, "caltofal-sandbox: " + std::string(row.fault) + "\n");
+        EXPECT_EQ(result.out, "");
     }
-    for (const char *arguments : {"--help", "--version", "fault add --help"}) {
+    for (const char *arguments : {"--help", "--version", "-V", "help fault"}) {
         EXPECT_EQ(run(arguments).code, 0) << arguments;
     }
+    EXPECT_EQ(run("help fault add").out, run("fault add --help").out);
+    EXPECT_EQ(run("help").out, run("--help").out);
     EXPECT_EQ(run("export > /dev/full").code, 1) << "an output that is lost is no success";
 }
 
