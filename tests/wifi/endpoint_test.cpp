@@ -16,6 +16,7 @@ void answer(const std::vector<std::string> &endPoints, const std::string &name =
     }
     platform().on("Device.WiFi.EndPoint.2", objects);
     platform().on("SSID.17.", {object("Device.WiFi.SSID.17", {name})});
+    platform().on("", {object("Device.WiFi.SSID.1", {"Name=wlan0"})});
 }
 
 TEST_F(EndPoint, Enable) {
@@ -29,8 +30,8 @@ TEST_F(EndPoint, Enable) {
          {Row{{"1&Enable=true" + reference, "2&Enable=true&SSIDReference=other"}, 1, "wlan1"},
           Row{{"2" + reference + "&Enable=true", "1&Enable=True"}, 2, "wlan1"},
           Row{{"1&Enable=1" + reference, "2&Enable=false" + reference}, -1, "before"},
-          Row{{"10&Enable=true" + reference}, 1, "wlan1"},                            // begins like instance 1
-          Row{{"1&Enable=true"}, 1, "before"},                                        // no reference: nothing asked
+          Row{{"10&Enable=true" + reference}, 1, "wlan1"}, // begins like instance 1
+          Row{{"1&Enable=true"}, 1, "wlan0"},              // no reference: asked for all the same
           Row{{"1&Enable=true&SSIDReference=" + std::string(300, 'r')}, 1, "before"}, // refused
           Row{{}, -1, "before"},
           Row{{"1&Enable=true" + reference}, 1, std::string(126, 'n'), "Name=" + std::string(200, 'n')},
@@ -46,12 +47,16 @@ TEST_F(EndPoint, Enable) {
         EXPECT_EQ(static_cast<int>(calls + 1), platform().releases());
         resetPlatform();
     }
-    answer({"1&Enable=true" + reference});
-    char ifname[128];
-    GetEPEnable(ifname);
-    EXPECT_EQ(parts("getValue 1/0x1100/2 Device.WiFi.EndPoint.1(Enable,SSIDReference) "
-                    "Device.WiFi.EndPoint.2(Enable,SSIDReference)&getValue 1/0x1100/2 SSID.17.(Name)"),
-              platform().callTexts());
+    for (const auto &[asked, params] : {std::pair<std::string, std::string>{"SSID.17.", reference}, {"", ""}}) {
+        answer({"1&Enable=true" + params});
+        char ifname[128];
+        GetEPEnable(ifname);
+        EXPECT_EQ(parts("getValue 1/0x1100/2 Device.WiFi.EndPoint.1(Enable,SSIDReference) "
+                        "Device.WiFi.EndPoint.2(Enable,SSIDReference)&getValue 1/0x1100/2 " +
+                        asked + "(Name)"),
+                  platform().callTexts());
+        resetPlatform();
+    }
     takeConsole();
     EXPECT_EQ(0, GetEPEnable(nullptr));
     EXPECT_TRUE(console().ends_with(refused("GetEPEnable")));
@@ -93,6 +98,11 @@ TEST_F(EndPoint, ChannelInfo) {
                    EXPECT_EQ(0, ReqEPChannelInfo("wlan1", nullptr));
                    return text;
                });
+    // A line longer than the buffer is one value: that of its first piece.
+    leave(std::string(125, '0') + "80" + std::string(200, '1') + "\n36\n" + std::string(126, '0') + "7");
+    int32_t values[4] = {-7, -7, -7, -7};
+    EXPECT_EQ(1, ReqEPChannelInfo("wlan1", values));
+    EXPECT_EQ((std::vector<int32_t>{80, 36, 7, -7}), std::vector(values, values + 4));
     EXPECT_EQ("cat /proc/net/mtlk/wlan1/channel | grep -e width: -e primary_channel: | sed 's/[^0-9]*//g' > "
               "/tmp/wlan_wave/wlan1_peer_info",
               shell().commands.back());

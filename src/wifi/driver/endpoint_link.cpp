@@ -41,6 +41,19 @@ bool readTrimmedLine(File &file, char (&line)[kLineSize]) {
     return true;
 }
 
+// Reads a line and leaves out its newline and what does not fit.
+bool readCutLine(File &file, char (&line)[kLineSize]) {
+    constexpr size_t kLast = kLineSize - 2;
+    line[kLast] = '\0';
+    if (!readTrimmedLine(file, line)) {
+        return false;
+    }
+    if (line[kLast]) {
+        file.skipLine();
+    }
+    return true;
+}
+
 } // namespace
 
 int GetEPContection(const char *ifname, char *macOut) {
@@ -86,7 +99,7 @@ int ReqEPChannelInfo(const char *ifname, int32_t *values) {
         return 0;
     }
     int stored = 0;
-    for (char line[kLineSize]; readTrimmedLine(file, line);) {
+    for (char line[kLineSize]; readCutLine(file, line);) {
         const int value = ConvInt(line);
         if (value == 0) {
             return 0;

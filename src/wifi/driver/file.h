@@ -31,6 +31,13 @@ class File {
         return fgets(line, Size, stream_) != nullptr;
     }
 
+    // Reads on behind the next newline.
+    void skipLine() {
+        for (int c = 0; c != EOF && c != '\n';) {
+            c = fgetc(stream_);
+        }
+    }
+
     // Reads at most `size` bytes; fewer at the end of the file only.
     size_t read(char *buffer, size_t size) { return fread(buffer, 1, size, stream_); }
 

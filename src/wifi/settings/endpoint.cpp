@@ -86,12 +86,9 @@ int GetEPEnable(char *ifnameOut) {
     if (result == kNoneEnabled || !ifnameOut) {
         return result;
     }
-    const char *ssid = endPoints[result - 1].ssidReference;
-    if (!*ssid) {
-        return result;
-    }
     message.reset();
-    if (faltocal_send_main_multi_obj(message, ssid, "get_leaf_node", "get", 1, "Name") == -1) {
+    if (faltocal_send_main_multi_obj(message, endPoints[result - 1].ssidReference, "get_leaf_node", "get", 1, "Name") ==
+        -1) {
         traceFailedRequest();
     } else {
         copyName(*message, ifnameOut);
