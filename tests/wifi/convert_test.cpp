@@ -80,12 +80,16 @@ TEST_F(Convert, Numbers) {
     expect(ConvDtimInterval, "0=1&1=1&100=100&101=1");
     expect(ConvFragmentationThreshold, "999=2346&1000=1000&2346=2346&2347=2346");
     expect(ConvRtsThreshold, "999=2346&1000=1000&2347=2347&2348=2346");
-    expect(ConvFreqChannel, "2412=1&2484=14&2483=15&2485=-503&5180=36&4909=-18&4910=182&4980=196&4981=-3&45000=8000&"
-                            "45001=0&58319=0&58320=1&64800=4&64801=0");
+    expect(
+        ConvFreqChannel,
+        "-2147483648=429496248&2412=1&2484=14&2483=15&2485=-503&5180=36&4909=-18&4910=182&4980=196&4981=-3&45000=8000&"
+        "45001=0&58319=0&58320=1&64800=4&64801=0");
     expect(ConvTransmitPower, "101=1&51=1&50=2&26=2&25=3&-1=3");
     for (const auto &[radio, first] : {std::pair{1, 1}, {2, 9}, {0, 9}}) {
         EXPECT_EQ(first, ConvSsidIdxToFapi(radio, 0));
         EXPECT_EQ(7, ConvSsidIdxToUI(radio, first + 7));
+        EXPECT_EQ(INT_MIN + first - 1, ConvSsidIdxToFapi(radio, INT_MAX)); // wraps around
+        EXPECT_EQ(INT_MAX - first + 1, ConvSsidIdxToUI(radio, INT_MIN));
     }
 }
 

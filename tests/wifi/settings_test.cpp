@@ -28,6 +28,9 @@ TEST_F(Settings, SetParam) {
     EXPECT_EQ(-1, SetParam(table.get(), "o", nullptr, "v"));
     EXPECT_EQ(-1, SetParam(table.get(), "o", "p", nullptr));
     EXPECT_EQ(0, table->count);
+    table->count = -1; // no index
+    EXPECT_EQ(-1, SetParam(table.get(), "o", "p", "v"));
+    EXPECT_EQ(-1, table->count);
     table->count = 99;
     EXPECT_EQ(0, SetParam(table.get(), text.c_str(), text.c_str(), text.c_str()));
     EXPECT_EQ(-1, SetParam(table.get(), "o", "p", "v"));

@@ -118,17 +118,19 @@ TEST_F(Stations, Failures) {
     EXPECT_EQ(failure + failure + failure, console());
 }
 
-// Answers for the eight SSIDs of a radio, from its first on: the SSID's parameters, and 1, 2, 4, ... clients.
-void answer(int first, const std::string &ssids) {
+// Answers for the eight SSIDs of a radio, from its first on: the SSID's parameters, and 1, 2, 4, ... clients or as many
+// as are given.
+void answer(int first, const std::string &ssids, const std::string &clients = "") {
     std::istringstream settings(ssids);
     for (int i = 0; i < 8; ++i) {
         std::string setting;
         std::getline(settings, setting, '|');
         const std::string number = std::to_string(first + i);
-        platform().on("Device.WiFi.AccessPoint." + number,
-                      {object("Device.WiFi.SSID." + number, parts(setting)),
-                       object("Device.WiFi.AccessPoint." + number,
-                              {"AssociatedDeviceNumberOfEntries=" + std::to_string(1 << i)})});
+        platform().on(
+            "Device.WiFi.AccessPoint." + number,
+            {object("Device.WiFi.SSID." + number, parts(setting)),
+             object("Device.WiFi.AccessPoint." + number,
+                    {"AssociatedDeviceNumberOfEntries=" + (clients.empty() ? std::to_string(1 << i) : clients)})});
     }
 }
 
@@ -145,6 +147,11 @@ TEST_F(Stations, Count) {
               platform().callTexts().back());
     const std::string start = tag("GetAssociatedDeviceNumberOfEntries") + "START_FUNCTION \n";
     EXPECT_EQ(start, console());
+
+    // No sum overflows, whatever the layer answers.
+    answer(9, "LowerLayers=Device.WiFi.Radio.2.&" + on + "|" + on, "2147483647");
+    EXPECT_EQ(-2, GetAssociatedDeviceNumberOfEntries(2));
+    console();
 
     // What was counted before a failure stays.
     answer(1, on + "&LowerLayers=Device.WiFi.Radio.1.||" + on + "|" + on);
@@ -173,9 +180,8 @@ TEST_F(Stations, MacAccess) {
     for (ObjectNode *node = nullptr; (node = caltofal_nextObject(&message, node)) != nullptr;) {
         EXPECT_EQ(-1, GetMacAccessList(node, table.c_str(), list.get()));
     }
-    faltocal_finalize(&message);
     EXPECT_TRUE(console().starts_with(tag("GetMacAccessList") + "\n\n>>>>>>>>>> ssid " + table + ".12:12:" + table +
-                                      ":12<<<<<<<<<<<<<\n\n"));
+                                      ".:12<<<<<<<<<<<<<\n\n"));
     EXPECT_EQ(-1, GetMacAccessList(nullptr, "", list.get()));
     EXPECT_EQ(32, list->count);
     const auto expect = [&](int i, int index, const std::string &name, const std::string &mac) {
@@ -187,6 +193,10 @@ TEST_F(Stations, MacAccess) {
     expect(1, 0, big.substr(0, 126), big.substr(0, 126));
     expect(2, 0, "", "");
     expect(31, 5, "a", "b");
+    list->count = -1; // no index
+    EXPECT_EQ(-1, GetMacAccessList(caltofal_nextObject(&message, nullptr), table.c_str(), list.get()));
+    EXPECT_EQ(-1, list->count);
+    faltocal_finalize(&message);
 }
 
 } // namespace

@@ -98,6 +98,24 @@ TEST_F(Survey, LongLineNeverLeavesTheArray) {
     EXPECT_EQ(1, std::ranges::count(read("").entries, '\n'));
 }
 
+TEST_F(Survey, CountThatIsNoIndex) {
+    putFile(kFile, "s\t6\t-60\tWPA2\tAES\tm\t40\tn\tupper\t1\n");
+    SiteSurveyList list = {-1, nullptr};
+    EXPECT_EQ(-1, GetSiteSurveyList(kFile, &list, ""));
+    free(list.entries);
+}
+
+TEST_F(Survey, ArrayThatCannotBeAddressed) {
+    putFile(kFile, std::string(5478276, '\n')); // entries for these take 304 bytes more than 32 bits can tell
+    failOpen(2);
+    SiteSurveyList list = {0, nullptr};
+    EXPECT_EQ(0, GetSiteSurveyList(kFile, &list, ""));
+    const bool allocated = list.entries != nullptr;
+    EXPECT_TRUE(console().ends_with(allocated ? " does not exist\n" : "fail to alloc memory"));
+    EXPECT_FALSE(allocated && sizeof(size_t) == 4);
+    free(list.entries);
+}
+
 TEST_F(Survey, ReportsAndFailures) {
     const std::string function = tag("GetSiteSurveyList");
     const std::string start = function + "START_FUNCTION \n";

@@ -3,11 +3,13 @@
 #include "frame/text.h"
 
 #include "caltofal.h"
+#include "wifi/convert/wrap.h"
 
 #include <cstdlib>
 #include <cstring>
 
 using namespace frame;
+using namespace wifi;
 
 namespace {
 
@@ -60,11 +62,11 @@ const char *ConvMacACLModeToFapi(int enabled, int allow) {
 }
 
 int ConvSsidIdxToUI(int radio, int index) {
-    return index - firstSsid(radio);
+    return wrappingAdd(index, -firstSsid(radio));
 }
 
 int ConvSsidIdxToFapi(int radio, int index) {
-    return index + firstSsid(radio);
+    return wrappingAdd(index, firstSsid(radio));
 }
 
 int ConvBeaconInterval(int value) {
@@ -111,7 +113,7 @@ int ConvFreqChannel(int frequencyMHz) {
         return 14;
     }
     if (frequencyMHz < 2484) {
-        return (frequencyMHz - 2407) / 5;
+        return wrappingAdd(frequencyMHz, -2407) / 5;
     }
     if (frequencyMHz >= 4910 && frequencyMHz <= 4980) {
         return (frequencyMHz - 4000) / 5;

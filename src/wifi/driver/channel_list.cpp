@@ -6,6 +6,7 @@
 #include "frame/pipe.h"
 #include "frame/range.h"
 #include "wifi/convert/words.h"
+#include "wifi/convert/wrap.h"
 #include "wifi/driver/file.h"
 #include "wifi/driver/formatted.h"
 #include "wifi/object_path.h"
@@ -21,7 +22,7 @@ namespace wifi {
 namespace {
 
 constexpr int kAbove2_4GHz = 2485; // MHz
-constexpr uint32_t kSecondaryDistance = 4;
+constexpr int kSecondaryDistance = 4;
 
 // The words of a line, in its order.
 enum Word : uint8_t { Channel, Frequency, Is160, Is80, Is40Above, Is40Below, Radar, WordCount };
@@ -39,13 +40,11 @@ void fillEntry(const char *const (&words)[WordCount], int frequency, WifiChannel
     *bandwidth++ = 20;
     const bool above = strcmp(words[Is40Above], "40+") == 0;
     const bool below = strcmp(words[Is40Below], "40-") == 0;
-    // Unsigned: the tool's numbers are not checked.
-    const auto channel = static_cast<uint32_t>(entry.channel);
     if (above) {
-        entry.aboveChannel = static_cast<int32_t>(channel + kSecondaryDistance);
+        entry.aboveChannel = wrappingAdd(entry.channel, kSecondaryDistance);
     }
     if (below) {
-        entry.belowChannel = static_cast<int32_t>(channel - kSecondaryDistance);
+        entry.belowChannel = wrappingAdd(entry.channel, -kSecondaryDistance);
     }
     if (above || below) {
         *bandwidth++ = 40;

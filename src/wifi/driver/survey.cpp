@@ -27,7 +27,7 @@ class SurveyReader {
         const SurveyLine line = splitSurveyLine(text);
         if (!line.isComplete()) {
             report(line);
-        } else if (isWanted(line.column[SurveyLine::Ssid].data) && list_.count < capacity_) {
+        } else if (isWanted(line.column[SurveyLine::Ssid].data) && list_.count >= 0 && list_.count < capacity_) {
             fillSurveyEntry(line, list_.entries[list_.count++]);
         }
     }
@@ -51,6 +51,12 @@ class SurveyReader {
     const char *filter_;
 };
 
+// nullptr also where so many could not be addressed.
+SiteSurveyEntry *allocateEntries(size_t count) {
+    constexpr size_t kMost = PTRDIFF_MAX / sizeof(SiteSurveyEntry);
+    return count <= kMost ? static_cast<SiteSurveyEntry *>(malloc(count * sizeof(SiteSurveyEntry))) : nullptr;
+}
+
 // A call of its own: its block of text and the line count's are never on the stack at the same time.
 [[gnu::noinline]] void readLines(File &file, SurveyReader &reader) {
     LineBlocks<kLineSize> blocks(file);
@@ -72,7 +78,7 @@ int GetSiteSurveyList(const char *path, SiteSurveyList *list, const char *ssidFi
         traceVola(Unit::WifiUtil, "%s does not exist of line count zero \n", path);
         return list->count;
     }
-    list->entries = static_cast<SiteSurveyEntry *>(malloc(static_cast<size_t>(lines) * sizeof(SiteSurveyEntry)));
+    list->entries = allocateEntries(static_cast<size_t>(lines));
     if (!list->entries) {
         traceVola(Unit::WifiUtil, "fail to alloc memory");
         return list->count;

@@ -46,8 +46,8 @@ int GetMacAccessList(ObjectNode *objectNode, const char *prefix, MacAccessList *
     copyText(name, objectNode->name);
     const char *instance = instanceText(name, prefix);
     const int index = ConvInt(instance);
-    traceVola(Unit::WifiUtil, "\n\n>>>>>>>>>> ssid %s:%s:%s:%d<<<<<<<<<<<<<\n\n", name, instance, prefix, index);
-    if (list->count < static_cast<int32_t>(std::size(list->entries))) {
+    traceVola(Unit::WifiUtil, "\n\n>>>>>>>>>> ssid %s:%s:%s.:%d<<<<<<<<<<<<<\n\n", name, instance, prefix, index);
+    if (list->count >= 0 && list->count < static_cast<int32_t>(std::size(list->entries))) {
         MacAccessEntry &entry = list->entries[list->count];
         entry.index = index;
         if (fillEntry(*objectNode, entry)) {

@@ -10,7 +10,7 @@ using namespace wifi;
 namespace wifi {
 
 bool appendRow(WifiParamTable &table, std::string_view object, std::string_view parameter, std::string_view value) {
-    if (table.count >= kTableRows) {
+    if (table.count < 0 || table.count >= kTableRows) {
         return false;
     }
     WifiParamRow &row = table.rows[table.count];

@@ -4,6 +4,7 @@
 #include "frame/message.h"
 #include "frame/range.h"
 #include "frame/text.h"
+#include "wifi/convert/wrap.h"
 #include "wifi/object_path.h"
 #include "wifi/wifi_trace.h"
 
@@ -82,7 +83,7 @@ int GetAssociatedDeviceNumberOfEntries(int radioIndex) {
         }
         const Ssid ssid = read(*message, lowerLayers);
         if (ssid.enabled && ssid.active && strcmp(lowerLayers, radio) == 0) {
-            total += ssid.clients;
+            total = wrappingAdd(total, ssid.clients);
         }
     }
     return total;
