@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "wifi/driver/channel_list.h"
+#include "wifi/driver/channel_lines.h"
 
 #include "frame/lookup.h"
 #include "frame/message.h"

@@ -2,7 +2,7 @@
 // Reading a survey's result file.
 #include "wifi/driver/file.h"
 #include "wifi/driver/line_blocks.h"
-#include "wifi/driver/survey_parse.h"
+#include "wifi/driver/survey_line.h"
 #include "wifi/wifi_trace.h"
 
 #include <cstdlib>

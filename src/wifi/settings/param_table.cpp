@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "wifi/settings/param_table.h"
 
-#include "wifi/field.h"
+#include "wifi/cut_copy.h"
 
 #include <cstring>
 

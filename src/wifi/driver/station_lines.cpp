@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "wifi/driver/stations.h"
+#include "wifi/driver/station_lines.h"
 
 #include "frame/pipe.h"
 #include "frame/text.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "wifi/driver/survey_parse.h"
+#include "wifi/driver/survey_line.h"
 
 #include "frame/text.h"
 #include "wifi/convert/words.h"
-#include "wifi/field.h"
+#include "wifi/cut_copy.h"
 
 using namespace frame;
 

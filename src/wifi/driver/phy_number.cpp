@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "wifi/driver/phy.h"
+#include "wifi/driver/radio_text.h"
 
 #include "caltofal.h"
 #include "frame/pipe.h"
