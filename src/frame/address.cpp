@@ -17,7 +17,7 @@ constexpr char kMacPattern[] = "^[0-9A-F][0-9A-F]:[0-9A-F][0-9A-F]:[0-9A-F][0-9A
 } // namespace
 
 int zintu_isValidMacAddress(const char *mac) {
-    if (!*mac) {
+    if (!mac || !*mac) {
         return -1;
     }
     constexpr char kTag[] = "zintu_isValidMacAddress";
@@ -38,5 +38,5 @@ int zintu_isValidMacAddress(const char *mac) {
 
 int zintu_isValidIPv4Address(const char *address) {
     in_addr parsed;
-    return inet_pton(AF_INET, address, &parsed) == 1 ? 0 : -1;
+    return address && inet_pton(AF_INET, address, &parsed) == 1 ? 0 : -1;
 }

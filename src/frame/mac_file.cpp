@@ -18,10 +18,6 @@ struct CloseFile {
 };
 using File = std::unique_ptr<FILE, CloseFile>;
 
-void trace(int line, const char *message) {
-    traceVola({Unit::FaltoCal, line, "zintu_scapi_getMacFromFile"}, "%s", message);
-}
-
 } // namespace
 
 int zintu_scapi_getMacFromFile(const char *interfaceName, char *macOut) {
@@ -39,17 +35,17 @@ int zintu_scapi_getMacFromFile(const char *interfaceName, char *macOut) {
         entry = strstr(line, key);
     }
     if (!entry) {
-        trace(1275, "Error = Couldn't get mac for the interface\n");
+        traceError({1275}, "Error = Couldn't get mac for the interface\n");
         return -1;
     }
     char *rest = nullptr;
     strtok_r(entry, "> ", &rest);
     const char *mac = strtok_r(nullptr, "> ", &rest);
     if (!mac) {
-        trace(1260, "strtok_r is Failure\n");
+        traceError({1260}, "strtok_r is Failure\n");
         return -1;
     }
     strcpy(macOut, mac);
-    trace(1279, "GOT MAC FROM CONFIG FILE\n");
+    traceVola({Unit::FaltoCal, 1279}, "GOT MAC FROM CONFIG FILE\n");
     return 0;
 }

@@ -22,5 +22,5 @@ uint32_t IPConvertTouint(const char *text) {
 
 int32_t validationCheck_IPv6Addr(const char *text) {
     in6_addr address;
-    return inet_pton(AF_INET6, text, &address) == 1 ? 0 : -1;
+    return text && inet_pton(AF_INET6, text, &address) == 1 ? 0 : -1;
 }

@@ -69,6 +69,7 @@ TEST(Text, MacAddress) {
     for (const auto &[mac, valid] : rows) {
         EXPECT_EQ(valid, zintu_isValidMacAddress(mac)) << mac;
     }
+    EXPECT_EQ(-1, zintu_isValidMacAddress(nullptr));
 }
 
 TEST(Text, Ipv4Address) {
@@ -76,6 +77,7 @@ TEST(Text, Ipv4Address) {
          {std::pair{"192.168.1.1", 0}, {"0.0.0.0", 0}, {"", -1}, {"1.2.3", -1}, {"256.1.1.1", -1}, {"::1", -1}}) {
         EXPECT_EQ(valid, zintu_isValidIPv4Address(address)) << address;
     }
+    EXPECT_EQ(-1, zintu_isValidIPv4Address(nullptr));
 }
 
 using MacFile = LibraryTest;
@@ -83,8 +85,8 @@ using MacFile = LibraryTest;
 TEST_F(MacFile, LinesAndTraces) {
     const std::string tag1279 = vola("FaltoCal", 1279, "zintu_scapi_getMacFromFile") + "GOT MAC FROM CONFIG FILE\n";
     const std::string tag1275 =
-        vola("FaltoCal", 1275, "zintu_scapi_getMacFromFile") + "Error = Couldn't get mac for the interface\n";
-    const std::string tag1260 = vola("FaltoCal", 1260, "zintu_scapi_getMacFromFile") + "strtok_r is Failure\n";
+        "\n\n\t[zintu_scapi_getMacFromFile : 1275] Error = Couldn't get mac for the interface\n";
+    const std::string tag1260 = "\n\n\t[zintu_scapi_getMacFromFile : 1260] strtok_r is Failure\n";
     struct Row {
         std::string content, mac, console;
     };

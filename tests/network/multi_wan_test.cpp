@@ -168,6 +168,7 @@ TEST(Addresses, Conversions) {
          {std::pair{"::1", 0}, {"2001:db8::", 0}, {"", -1}, {"1.2.3.4", -1}, {"fe80::1%lan", -1}}) {
         EXPECT_EQ(valid, validationCheck_IPv6Addr(text)) << text;
     }
+    EXPECT_EQ(-1, validationCheck_IPv6Addr(nullptr));
     EXPECT_STREQ("Device.IP.Interface.3.", ZINTU_DEF_IP_INTERFACE[0]);
     EXPECT_STREQ("Device.IP.Interface.21.", ZINTU_DEF_IP_INTERFACE[18]);
 }
