@@ -16,6 +16,13 @@ template <size_t Size>
 class BoundedText {
   public:
     BoundedText() { *end_ = '\0'; }
+    // As snprintf().
+    [[gnu::format(printf, 2, 3)]] explicit BoundedText(const char *format, ...) {
+        va_list arguments;
+        va_start(arguments, format);
+        this->format(format, arguments);
+        va_end(arguments);
+    }
     BoundedText(const BoundedText &) = delete;
     BoundedText &operator=(const BoundedText &) = delete;
 
@@ -37,6 +44,7 @@ class BoundedText {
     }
 
     operator const char *() const { return text_; } // NOLINT(google-explicit-constructor): stands for its text
+    [[nodiscard]] const char *c_str() const { return text_; } // for variable arguments
     [[nodiscard]] size_t length() const { return static_cast<size_t>(end_ - text_); }
 
   private:

@@ -78,8 +78,9 @@ int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info) {
         traceFailedRequest(line);
         return -1;
     }
+    LANv4Info info = *pxLANv4Info; // the caller's record changes only after all has gone well
     for (ObjectNode &object : objects(*message)) {
-        fillFrom(object, *pxLANv4Info);
+        fillFrom(object, info);
     }
     message.reset();
     const int code = faltocal_SendMultiObj(1, CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST, message, "Device.DHCPv4.Server.",
@@ -88,9 +89,10 @@ int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info) {
         traceError(1629, "faltocal_SendMultiObj is Failure \n");
         return -1;
     }
-    applyServerSwitch(message, *pxLANv4Info);
+    applyServerSwitch(message, info);
+    *pxLANv4Info = info;
     static constexpr VolaTag kResult(Unit::NetworkGet);
     traceVola(kResult);
-    traceResult(*pxLANv4Info);
+    traceResult(info);
     return code;
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // LAN page, IPv6: state, address, DNS, DHCPv6 range, prefix delegation, manual prefix.
+#include "frame/console.h"
 #include "frame/lookup.h"
 #include "frame/range.h"
 #include "frame/text.h"
@@ -97,16 +98,18 @@ int request(MsgHeader *message) {
 }
 
 void traceResult(const LANv6Info &info, int line = __builtin_LINE(), const char *function = __builtin_FUNCTION()) {
-    traceVola({Unit::NetworkGet, line, function},
-              "return pxLANv6Info value : bIPv6Active = %d , sIPv6Address = %s ,  nPrefixLength = %d , "
-              "sLANv6Mode = %s , sDNSv6Primary = %s , sDNSv6Secondary = %s , sDomainNamev6 = %s , "
-              "sDHCPv6StartIP = %s , sDHCPv6EndIP = %s , nLeaseTimeSec = %d , bPDActive = %d , "
-              "sManualPrefix = %s , nManualPrefixLength = %d \n",
-              info.bIPv6Active, Terminated(info.sIPv6Address).c_str(), info.nPrefixLength,
-              Terminated(info.sLANv6Mode).c_str(), Terminated(info.sDNSv6Primary).c_str(),
-              Terminated(info.sDNSv6Secondary).c_str(), Terminated(info.sDomainNamev6).c_str(),
-              Terminated(info.sDHCPv6StartIP).c_str(), Terminated(info.sDHCPv6EndIP).c_str(), info.nLeaseTimeSec,
-              info.bPDActive, Terminated(info.sManualPrefix).c_str(), info.nManualPrefixLength);
+    // Cut before the line's end is added to it.
+    const BoundedText<kConsoleSize - 1> values(
+        "return pxLANv6Info value : bIPv6Active = %d , sIPv6Address = %s ,  nPrefixLength = %d , "
+        "sLANv6Mode = %s , sDNSv6Primary = %s , sDNSv6Secondary = %s , sDomainNamev6 = %s , "
+        "sDHCPv6StartIP = %s , sDHCPv6EndIP = %s , nLeaseTimeSec = %d , bPDActive = %d , "
+        "sManualPrefix = %s , nManualPrefixLength = %d ",
+        info.bIPv6Active, Terminated(info.sIPv6Address).c_str(), info.nPrefixLength,
+        Terminated(info.sLANv6Mode).c_str(), Terminated(info.sDNSv6Primary).c_str(),
+        Terminated(info.sDNSv6Secondary).c_str(), Terminated(info.sDomainNamev6).c_str(),
+        Terminated(info.sDHCPv6StartIP).c_str(), Terminated(info.sDHCPv6EndIP).c_str(), info.nLeaseTimeSec,
+        info.bPDActive, Terminated(info.sManualPrefix).c_str(), info.nManualPrefixLength);
+    traceVola({Unit::NetworkGet, line, function}, "%s\n", values.c_str());
 }
 
 } // namespace

@@ -60,9 +60,10 @@ TEST_F(Lan, Ipv4ServerSwitchAndFailures) {
 
     firstAnswer();
     platform().on("Device.DHCPv4.Server.", Reply{-1});
-    EXPECT_EQ(-1, ZintuGet_LANv4Info(&info));
-    EXPECT_TRUE(takeConsole().ends_with("FAL \n\n\n\t[ZintuGet_LANv4Info : 1629] faltocal_SendMultiObj is Failure \n"));
     LANv4Info untouched = {};
+    EXPECT_EQ(-1, ZintuGet_LANv4Info(&untouched));
+    EXPECT_EQ(0, untouched.bDHCPv4Active) << "on failure the record holds nothing from the call";
+    EXPECT_TRUE(takeConsole().ends_with("FAL \n\n\n\t[ZintuGet_LANv4Info : 1629] faltocal_SendMultiObj is Failure \n"));
     EXPECT_EQ(-1, ZintuGet_LANv4Info(&untouched));
     EXPECT_TRUE(takeConsole().ends_with("\n\n\t[ZintuGet_LANv4Info : 1572] faltocal_send_main_multi_obj is Failure\n"));
     EXPECT_EQ(0, untouched.bDHCPv4Active);
@@ -93,6 +94,27 @@ TEST_F(Lan, Ipv6) {
         withoutLines(takeConsole()));
     EXPECT_EQ(-1, ZintuGet_LANv6Info(&info));
     EXPECT_TRUE(takeConsole().ends_with("\n\n\t[ZintuGet_LANv6Info : 1682] faltocal_send_main_multi_obj is Failure\n"));
+}
+
+TEST_F(Lan, Ipv6SummaryThatIsCutStaysALine) {
+    const std::string longText(127, 'x');
+    for (const size_t length : {1U, 50U, 127U}) {
+        std::vector<std::string> params;
+        for (const char *name : {"X_LANTIQ_COM_PRI_DNSv6", "X_LANTIQ_COM_SEC_DNSv6", "X_LANTIQ_COM_V6_DOMAIN_NAME",
+                                 "X_LANTIQ_COM_IPv6_LANMode"}) {
+            params.push_back(std::string(name) + "=" + longText);
+        }
+        platform().on(kPool6,
+                      {object("Device.IPv6", params),
+                       object("Device.DHCPv6.Server.Pool.1",
+                              {"X_ZINTU_MinAddress=" + longText, "X_ZINTU_MaxAddress=" + longText.substr(0, length)})});
+        LANv6Info info = {};
+        EXPECT_EQ(0, ZintuGet_LANv6Info(&info));
+        const std::string console = takeConsole();
+        const std::string line = console.substr(console.find("return pxLANv6Info"));
+        EXPECT_EQ(length < 127 ? 914 + length : 1023U, line.size());
+        EXPECT_TRUE(line.ends_with('\n')) << line;
+    }
 }
 
 TEST_F(Lan, Ipv6Addresses) {
