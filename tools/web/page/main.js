@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// The page: its views, the way between them, and values that refresh by themselves. The overview is here, as the page
+// begins with it; the other views are loaded when they are first shown.
+import {answered, bandName, bar, el, facts, figure, getAll, getStatus, link, morph, note, onOff, pair, quiet, rate, section,
+  state, table, upDown} from "./kit.js";
+
+const REFRESH_MS = 5000;
+
+const lineRate = (label, {rate_kbit_s: now, max_rate_kbit_s: most}) =>
+  [label, [rate(now), quiet(" of ", rate(most)), bar(label, now, most, `${now} of ${most} kbit/s`)]];
+
+const overview = {
+  load: async () => Object.assign(...await Promise.all([getStatus(), getAll({radios: "wifi/radios"})])),
+  render: ({mode, wan, dsl, lan, multiwan, radios}) => pair(
+    section("Internet", null, answered(wan, value => facts([["State", upDown(value.status, "Up")],
+      ["Connection", value.description || value.type], ["Address", value.ip_address], ["Gateway", value.gateway],
+      ["IPv6 address", value.ipv6?.address], ["Name servers", [value.dns?.dns1, value.dns?.dns2].filter(Boolean).join(", ")]]))),
+    section("Home network", null, answered(lan, ({ipv4, ipv6}) => facts([["Address", ipv4?.address], ["IPv6 address", ipv6?.address],
+      ["DHCP server", onOff(ipv4?.dhcp_active)],
+      ["Role", mode.value && `${mode.value.router ? "router" : "bridge"}, uplink by ${mode.value.wifi_wan ? "Wi-Fi" : "cable"}`],
+      ["Second WAN", multiwan.value && onOff(multiwan.value.enabled)]]))),
+    section("DSL line", null, answered(dsl, ({status, downstream, upstream}) => facts(status === "connected" ? [
+      ["State", state("Connected", "good")], lineRate("Downstream", downstream), lineRate("Upstream", upstream),
+      ["Noise margin", [figure(downstream.noise_margin_db, "dB", 1), " down, ", figure(upstream.noise_margin_db, "dB", 1), " up"]]]
+      : [["State", state("No signal", "off")]]), "This gateway has no DSL line.")),
+    section("Wi-Fi", null, answered(radios, value => table("Radios", [
+      ["Radio", radio => bandName(radio.band)], ["State", radio => onOff(radio.enabled)],
+      ["Channel", radio => radio.channel, "count"], ["Clients", radio => radio.clients, "count"]],
+    value.radios, radio => radio.radio, "This gateway has no radio."), "This gateway has no Wi-Fi."))),
+};
+
+// A view: load() asks for what it shows, render(data) makes elements of it, shown(data) is told when they stand there.
+const VIEWS = [
+  ["", "Overview", async () => ({default: overview})],
+  ["internet", "Internet", () => import("./internet.js")],
+  ["home", "Home network", () => import("./home.js")],
+  ["wifi", "Wi-Fi", () => import("./wifi.js")],
+  ["mesh", "Mesh", () => import("./mesh.js")],
+  ["model", "Data model", () => import("./model.js")],
+  ["written", "Written", () => import("./written.js")],
+].map(([route, title, load]) => ({route, title, load}));
+
+const [content, freshness, trouble, views] = ["content", "freshness", "trouble", "views"].map(id => document.getElementById(id));
+let current, timer, turn = 0, data, lastGood = "";
+
+function showLink() {
+  const since = lastGood && ` What is shown is of ${lastGood}.`;
+  const text = {lost: `The connection to the server is lost; trying again.${since}`,
+    ended: `This session has ended: open the address that the server printed at its start.${since}`}[link.state] ?? "";
+  if (trouble.textContent !== text) trouble.textContent = text;
+  freshness.textContent = text || !lastGood ? "" : `As of ${lastGood}`;
+}
+
+const title = () => el("h1", current.title);
+
+// Shows what is known already: for a view whose own controls changed.
+export function redraw() {
+  if (!data) return;
+  morph(content, [title(), current.view.render(data)].flat());
+  current.view.shown?.(data);
+}
+
+// Asks for everything again and shows what is different. A turn that another one has overtaken shows nothing.
+export async function refresh() {
+  clearTimeout(timer);
+  const mine = ++turn;
+  try {
+    const fresh = await current.view.load();
+    if (mine !== turn) return;
+    data = fresh;
+    lastGood = new Date().toLocaleTimeString();
+    redraw();
+  } catch (error) {
+    if (mine !== turn) return;
+    if (link.state === "ok" || !data) morph(content, [title(), answered({error})]);
+  }
+  content.setAttribute("data-view", current.route);
+  content.removeAttribute("aria-busy");
+  showLink();
+  if (!document.hidden && link.state !== "ended") timer = setTimeout(refresh, REFRESH_MS);
+}
+
+async function open() {
+  const route = location.hash.replace(/^#\/?/, "");
+  const next = VIEWS.find(view => view.route === route) ?? VIEWS[0];
+  if (next === current) return;
+  const first = !current;
+  current = next;
+  data = null;
+  turn++;
+  morph(views, VIEWS.map(view => el("li",
+    el("a", {href: `#/${view.route}`, "aria-current": view === next && "page"}, view.title))));
+  document.title = `${next.title} – Gateway`;
+  content.setAttribute("aria-busy", "true");
+  if (!first) {
+    morph(content, [title(), note("Loading…")]);
+    content.focus();
+  }
+  next.view ??= (await next.load()).default;
+  if (next === current) await refresh();
+}
+
+addEventListener("hashchange", open);
+document.addEventListener("visibilitychange", () => (document.hidden ? clearTimeout(timer) : refresh()));
+open();

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// The whole data model: found by words, read, changed.
+import {answered, button, el, getAll, name, note, quiet, section, table, visible} from "./kit.js";
+import {openForm} from "./edit.js";
+import {redraw, refresh} from "./main.js";
+import {isSecret} from "./written.js";
+
+const MOST = 200; // rows at once
+let words = "", kept, rows;
+
+// The parameters of an answer, made once for each.
+function parametersOf(answer) {
+  if (answer === kept) return rows;
+  kept = answer;
+  rows = Object.entries(answer).flatMap(([object, parameters]) => Object.entries(parameters)
+    .filter(([parameter]) => !(parameter.endsWith("_hex") && parameter.slice(0, -4) in parameters))
+    .map(([parameter, value]) => ({object, parameter, value, hex: parameters[`${parameter}_hex`],
+      path: `${object.replace(/\.$/, "")}.${parameter}`, text: `${object}.${parameter} ${value}`.toLowerCase()})));
+  return rows;
+}
+
+function search(text) {
+  words = text;
+  const input = document.getElementById("search");
+  if (input.value !== text) input.value = text;
+  input.focus();
+  redraw();
+}
+
+// Where one may begin: the objects directly below Device.
+function beginnings(all) {
+  const counts = new Map();
+  for (const {path} of all) {
+    const top = path.split(".", 2).join(".");
+    counts.set(top, (counts.get(top) ?? 0) + 1);
+  }
+  return table("Objects", [
+    ["Object", ([path]) => el("button.link", {type: "button", onclick: () => search(`${path}.`)}, path)],
+    ["Parameters", ([, count]) => count, "count"]], [...counts].sort(), ([path]) => path);
+}
+
+const change = row => openForm({title: row.path, path: "objects", done: refresh, before: () => row.value,
+  body: asked => ({[row.object]: asked}),
+  fields: [{name: row.parameter, label: row.parameter, value: isSecret(row.parameter) ? "" : row.value}]});
+
+const COLUMNS = [
+  ["Parameter", row => el("code", visible(row.path))],
+  ["Value", row => row.value === "" || row.value === null ? quiet("(empty)") : name(String(row.value), row.hex)],
+  ["Change", row => button("Change", () => change(row), row.path), "act"]];
+
+function results(all) {
+  const wanted = words.toLowerCase().split(/\s+/).filter(Boolean);
+  if (!wanted.length) return [note(`${all.length} parameters. Search, or begin with an object:`), beginnings(all)];
+  const hits = all.filter(row => wanted.every(word => row.text.includes(word)));
+  return [el("p.quiet", {role: "status"}, `${hits.length} of ${all.length} parameters`,
+    hits.length > MOST ? `; the first ${MOST} are shown: add a word.` : "."),
+  table("Parameters", COLUMNS, hits.slice(0, MOST), row => row.path, "None has all these words in its path or value.")];
+}
+
+export default {
+  load: () => getAll({all: "objects?path=Device."}),
+  render: ({all}) => [
+    el("p.search", el("label", {for: "search"}, "Words of a path or a value"), el("input", {id: "search", type: "search",
+      autocomplete: "off", spellcheck: "false", value: words, oninput: event => search(event.target.value)})),
+    section("Parameters", null, answered(all, value => results(parametersOf(value)))),
+  ],
+};

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+// Wi-Fi: radios, networks, channels with the networks around, stations, WPS.
+import {isRadar, networksOf} from "./channels.js";
+import {answered, bandName, bar, button, el, figure, get, getAll, name, note, onOff, quiet, say, section, state, table,
+  upDown} from "./kit.js";
+import {hostsOf} from "./home.js";
+import {isRunning, jobButton, progress} from "./jobs.js";
+import {refresh} from "./main.js";
+import {drawSpectrum, networkColour} from "./spectrum.js";
+import {editRadio, editSsid} from "./wifi_forms.js";
+
+const NONE = "This gateway has no Wi-Fi.";
+const possible = new Map(); // interface → its channels, which do not change while they are looked at
+
+async function load() {
+  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", survey: "wifi/survey", hosts: "hosts"});
+  const radios = base.radios.value?.radios ?? [], ssids = base.ssids.value?.ssids ?? [];
+  const serving = ssids.filter(ssid => ssid.enabled && ssid.active && ssid.network !== "uplink");
+  const each = (list, key, path) => getAll(Object.fromEntries(list.map(one => [one[key], path + one[key]])));
+  const [stations, settings, channels] = await Promise.all([each(serving, "interface", "wifi/stations/"),
+    each(radios, "radio", "wifi/radios/"), each(radios.filter(radio => !possible.has(radio.interface)), "interface", "wifi/channels/")]);
+  for (const [wlan, {value}] of Object.entries(channels)) if (value) possible.set(wlan, value.channels);
+  const sides = radios.map(({radio}) => [radio, settings[radio].value?.user_interface[`Device.WiFi.Radio.${radio}`]?.ExtensionChannel]);
+  return {...base, serving, stations, settings,
+    networks: networksOf(radios, ssids, Object.fromEntries(sides), base.survey.value?.networks ?? [])};
+}
+
+const channelsOf = radio => possible.get(radio.interface) ?? [];
+const channel = ({channel: number, auto_channel: auto}) => [String(number), auto && quiet(" automatic"), isRadar(number) && quiet(" DFS")];
+
+const radioTable = (radios, settings) => table("Radios", [
+  ["Radio", radio => bandName(radio.band)],
+  ["State", radio => radio.status === "Up" ? state("On the air", "good") : radio.enabled ? upDown(radio.status) : onOff(false)],
+  ["Channel", channel, "count"],
+  ["Width", radio => figure(radio.bandwidth_mhz, "MHz"), "count"],
+  ["Standards", radio => radio.standards],
+  ["Clients", radio => radio.clients, "count"],
+  ["Change", radio => settings[radio.radio].value && button("Change", () =>
+    editRadio(radio, settings[radio.radio].value, channelsOf(radio), refresh), `radio ${bandName(radio.band)}`), "act"],
+], radios, radio => radio.radio, "This gateway has no radio.");
+
+const changeSsid = async ssid => editSsid(ssid, await get(`wifi/ssids/${ssid.number}`), refresh);
+
+function ssidTable(label, ssids, radios) {
+  const band = ssid => bandName(radios.find(({radio}) => radio === ssid.radio)?.band);
+  return table(label, [
+    ["Name", ssid => name(ssid.ssid, ssid.ssid_hex)],
+    ["Radio", band],
+    ["For", ssid => ssid.network],
+    ["State", ssid => ssid.enabled && !ssid.active ? state("Not on the air", "bad") : onOff(ssid.enabled)],
+    ["BSSID", ssid => ssid.bssid],
+    ["Change", ssid => ssid.network !== "uplink" && button("Change", () => changeSsid(ssid).catch(error => say(error.message)),
+      `network ${ssid.number}, ${ssid.ssid}`), "act"],
+  ], ssids, ssid => ssid.number, "None is on.");
+}
+
+function networkTables(ssids, radios) {
+  const [on, off] = [true, false].map(enabled => ssids.filter(ssid => ssid.enabled === enabled));
+  return [ssidTable("Networks that are on", on, radios), off.length > 0 && el("details",
+    el("summary", `${off.length} that are off`), ssidTable("Networks that are off", off, radios))];
+}
+
+function swatch(network) {
+  const mark = el("span.swatch");
+  mark.style.background = networkColour(network);
+  return [mark, network.names.map((one, index) => [index > 0 && ", ", name(one.ssid, one.ssid_hex)])];
+}
+
+const taken = ({channels, sure}) => `${[...new Set([channels[0], channels.at(-1)])].join(channels.length > 2 ? " to " : " + ")}${sure ? "" : " perhaps"}`;
+
+const AROUND = [
+  ["Network", swatch],
+  ["Signal", network => network.own ? el("span.own", "own") : figure(network.rssi_dbm, "dBm"), "count"],
+  ["Channel", channel, "count"],
+  ["Takes", network => taken(network.span)],
+  ["Width", network => figure(network.bandwidth_mhz, "MHz"), "count"],
+  ["Security", network => network.security === "NONE" ? "open" : network.security]];
+
+const inBand = (data, radio) => data.networks.filter(network => network.span.band === radio.band);
+
+function spectrum(radio, data) {
+  const band = bandName(radio.band), shown = inBand(data, radio), title = `Channels in ${band}`, label = `Scan in ${band}`;
+  return section(title, jobButton(isRunning(label) ? "Scanning…" : "Scan", label, "wifi/scans", {interface: radio.interface},
+    ({networks}) => `${networks.length} networks found.`),
+  progress(label),
+  el("div.chart", {"data-own": "", "data-key": radio.band}),
+  note(shown.some(network => network.own) ? "Dashed: own networks, at full height as their signal is not measured."
+    : "No own network is on the air in this band.", shown.every(network => network.own) && " Scan to see the networks around."),
+  table(title, AROUND, shown, network => network.id, "No network is known here."));
+}
+
+function stationTable({serving, stations, hosts}) {
+  const failed = Object.values(stations).find(answer => answer.error);
+  if (failed) return answered(failed);
+  const known = new Map(hostsOf(hosts.value ?? {}).map(host => [host.PhysAddress?.toUpperCase(), host]));
+  const all = serving.flatMap(ssid => stations[ssid.interface].value.stations.map(station =>
+    ({...station, ssid, host: known.get(station.mac.toUpperCase())}))).sort((a, b) => b.rssi_dbm - a.rssi_dbm);
+  return table("Stations", [
+    ["Station", ({host}) => name(host?.HostName, host?.HostName_hex, "unknown")],
+    ["MAC address", station => station.mac],
+    ["Network", ({ssid}) => [name(ssid.ssid, ssid.ssid_hex), quiet(" ", ssid.interface)]],
+    // -90 dBm and less is no signal, -40 and more is a full one.
+    ["Signal", ({rssi_dbm: dbm}) => el("span.signal", bar("Signal", dbm + 90, 50, `${dbm} dBm`, dbm < -75), " ", figure(dbm, "dBm"))],
+  ], all, station => station.ssid.interface + station.mac, "No station is connected.");
+}
+
+export default {
+  load,
+  render: data => [
+    section("Radios", null, answered(data.radios, ({radios}) => radioTable(radios, data.settings), NONE)),
+    section("Networks", null, answered(data.ssids, ({ssids}) => networkTables(ssids, data.radios.value?.radios ?? []), NONE)),
+    ...(data.radios.value?.radios ?? []).map(radio => spectrum(radio, data)),
+    section("Stations", null, stationTable(data)),
+    section("WPS", jobButton("Start push-button", "WPS", "wifi/wps", {}, result => `${result.status}.`), progress("WPS"),
+      note(isRunning("WPS") ? "Now press the WPS button of the device that is to join."
+        : "Lets a device join without typing the pass phrase.")),
+  ],
+  shown(data) {
+    for (const radio of data.radios.value?.radios ?? []) {
+      const place = document.querySelector(`.chart[data-key="${radio.band}"]`);
+      drawSpectrum(place, radio.band, channelsOf(radio).map(one => one.channel), inBand(data, radio))
+        .catch(error => place.replaceChildren(error.message));
+    }
+  },
+};
