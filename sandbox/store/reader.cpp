@@ -80,7 +80,6 @@ class Reader {
                 visit(Scope::Branch, *key + kFirstBelow, keyEnd(*key), missing);
             }
         }
-        refuseUnknownNames(*key, object->kind);
     }
 
   private:
@@ -130,23 +129,6 @@ class Reader {
         return missing;
     }
 
-    void refuseUnknownNames(std::string_view key, ObjectKind kind) const {
-        for (const std::string &name : missingNames()) {
-            if (!mayHave(key, kind, name)) {
-                throw Refusal(CALTOFAL_UNKNOWN_PARAMETER, path_ + ": no parameter " + quotedShort(name));
-            }
-        }
-    }
-
-    // A table without instances still knows what they would have.
-    bool mayHave(std::string_view key, ObjectKind kind, std::string_view name) const {
-        const Templates templates(database_, key);
-        if (!request_.leaf || !request_.filters.empty()) {
-            return templates.declareBelow(key, name);
-        }
-        return kind == ObjectKind::Table && templates.declareOwn(instanceKey(key, 1), name);
-    }
-
     std::vector<std::string> matches(const std::string &key, const ObjectRow &object) const {
         std::vector<std::string> keys;
         if (object.kind == ObjectKind::Table) {
@@ -164,7 +146,6 @@ class Reader {
             keys.push_back(key);
         }
         if (keys.empty()) {
-            refuseUnknownFilters(key, object);
             throw Refusal(CALTOFAL_NO_MATCH, path_ + ": no instance has " + filterText());
         }
         std::sort(keys.begin(), keys.end());
@@ -176,21 +157,6 @@ class Reader {
             const std::optional<ParameterRow> row = findParameter(database_, object, filter.first);
             return row && row->running == filter.second;
         });
-    }
-
-    void refuseUnknownFilters(const std::string &key, const ObjectRow &object) const {
-        const bool table = object.kind == ObjectKind::Table;
-        if (table && !Statement(database_, "SELECT 1 FROM object WHERE parent = ?1", object.id).step()) {
-            return;
-        }
-        for (const auto &[name, value] : request_.filters) {
-            Statement instances(database_, "SELECT 1 FROM parameter WHERE container = ?1 AND name = ?2", object.id,
-                                name);
-            const bool known = table ? instances.step() : findParameter(database_, object.id, name).has_value();
-            if (!known && !(table && Templates(database_, key).declareOwn(instanceKey(key, 1), name))) {
-                throw Refusal(CALTOFAL_UNKNOWN_PARAMETER, path_ + ": no parameter " + quotedShort(name));
-            }
-        }
     }
 
     std::string filterText() const {

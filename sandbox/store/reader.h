@@ -22,7 +22,8 @@ struct GetRequest {
 // Takes one parameter of the answer; parameters of one object come in a row.
 using Emit = std::function<void(std::string_view objectKey, std::string_view name, std::string_view value)>;
 
-// Answers the request in model order, within the caller's transaction. Throws a Refusal.
+// Answers the request in model order, within the caller's transaction. Names that the objects lack are left out. Throws
+// a Refusal for an absent object and for filters that no instance fulfils.
 void readParameters(Database &database, const GetRequest &request, const Emit &emit);
 
 // The object that a request names, for messages.

@@ -20,11 +20,6 @@ std::string_view fixedPrefix(std::string_view key) {
     return key.substr(0, length);
 }
 
-bool declares(const TemplateObject &object, std::string_view name) {
-    return std::any_of(object.parameters.begin(), object.parameters.end(),
-                       [name](const TemplateParameter &parameter) { return parameter.name == name; });
-}
-
 } // namespace
 
 Templates::Templates(Database &database, std::string_view key) {
@@ -62,19 +57,6 @@ std::vector<TemplateMatch> Templates::matching(std::string_view key) const {
     // "{" sorts behind every digit and letter, so that going backwards meets "{i}" before an instance number.
     std::reverse(matches.begin(), matches.end());
     return matches;
-}
-
-bool Templates::declareOwn(std::string_view key, std::string_view name) const {
-    const std::vector<TemplateMatch> matches = matching(key);
-    return std::any_of(matches.begin(), matches.end(), [name](const TemplateMatch &match) {
-        return match.remainder.empty() && declares(*match.object, name);
-    });
-}
-
-bool Templates::declareBelow(std::string_view key, std::string_view name) const {
-    const std::vector<TemplateMatch> matches = matching(key);
-    return std::any_of(matches.begin(), matches.end(),
-                       [name](const TemplateMatch &match) { return declares(*match.object, name); });
 }
 
 } // namespace sandbox

@@ -38,10 +38,6 @@ class Templates {
     // The templates of the object `key` and of everything below it, the more general ones first. All for an empty key.
     std::vector<TemplateMatch> matching(std::string_view key) const;
 
-    // Whether the object itself has, or anything below it may have, a parameter of that name.
-    bool declareOwn(std::string_view key, std::string_view name) const;
-    bool declareBelow(std::string_view key, std::string_view name) const;
-
     // By pattern.
     const std::map<std::string, TemplateObject, std::less<>> &all() const { return objects_; }
 

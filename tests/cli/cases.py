@@ -58,7 +58,8 @@ CONVERSIONS = [
 # Gateway, command (a list where a word holds blanks), exit code, the layer's code, what standard error says.
 FAILURES = [
     ("home", "get Device.Nope", 10, -202, "Device.Nope: no such object"),
-    ("home", "get Device.WiFi.Radio.1 Channel Foo", 10, -203, 'Device.WiFi.Radio.1: no parameter "Foo"'),
+    ("home", "get Device.WiFi.Radio.1 Channel Foo", 10, None,
+     "Device.WiFi.Radio.1.Foo: no object here has that parameter"),
     ("home", "get Device.WiFi.Radio.1.Foo", 10, -202, "Device.WiFi.Radio.1.Foo: no such object"),
     ("home", "get Device.Hosts.Host --where HostName=zzz", 10, -208,
      'Device.Hosts.Host: no instance has HostName = "zzz"'),

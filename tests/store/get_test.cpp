@@ -68,6 +68,11 @@ TEST_F(Get, AnswersObjectsAndNames) {
          "Device.Net.Host.7.AddressNumberOfEntries=0", "Device.Net.Host.7.Stats.Bytes=0"});
     get("named default", kDefaultGet, "Device.Info", {"Name"}, {"Device.Info.Name=none"});
     get("empty table", kPlainGet, "Device.Net.Zone.", {}, {});
+    get("a name that the object lacks is left out", kPlainGet, "Device.Info.", {"Nope", "Name"},
+        {"Device.Info.Name=lab"});
+    get("also when it is the only one", kLeafGet, "Device.Net.", {"IP"}, {});
+    get("and when some instances have it", kPlainGet, "Device.Net.Host.", {"IP"},
+        {"Device.Net.Host.2.Address.1.IP=192.0.2.2", "Device.Net.Host.2.Address.2.IP=2001:db8::2"});
     get("name that only the table's template knows", kPlainGet, "Device.Net.Zone.", {"Label"}, {});
     get("escapes are the file's, not the value's", kPlainGet, "Device.Info", {"Text"},
         {"Device.Info.Text=two\nlines, a \\ and \xFF "});
@@ -122,18 +127,14 @@ TEST_F(Get, RefusesAndLeavesTheMessageAsItWas) {
     refused(CALTOFAL_ABSENT_OBJECT, Message::get(4, "Device.Info%s\n."), "\"Device.Info%s\\n\": no such object");
     refused(CALTOFAL_ABSENT_OBJECT, Message::get(4, longPath),
             longPath.substr(0, 255) + "...: a path this long names no object");
-    refused(CALTOFAL_UNKNOWN_PARAMETER, Message::get(4, "Device.Info.", {"Name", "Nope"}),
-            "Device.Info: no parameter \"Nope\"");
-    refused(CALTOFAL_UNKNOWN_PARAMETER, Message::get(kLeafGet, "Device.Net.", {"IP"}),
-            "Device.Net: no parameter \"IP\"");
     refused(CALTOFAL_NO_MATCH, Message::filter("Device.Net.Host.", {{"Name", "nobody"}}),
             "Device.Net.Host: no instance has Name = \"nobody\"");
     refused(CALTOFAL_NO_MATCH, Message::filter("Device.Net.Host.", {{"Name", "two"}, {"Level", "0"}}),
             "Device.Net.Host: no instance has Name = \"two\" and Level = \"0\"");
     refused(CALTOFAL_NO_MATCH, Message::filter("Device.Net.Zone.", {{"Label", "x"}}),
             "Device.Net.Zone: no instance has Label = \"x\"");
-    refused(CALTOFAL_UNKNOWN_PARAMETER, Message::filter("Device.Net.Host.", {{"Nope", "x"}}),
-            "Device.Net.Host: no parameter \"Nope\"");
+    refused(CALTOFAL_NO_MATCH, Message::filter("Device.Net.Host.", {{"Nope", "x"}}),
+            "Device.Net.Host: no instance has Nope = \"x\"");
     refused(CALTOFAL_BAD_MESSAGE, Message::get(4, ""), "an object has an empty path");
     refused(CALTOFAL_BAD_MESSAGE, Message::get(4, "Device.Info.", {""}), "Device.Info: a parameter has no name");
     refused(CALTOFAL_BAD_MESSAGE, Message::get(SOPT_OBJATTR, "Device.Info."),
@@ -149,7 +150,7 @@ TEST_F(Get, RefusesAndLeavesTheMessageAsItWas) {
     EXPECT_EQ(cal_getValue(nullptr), CALTOFAL_BAD_MESSAGE);
 
     const std::string log = readFile(location().logFile());
-    EXPECT_NE(log.find(" get -203 unknown-parameter Device.Info: no parameter \"Nope\"\n"), std::string::npos) << log;
+    EXPECT_NE(log.find(" get -202 absent-object Device.Nope: no such object\n"), std::string::npos) << log;
     EXPECT_EQ(std::count(log.begin(), log.end(), '\n'), static_cast<long>(cases.size()) + 1);
 }
 

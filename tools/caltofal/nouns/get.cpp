@@ -101,11 +101,16 @@ std::vector<Object> getObjects(const std::vector<Object> &objects, Reading readi
         if (failure.exit() != Exit::Absent || other.empty()) {
             throw;
         }
+        std::vector<Object> found;
         try {
-            return get(other, reading);
+            found = get(other, reading);
         } catch (const Failure &) {
             throw failure;
         }
+        if (found.empty()) {
+            throw;
+        }
+        return found;
     }
 }
 
