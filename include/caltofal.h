@@ -8,10 +8,13 @@
  *  1. Text is NUL-terminated bytes. Buffer widths are given in bytes and include the terminator. A width in
  *     a comment is the room that the caller REQUIRES to provide.
  *  2. Records and buffers belong to the caller for the whole call. Nothing that a function returns by pointer
- *     is to be freed, but for SiteSurveyList.entries and the header of faltocal_createMessage(). Texts that
+ *     is to be freed, except SiteSurveyList.entries and the header of faltocal_createMessage(). Texts that
  *     converters return are the caller's own text or constants.
  *  3. Records are zero-filled by the caller before a call: several fields are copied without a terminator.
- *     A field whose parameter is absent keeps what it held.
+ *     A field whose parameter is absent from the answer keeps what it held. That is for a layer that leaves
+ *     out what an object lacks. One that refuses a request for an absent parameter fails the whole request of
+ *     a function that asks by name (such as ZintuGet_LANv4Info(), zintu_GetWanIfName(), the Wi-Fi snapshots and
+ *     counts, the endpoint): no field of that request is filled.
  *  4. Pointers are REQUIRED to be non-null where the comment does not give a result for null.
  *  5. Results: the network getters answer 0 for success and a negative code for failure: -1, or the
  *     configuration layer's own code (see CaltofalLayerCode). Wi-Fi requests and GetCurrentChannel() answer 1
@@ -20,8 +23,10 @@
  *     A refused message is a line on standard error too.
  *  7. Threads: every function may be called from several threads at once, each with its own records and
  *     messages. The library keeps no state but capi_mutex and the two log settings, and holds capi_mutex
- *     around each single call into the configuration layer only. Functions that leave work files behind say
- *     so: hosts let calls that share a file take turns, those of several processes too.
+ *     around each single call into the configuration layer only. Functions that leave a work file
+ *     say so: calls that share a file must not run at the same time, in one process or in several.
+ *  8. Commands and paths that a function puts together from a caller's text are cut at a width that its comment
+ *     gives, and then used as they are.
  */
 #ifndef CALTOFAL_H
 #define CALTOFAL_H
@@ -179,7 +184,7 @@ static inline const char *caltofal_layerCodeText(int code) {
     }
 }
 
-/** The next object of a message behind `after` (NULL: the first), or NULL at the end. Value objects only. The node
+/** The next object of a message after `after` (NULL: the first), or NULL at the end. Value objects only. The node
  * belongs to the message. */
 static inline ObjectNode *caltofal_nextObject(const MsgHeader *message, const ObjectNode *after) {
     ListLink *next;
@@ -191,7 +196,7 @@ static inline ObjectNode *caltofal_nextObject(const MsgHeader *message, const Ob
                                               : (ObjectNode *)(void *)((char *)next - offsetof(ObjectNode, link));
 }
 
-/** The next parameter of an object behind `after` (NULL: the first), or NULL at the end. The node belongs to the
+/** The next parameter of an object after `after` (NULL: the first), or NULL at the end. The node belongs to the
  * message. */
 static inline ParamNode *caltofal_nextParam(const ObjectNode *object, const ParamNode *after) {
     ListLink *next = after ? after->link.next : object->params.next;
@@ -225,7 +230,7 @@ int faltocal_AddFilter(ObjectNode **node, const char *paramName, const char *val
 int faltocal_finalize(MsgHeader *message);
 
 /** Writes a formatted text of at most 1,023 bytes to "/dev/console", without adding a newline. The console is opened
- * and closed for each call. The result of closing it, or the negative descriptor when it can not be opened. */
+ * and closed for each call. The result of closing it, or the negative descriptor when it cannot be opened. */
 int PRINT_TO_CONSOLE(const char *format, ...) CALTOFAL_PRINTF(1, 2);
 
 /** Hands a finished message to the configuration layer: a get is read, a set is set and applied. 0, the
@@ -270,9 +275,9 @@ int faltocal_send_main_multi_obj_No_variable(MsgHeader *message, char *object, c
 int faltocal_SendMultiObj(uint8_t send, uint32_t listFlags, uint32_t owner, MsgHeader *message, const char *object,
                           const char *mainOper, const char *subOper, int count, ...);
 
-/** Looks in an answer (MsgHeader.objectList; none when it is NULL) for the first parameter named `paramName` (128
- * characters compared) of an object whose name contains `objectPart`, and copies its value into `*out`, char[128], cut
- * to 127 characters and terminated. 0, or -1 with `*out` untouched. */
+/** Looks in an answer of value objects (MsgHeader.objectList; none when it is NULL) for the first parameter named
+ * `paramName` (128 characters compared) of an object whose name contains `objectPart`, and copies its value into
+ * `*out`, char[128], cut to 127 characters and terminated. 0, or -1 with `*out` untouched. */
 int caltofal_paramValue_get(ObjectNode *objectList, const char *objectPart, const char *paramName, char **out);
 
 /** Points `*out` to the value of the object's first parameter named `paramName`; valid until the message is
@@ -282,8 +287,8 @@ int zintu_GetParamFromObjUnit(ObjectNode *object, const char *paramName, const c
 /** Appends "." to a path that is not empty and does not end in one. The buffer needs room for it. */
 void zintu_InsertDotEndofObj(char *path);
 
-/** Held around each single call into the configuration layer. A host that calls the layer itself takes it for
- * that; with it held, a function that asks the layer waits for ever. */
+/** Held around each single call into the configuration layer. A host that calls the layer directly locks it for that
+ * call. A function of this library that asks the layer never returns when its caller holds the lock. */
 extern pthread_mutex_t capi_mutex;
 
 /** Where the message builders' log lines go: bit 0 syslog, bit 1 standard output in colour. Initially 1. The console
@@ -305,14 +310,15 @@ extern uint16_t unfaltocalLogLevel;
 int GetDeviceID(char *identifier);
 
 /** Reads an interface's MAC address from "/opt/lantiq/etc/nextmac.conf" into `macOut`, whole: room for 64 bytes
- * is always enough. The file is made, empty, where it is missing and can be. The first line that contains the name and
- * ">" answers: "xeth0>" for "eth0" too. 0, or -1 with a console trace. */
+ * is always enough. A missing file is made, empty, where that is possible. The first line that contains the name and
+ * ">" answers, "xeth0>" for "eth0" too; name and ">" are cut at 31 characters together, lines are read in pieces of 63.
+ * 0, or -1 with a console trace. */
 int zintu_scapi_getMacFromFile(const char *interfaceName, char *macOut);
 
-/** 0 for six pairs of hexadecimal digits with colons, -1 otherwise. */
+/** 0 for six pairs of hexadecimal digits with colons, -1 otherwise and for NULL. */
 int zintu_isValidMacAddress(const char *mac);
 
-/** 0 for a dotted-decimal IPv4 address of four parts, -1 otherwise. */
+/** 0 for a dotted-decimal IPv4 address of four parts, -1 otherwise and for NULL. */
 int zintu_isValidIPv4Address(const char *address);
 
 /** Writes the decimal digits of a positive value into `out`, char[11]; zero and negative values give "". Returns 0. */
@@ -327,11 +333,11 @@ char *strupr(char *text);
 /** Reverses a text in place. */
 void reverse_string(char *text);
 
-/** The first character within `text` that is no white space; a newline counts as content. */
+/** The first character within `text` that is not white space; a newline counts as content. */
 char *trim_start_space(char *text);
 
 /** Turns "<tag>payload</tag>" into "payload" in place (at most 127 characters) and returns `text`. The text of
- * `openTag` is not compared, only its length. A text without "</" behind the opening tag stays as it is. */
+ * `openTag` is not compared, only its length. A text without "</" after the opening tag stays as it is. */
 char *remove_rss_tag(char *text, const char *openTag);
 
 /** Runs a shell command and puts its first output line (at most 127 characters, one trailing white-space
@@ -347,7 +353,7 @@ char *get_from_shell(const char *command, char *output);
  */
 
 /** Default WAN summary. ZintuGet_DefGw(), ZintuGet_BrWanInfo(), ZintuGet_WanIPv6(), ZintuGet_DefWanInfo() and
- * ZintuGet_AtmInfo() fill parts of it. Reserved fields are written by nothing but values that run on into them. */
+ * ZintuGet_AtmInfo() fill parts of it. Reserved fields are only written by values that run on into them. */
 typedef struct ZintuWanInfo {
     char sStatus[16];            /**< "Up" or "Down" */
     char sWanIpType[16];         /**< "dynamic", "static", "pppoe", "pppoa", "pptp", "l2tp" */
@@ -374,7 +380,7 @@ typedef struct ZintuWanInfo {
     char sPppInterface[256];     /**< PPP interface object */
     int32_t bDnsAuto;            /**< 1 DNS servers obtained automatically, 0 static */
     char sDNS1[16];              /**< dotted IPv4 address */
-    char sDNS2[16];              /**< dotted IPv4 address */
+    char sDNS2[16];              /**< likewise; of a DHCP list of three or more, cut text (ZintuGet_WanDns()) */
     char sReserved27[784];       /**< reserved */
     int32_t nAtmVpi;             /**< virtual path of the ATM link */
     int32_t nAtmVci;             /**< virtual channel of the ATM link */
@@ -400,10 +406,11 @@ typedef struct ZintuDslLineInfo {
     int32_t nDownstreamMaxBitRate;  /**< kbit/s */
     int32_t nUpstreamNoiseMargin;   /**< 0.1 dB */
     int32_t nDownstreamNoiseMargin; /**< 0.1 dB */
-    char sLATNds[32];               /**< downstream line attenuation per band, comma-separated, 0.1 dB */
-    char sLATNus[32];               /**< upstream line attenuation per band, comma-separated, 0.1 dB */
-    int32_t nXTURCRCErrors;         /**< CRC errors seen by the modem */
-    int32_t nXTUCCRCErrors;         /**< CRC errors seen by the exchange */
+    char sLATNds[32]; /**< downstream line attenuation per band, comma-separated: plain numbers are 0.1 dB, those with
+                           a decimal point dB */
+    char sLATNus[32]; /**< upstream, likewise */
+    int32_t nXTURCRCErrors; /**< CRC errors seen by the modem */
+    int32_t nXTUCCRCErrors; /**< CRC errors seen by the exchange */
 } ZintuDslLineInfo;
 
 /** LAN page, IPv4. */
@@ -434,23 +441,30 @@ typedef struct LANv6Info {
     int32_t nManualPrefixLength; /**< bits; 64 whenever a manual prefix was read */
 } LANv6Info;
 
+/** Kind of a WAN connection: ZintuMultiWanInfo.nWan1Type, nWan2Type. */
+enum CaltofalWanKind {
+    CALTOFAL_WAN_ETHERNET = 0, /**< interface "w900", or a connection mode that begins with "ETH" */
+    CALTOFAL_WAN_OTHER = 1,    /**< interface "w901", and everything else: DSL, or not known */
+    CALTOFAL_WAN_TETHERED = 2  /**< interface "w902", or a connection mode that begins with "TETHER" */
+};
+
 /** Multi-WAN page. */
 typedef struct ZintuMultiWanInfo {
     int32_t nEnabled;         /**< 1, 0, or -1 when the device does not say */
     int32_t nFailOver;        /**< 1 fail-over, 0 load balancing */
-    int32_t nWan1Type;        /**< 0 Ethernet or "w900", 2 tethered or "w902", 1 everything else */
-    int32_t nWan2Type;        /**< as nWan1Type */
+    int32_t nWan1Type;        /**< CaltofalWanKind of the first WAN */
+    int32_t nWan2Type;        /**< of the second WAN */
     char sWan1Interface[128]; /**< UCI section or interface of the first WAN */
     char sWan2Interface[128]; /**< of the second WAN */
 } ZintuMultiWanInfo;
 
-/** The operation mode number of "Device.X_ZINTU_CurrentNetwork"; -1 when it can not be told. Bit value 4 marks a
+/** The operation mode number of "Device.X_ZINTU_CurrentNetwork"; -1 when it cannot be told. Bit value 4 marks a
  * router or mesh master. */
 int32_t ZintuGet_OperMode(void);
 
 /** Fills sWanIpInterface, sWanIpType, sWanLinkType, sIpv4Mode, sPppStaticAddress, sDNS1 and sDNS2 from
  * "Device.X_ZINTU_CurrentNetwork". Each value is copied at its own length without a terminator and may run on into
- * the fields behind, never past the record. 0, or -1 when the request fails. */
+ * the fields after it, never past the record. 0, or -1 when the request fails. */
 int32_t ZintuGet_DefGw(ZintuWanInfo *info);
 
 /** The UCI section of the first WAN connection whose "ConnMode" begins with `connMode`, into `uciSection`,
@@ -458,7 +472,8 @@ int32_t ZintuGet_DefGw(ZintuWanInfo *info);
 int32_t ZintuGet_UciSectionByConnMode(const char *connMode, char *uciSection);
 
 /** The UCI section of the WAN connection that carries the default route, into `uciSection`, char[128]: at most 127
- * characters, the rest zeroed up to there. 0, or -1. */
+ * characters, the rest zeroed up to there. The path of its IP interface and that interface's name are cut at 127
+ * characters. 0, or -1. */
 int32_t ZintuGet_UciSectionOfDefGw(char *uciSection);
 
 /** The first "LowerLayers" below `object`, into `lowerLayers`, char[128]: 128 characters and more leave no
@@ -476,10 +491,10 @@ int32_t ZintuGet_LineInfo(ZintuDslLineInfo *info);
  * DEF_DSL_MODE names them. 0, or -1 when the request fails. */
 int32_t ZintuGet_DslMode(int32_t modes[10]);
 
-/** The IPv4 DNS servers in use on `ipInterface` (with or without a final dot): those of its DHCPv4 client, else of
- * the DNS client's server table. `dns1`, `dns2`: char[16]. From a DHCP list `dns2` gets all that follows the first
- * comma, cut to 15 characters. 0 also when there are none (untouched); -1 for null or empty arguments or when the
- * server table can not be read. */
+/** The IPv4 DNS servers in use on `ipInterface` (with or without a final dot, cut at 255 characters): those of its
+ * DHCPv4 client, else of the DNS client's server table. `dns1`, `dns2`: char[16]. From a DHCP list `dns2` gets all that
+ * follows the first comma, cut to 15 characters: of three servers or more that is text, not an address. 0 also when
+ * there are none (untouched); -1 for null or empty arguments or when the server table cannot be read. */
 int32_t ZintuGet_WanDns(const char *ipInterface, char *dns1, char *dns2);
 
 /** The statically configured IPv4 DNS servers of `ipInterface`; `*dnsAuto` is 1 when there are none, else 0.
@@ -487,18 +502,28 @@ int32_t ZintuGet_WanDns(const char *ipInterface, char *dns1, char *dns2);
  * ZintuGet_WanDns(). */
 int32_t ZintuGet_WanStaticDns(const char *ipInterface, int32_t *dnsAuto, char *dns1, char *dns2);
 
-/** Fills the summary for a device in bridge mode, whose WAN is "Device.IP.Interface.1.". `flags`: bit value 2 marks
- * a Wi-Fi WAN, bit value 4 refuses. nWanIpIfIndex is left alone. -1 with nothing written when refused, otherwise
- * the code of the forwarding request (0 success). */
+/** `flags` of ZintuGet_BrWanInfo(); other bits do not count. */
+enum CaltofalBridgedWanFlag {
+    CALTOFAL_BRIDGED_WAN_WIFI = 2,  /**< the WAN is a Wi-Fi link, not an Ethernet one */
+    CALTOFAL_BRIDGED_WAN_REFUSE = 4 /**< nothing is to be filled */
+};
+
+/** Fills the summary for a device in bridge mode, whose WAN is "Device.IP.Interface.1.". Fixed values: sOperMode
+ * "bridge", sWanIpType and sIpv4Mode "dynamic", sWanLinkType "wifi" or "ethernet" by `flags` (CaltofalBridgedWanFlag),
+ * bVlanEnable and nVlanID 0, bDnsAuto 1, and of the IPv6 fields bIpv6Enable 0 and sIpv6Type "dhcpv6", whatever the
+ * device does. sStatus is "Up" for an address whose description contains "DHCP"; without one it is "Down", and
+ * sDescription, sIPAddress and sSubnetMask are "0.0.0.0". nWanIpIfIndex is left alone. -1 with nothing written for
+ * CALTOFAL_BRIDGED_WAN_REFUSE, otherwise the code of the forwarding request (0 success). */
 int32_t ZintuGet_BrWanInfo(uint32_t flags, ZintuWanInfo *info);
 
-/** Fills bIpv6Enable, sIpv6Type, sIpv6Address and sIpv6NextHop; needs sWanIpInterface and nWanIpIfIndex. The code
- * of the forwarding request. The message of that request is not released: each call leaves one behind. */
+/** Fills bIpv6Enable, sIpv6Type, sIpv6Address and sIpv6NextHop; needs sWanIpInterface and nWanIpIfIndex. The path of
+ * the address object is cut at 255 characters. The code of the forwarding request. The message of that request is not
+ * released: each call leaves one. */
 int32_t ZintuGet_WanIPv6(ZintuWanInfo *info);
 
-/** Fills the whole summary of the WAN connection that carries the default route, but for the ATM fields. -1 when no
- * default WAN is known; otherwise the code of the forwarding request, or of the VLAN request where there is one.
- * Leaves the message of ZintuGet_WanIPv6() behind. */
+/** Fills the whole summary of the WAN connection that carries the default route, except the ATM fields. Paths are cut
+ * at 255 characters. -1 when no default WAN is known; otherwise the code of the forwarding request, or of the VLAN
+ * request where there is one. Leaves the message of ZintuGet_WanIPv6(). */
 int32_t ZintuGet_DefWanInfo(ZintuWanInfo *info);
 
 /** 1 when IPv6 prefix delegation is on for the current WAN, 0 when not, -1 when the request fails. */
@@ -507,12 +532,11 @@ int32_t ZintuGet_IPv6PD(void);
 /** Fills nAtmVpi, nAtmVci and sAtmQoSClass from "Device.ATM.Link.1.". 0, or -1 when a request fails. */
 int32_t ZintuGet_AtmInfo(ZintuWanInfo *info);
 
-/** Fills the LAN page's IPv4 record. -1 when a request fails, a failed second one with the record filled but for the
- * server-wide switch; any other code of the second request is returned and its answer read: a server object without
- * an "Enable" value counts as off. */
+/** Fills the LAN page's IPv4 record. -1 when a request fails, with the record as it was. Any other code of the second
+ * request is returned and its answer read all the same: a server object without an "Enable" value counts as off. */
 int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info);
 
-/** Fills the LAN page's IPv6 record. Where no address is told, it is the manual prefix with a "1" behind it. 0, or -1
+/** Fills the LAN page's IPv6 record. Without an address in the answer it is the manual prefix followed by "1". 0, or -1
  * when a request fails. */
 int32_t ZintuGet_LANv6Info(LANv6Info *pxLANv6Info);
 
@@ -529,13 +553,13 @@ int32_t zintu_GetWanIfName(char *ifName);
 int32_t zintu_GetValueFromDBInfo(const char *object, const char *filterParam, const char *filterValue,
                                  const char *wantedParam, char *outObjectName, char *outValue);
 
-/** 1 when the multi-bridge is enabled and its IPTV bridge has a member port, 0 when not, -1 when it can not be told. */
+/** 1 when the multi-bridge is enabled and its IPTV bridge has a member port, 0 when not, -1 when it cannot be told. */
 int32_t Zintu_isEnabledIptvStb(void);
 
-/** An IPv4 address in network byte order; 0 for a null text, 0xFFFFFFFF for one that is no address. */
+/** An IPv4 address in network byte order; 0 for a null text, 0xFFFFFFFF for one that is not an address. */
 uint32_t IPConvertTouint(const char *text);
 
-/** 0 for an IPv6 address, -1 otherwise. */
+/** 0 for an IPv6 address, -1 otherwise and for NULL. */
 int32_t validationCheck_IPv6Addr(const char *text);
 
 /** Names of the DSL modes 1 to 10. */
@@ -562,7 +586,8 @@ int ZINTU_meshgrove_set_enable_value(uint8_t enable);
 char *ZINTU_meshgrove_get_from_shell(const char *command, char *output);
 
 /** Replaces a satellite's MAC address by its IP address, in place: `mac` is char[128]. Cleared when there is none.
- * The text reaches the shell unescaped: check it with zintu_isValidMacAddress() first. Returns `mac`. */
+ * The command is cut at 511 characters. The text reaches the shell unescaped: check it with zintu_isValidMacAddress()
+ * first. Returns `mac`. */
 char *ZINTU_meshgrove_get_IP_from_MAC(char *mac);
 
 /** Tells the mesh daemon to push the settings to its satellites and waits 5 seconds; does nothing when the mesh is
@@ -606,7 +631,7 @@ extern const PairRow Interface_DevToPhy_Table[4];
 /** Band: "2.4GHz" is "2.4g". */
 extern const PairRow Interface_FapiToUi_Table[2];
 
-/** Intervals at which a host asks again while a 5 GHz scan goes on: 25, then 3 each. The unit is the host's, the
+/** Intervals at which a host asks again while a 5 GHz scan runs: 25, then 3 each. The host chooses the unit; the
  * command-line tool takes them as seconds. No function reads them. */
 extern const uint8_t SCAN_5G_RetryTime[40];
 
@@ -692,8 +717,10 @@ int ConvTransmitPower(int percent);
 /** The channel number of a centre frequency of a Wi-Fi band; 0 above 45,000 MHz outside 58,320 to 64,800. */
 int ConvFreqChannel(int frequencyMHz);
 
-/** 1 for twelve hexadecimal digits, plain or in pairs separated by ':' or '-', else 0. What follows twelve plain digits
- * and a separator is not looked at: before a text goes to a shell use zintu_isValidMacAddress(). */
+/** 1 for twelve hexadecimal digits, plain or in pairs separated by ':' or '-', else 0. It accepts some other texts too:
+ * anything may follow twelve plain digits and a separator ("001122334455:; reboot"), and before the second digit other
+ * characters are passed over where a separator follows them ("x0:01122334455"). Before a text goes to a shell use
+ * zintu_isValidMacAddress(). */
 int isValidMacAddress(const char *text);
 
 /** Compares `n` positions ignoring the case of ASCII letters: -1, 0 or 1. Positions where both texts have ended
@@ -729,7 +756,7 @@ typedef struct WifiChannelEntry {
 /** The channels that a radio may use, in the tool's order. */
 typedef struct WifiChannelList {
     uint32_t count;                /**< entries in use */
-    WifiChannelEntry entries[100]; /**< zero behind those in use */
+    WifiChannelEntry entries[100]; /**< zero after those in use */
 } WifiChannelList;
 
 /** One associated station. */
@@ -742,7 +769,7 @@ typedef struct WifiStaEntry {
 /** The stations of an access point, in the driver's order. */
 typedef struct WifiStaList {
     uint32_t count;            /**< entries in use */
-    WifiStaEntry entries[128]; /**< zero behind those in use */
+    WifiStaEntry entries[128]; /**< zero after those in use */
 } WifiStaList;
 
 /** One entry of an SSID's MAC filter table. */
@@ -791,16 +818,18 @@ typedef struct SiteSurveyList {
     SiteSurveyEntry *entries; /**< allocated by GetSiteSurveyList(), released by the caller with free() */
 } SiteSurveyList;
 
-/** The number of an interface's radio, from `iw dev IF info`; -1 when it can not be told. */
+/** The number of an interface's radio, from `iw dev IF info`; -1 when it cannot be told. The command is cut at 127
+ * characters. */
 int GetPhyNumber(const char *ifname);
 
 /** The channels that `iw phy` lists for the interface; radar channels only when radio `radioIndex` has 802.11h on,
  * channels above 2,484 MHz only for a radio other than 1. The list is zeroed first. What
- * the tool lists beyond 100 is dropped. The entry count, 0 on failure. The message of its request is not released. */
+ * the tool lists beyond 100 is dropped. Commands are cut at 127 characters. The entry count, 0 on failure. The message
+ * of its request is not released. */
 int GetChannelList(const char *ifname, int radioIndex, WifiChannelList *list);
 
-/** The channel in use, from `iwlist IF channel`. 1 when the tool ran (`*channel` untouched when it named none), 0
- * otherwise. */
+/** The channel in use, from `iwlist IF channel`, a command that is cut at 127 characters. 1 when the tool ran
+ * (`*channel` untouched when it named none), 0 otherwise. */
 int GetCurrentChannel(const char *ifname, int ignored, int *channel);
 
 /** The side of the secondary channel at 2.4 GHz: "AboveControlChannel", "BelowControlChannel", or `fallback` where
@@ -812,7 +841,7 @@ int GetDFSChannel(void);
 
 /** The stations of an access point, from the driver's "PeerFlowStatus" file; with a valid `macFilter` only that
  * one. The list is zeroed first. Those beyond 128 are dropped. The station count, 0 on failure. Leaves the work file
- * "/tmp/wlan_wave/sta_info_IF" behind. */
+ * "/tmp/wlan_wave/sta_info_IF". Its path is cut at 127 characters, the command at 199. */
 int GetStaInfo(const char *ifname, const char *macFilter, WifiStaList *list);
 
 /** The number of clients of the enabled and active SSIDs of radio 1 or 2; what was counted before a failed request
@@ -820,18 +849,27 @@ int GetStaInfo(const char *ifname, const char *macFilter, WifiStaList *list);
 int GetAssociatedDeviceNumberOfEntries(int radioIndex);
 
 /** Appends the MAC filter entry that `objectNode` holds, when it has both "name" and "macAddress"; at most 32
- * entries fit. `prefix` is the filter table's path without the final dot. Always -1: judge by the count. */
+ * entries fit. `prefix` is the filter table's path without the final dot. Of the object's path 255 characters are
+ * read. Always -1: judge by the count. */
 int GetMacAccessList(ObjectNode *objectNode, const char *prefix, MacAccessList *list);
 
 /** Appends a row. 0, or -1 for a null pointer or a full table. */
 int SetParam(WifiParamTable *table, const char *object, const char *parameter, const char *value);
 
-/** Appends the settings of SSID `ssidIndex` (configuration layer's numbering), its access point and its security.
- * Rows that do not fit are lost. 0, or -1 with the table unchanged. */
+/** Appends the settings of SSID `ssidIndex` (configuration layer's numbering), its access point and its security, in
+ * the order of the answer. Kept are, of the SSID, Enable, X_ZINTU_Active, SSID, BSSID and X_ZINTU_NetworkType; of the
+ * access point SSIDAdvertisementEnabled, IsolationEnable, X_ZINTU_WebUIAccessPermit, X_ZINTU_InternetOnly and the
+ * vendor object's MACAddressControlEnabled; of its security ModeEnabled, X_ZINTU_EncryptionType, KeyPassphrase,
+ * RekeyingInterval, RadiusServerIPAddr, RadiusServerPort, RadiusSecret, X_ZINTU_Wep_Encryption, X_ZINTU_Wep_KeyType and
+ * WEPKey. Rows that do not fit are lost. 0, or -1 with the table unchanged. */
 int GetSsIdInfoFromFapiToBuff(int ssidIndex, WifiParamTable *table);
 
-/** Appends the settings of radio `radioIndex` and of its first access point, as
- * GetSsIdInfoFromFapiToBuff(). */
+/** Appends the settings of radio `radioIndex` and of its first access point, as GetSsIdInfoFromFapiToBuff(). Kept are,
+ * of the radio, Enable, Channel, AutoChannelEnable, OperatingStandards, OperatingChannelBandwidth, ExtensionChannel,
+ * TransmitPower, GuardInterval, BeaconPeriod, DTIMPeriod, FragmentationThreshold, RTSThreshold, IEEE80211hEnabled and
+ * RegulatoryDomain; of its vendor object Dot11dEnable, Dot11nProtection, WaveExplicitBeamforming,
+ * VhtSUbeamformerEnabled, VhtGuardInterval, WaveInterfererDetectionThreshold, CoexEnabled, WaveIgnore40MhzIntolerant
+ * and WaveMuOperation; of the access point WMMEnable, UAPSDEnable, X_ZINTU_WMMOption and X_ZINTU_WMMAckPolicy. */
 int GetWireInfoFromFapiToBuff(int radioIndex, WifiParamTable *table);
 
 /** Queues (object, parameter, value) in `changes` when `current` has another value, has none, or the low byte of
@@ -848,17 +886,18 @@ int CheckGetReqDbAndCurDb(WifiParamTable *requested, WifiParamTable *current, co
 
 /** Adds one set per object of `changes` to the caller's message and sends it, or leaves it queued when
  * `moreFollows`. `onlyDb` stores without applying when the message holds more than one object. 0, also for an
- * empty table, or -1. The caller releases the message. */
+ * empty table, or -1. Object and parameter are cut to 126 characters: an object of more is sent cut and without its
+ * values. The caller releases the message. */
 int faltocal_fromDB(MsgHeader *header, WifiParamTable *changes, int moreFollows, int onlyDb);
 
 /** Empties "/opt/lantiq/wave/confs" where it exists. Always 0. */
 int Remove_Confs_File(void);
 
-/** The number of lines of a file (a line counts anew every 999 characters); 0 when it can not be read. */
+/** The number of lines of a file (a line counts anew every 999 characters); 0 when it cannot be read. */
 int GetFileLineCnt(const char *path);
 
 /** Writes `first` and then `second` into `target` with the shell's `cat`; the line count of `target`, 0 for NULL
- * `first` or empty `second` or `target` (both REQUIRED). */
+ * `first` or empty `second` or `target` (both REQUIRED). The command is cut at 1,023 characters. */
 int CombineScanResultFiles(const char *first, const char *second, const char *target);
 
 /** Parses a survey's result file: ten tab-separated columns a line. With a non-empty `ssidFilter` only that network.
@@ -881,15 +920,15 @@ int ReqScan(const char *ifname, const char *ssid);
 int GetEPEnable(char *ifnameOut);
 
 /** 1 when the endpoint's driver names a peer, whose MAC address goes to `macOut`, char[128] or null; else 0. Leaves the
- * work file "/tmp/wlan_wave/IF_peer_info" behind. */
+ * work file "/tmp/wlan_wave/IF_peer_info". Its path is cut at 127 characters, the command at 255. */
 int GetEPContection(const char *ifname, char *macOut);
 
 /** GetEPEnable() and GetEPContection() in one: 1 connected, 0 not. `macOut` and the work file as there. */
 int GetEPConnectionStatus(char *macOut);
 
 /** The width (MHz) and primary channel figures of the driver's "channel" file, in its order, into `values` (room for
- * one per line) or null. 1 when at least one was stored and none was zero, else 0. Leaves the work file of
- * GetEPContection() behind. */
+ * one per line of the file) or null. A line of more than 127 characters gives the figure of its first 127. 1 when at
+ * least one was stored and none was zero, else 0. Leaves the work file of GetEPContection(), with its widths. */
 int ReqEPChannelInfo(const char *ifname, int32_t *values);
 
 /** Initialises a header for the operation "get", "set", "factoryreset", "backup", "reboot" or "fwupgrade" with

@@ -13,8 +13,6 @@ using namespace network;
 
 namespace {
 
-constexpr uint32_t kWifiWan = 2;
-constexpr uint32_t kRefused = 4;
 constexpr char kInterface[] = "Device.IP.Interface.1.";
 
 // The first value of a parameter in an answer, or nullptr.
@@ -31,7 +29,7 @@ void writeFixedValues(uint32_t flags, ZintuWanInfo *info) {
     copyText(info->sOperMode, "bridge");
     copyText(info->sWanIpInterface, kInterface);
     copyText(info->sWanIpType, "dynamic");
-    copyText(info->sWanLinkType, (flags & kWifiWan) != 0 ? "wifi" : "ethernet");
+    copyText(info->sWanLinkType, (flags & CALTOFAL_BRIDGED_WAN_WIFI) != 0 ? "wifi" : "ethernet");
     copyText(info->sIpv4Mode, "dynamic");
     info->bVlanEnable = 0;
     info->nVlanID = 0;
@@ -88,7 +86,7 @@ int readGateway(ZintuWanInfo *info) {
 } // namespace
 
 int32_t ZintuGet_BrWanInfo(uint32_t flags, ZintuWanInfo *info) {
-    if ((flags & kRefused) != 0) {
+    if ((flags & CALTOFAL_BRIDGED_WAN_REFUSE) != 0) {
         return -1;
     }
     writeFixedValues(flags, info);

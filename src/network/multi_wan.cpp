@@ -50,8 +50,6 @@ struct KindRow {
     int32_t kind;
 };
 
-constexpr int32_t kOther = 1;
-
 int32_t kindByPrefix(const char *text, std::span<const KindRow> rows, int32_t otherwise) {
     for (const KindRow &row : rows) {
         if (beginsWith(text, row.prefix)) {
@@ -62,8 +60,9 @@ int32_t kindByPrefix(const char *text, std::span<const KindRow> rows, int32_t ot
 }
 
 int32_t kindOfInterface(const char *interface) {
-    constexpr KindRow kInterfaces[] = {{"w900", 0}, {"w901", 1}, {"w902", 2}};
-    constexpr KindRow kModes[] = {{"ETH", 0}, {"TETHER", 2}};
+    constexpr KindRow kInterfaces[] = {
+        {"w900", CALTOFAL_WAN_ETHERNET}, {"w901", CALTOFAL_WAN_OTHER}, {"w902", CALTOFAL_WAN_TETHERED}};
+    constexpr KindRow kModes[] = {{"ETH", CALTOFAL_WAN_ETHERNET}, {"TETHER", CALTOFAL_WAN_TETHERED}};
     const int32_t kind = kindByPrefix(interface, kInterfaces, -1);
     if (kind >= 0) {
         return kind;
@@ -71,7 +70,7 @@ int32_t kindOfInterface(const char *interface) {
     char mode[128] = "";
     zintu_GetValueFromDBInfo("Device.X_LANTIQ_COM_NwHardware.WANConnection", "UciSection", interface, "ConnMode",
                              nullptr, mode);
-    return kindByPrefix(mode, kModes, kOther);
+    return kindByPrefix(mode, kModes, CALTOFAL_WAN_OTHER);
 }
 
 } // namespace
