@@ -2,7 +2,7 @@
 // Commands of the command line: nouns, and the verbs below a noun that has several.
 #pragma once
 
-#include "noun.h"
+#include "caltofal/noun.h"
 
 #include <memory>
 #include <string>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "command_line.h"
+#include "caltofal/command_line.h"
 
-#include "arguments.h"
-#include "command.h"
-#include "failure.h"
+#include "caltofal/command.h"
+#include "pages/failure.h"
+#include "pages/objects/words.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>

@@ -2,7 +2,7 @@
 // The command line as a whole: the nouns' arguments and the options that go with all of them.
 #pragma once
 
-#include "noun.h"
+#include "caltofal/noun.h"
 
 #include <string>
 

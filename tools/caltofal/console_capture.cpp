@@ -2,9 +2,9 @@
 //
 // The library opens "/dev/console" anew for each line. Its calls of open() bind to the one below, which stands before
 // libc's in the search order and passes everything else on.
-#include "console_capture.h"
+#include "caltofal/console_capture.h"
 
-#include "trace.h"
+#include "caltofal/trace.h"
 
 #include <cstdarg>
 #include <cstring>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The nouns' arguments as the parser takes them.
-#include "arguments.h"
+#include "pages/objects/words.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "device.h"
+#include "caltofal/device.h"
 
-#include "failure.h"
-#include "query.h"
-#include "request_log.h"
-#include "shell_output.h"
-#include "signals.h"
+#include "caltofal/signals.h"
+#include "pages/failure.h"
+#include "pages/layer/query.h"
+#include "pages/layer/request_log.h"
+#include "pages/process/shell_output.h"
 
 #include <array>
 #include <cerrno>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "command_line.h"
-#include "console_capture.h"
-#include "device.h"
-#include "error.h"
-#include "request_log.h"
-#include "signals.h"
-#include "stdio_capture.h"
-#include "trace.h"
-#include "words.h"
+#include "caltofal/command_line.h"
+#include "caltofal/console_capture.h"
+#include "caltofal/device.h"
+#include "caltofal/print.h"
+#include "caltofal/signals.h"
+#include "caltofal/trace.h"
+#include "pages/layer/request_log.h"
+#include "pages/process/streams.h"
+#include "pages/text.h"
 
 #include "caltofal.h"
 

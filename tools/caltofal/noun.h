@@ -2,7 +2,7 @@
 // A noun of the command line. Each has a file of its own and a line in nouns.cpp.
 #pragma once
 
-#include "report.h"
+#include "pages/report.h"
 
 #include <functional>
 #include <span>

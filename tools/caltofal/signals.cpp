@@ -2,10 +2,10 @@
 //
 // The library runs the device's tools by system(), which has the process ignore the keyboard's signals meanwhile. Its
 // calls bind to the function below, which loses none.
-#include "signals.h"
+#include "caltofal/signals.h"
 
-#include "error.h"
-#include "terminal.h"
+#include "caltofal/print.h"
+#include "caltofal/terminal.h"
 
 #include <array>
 #include <cerrno>

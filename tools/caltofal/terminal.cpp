@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "terminal.h"
+#include "caltofal/terminal.h"
 
-#include "words.h"
+#include "pages/text.h"
 
 #include <cerrno>
 #include <cstdlib>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "trace.h"
+#include "caltofal/trace.h"
 
-#include "console_capture.h"
-#include "terminal.h"
-#include "words.h"
+#include "caltofal/console_capture.h"
+#include "caltofal/terminal.h"
+#include "pages/text.h"
 
 #include <array>
 #include <unistd.h>

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "pages/layer/query.h"
+
+#include "caltofal.h"
+#include "pages/failure.h"
+#include "pages/layer/code.h"
+#include "pages/layer/request_log.h"
+#include "pages/text.h"
+
+#include <cstdlib>
+#include <memory>
+#include <new>
+
+namespace cli {
+namespace {
+
+constexpr uint32_t kGet = 1;
+constexpr uint32_t kSet = 2;
+constexpr uint32_t kGetOne = 8;
+
+struct Release {
+    void operator()(MsgHeader *header) const {
+        faltocal_finalize(header);
+        free(header); // NOLINT(cppcoreguidelines-no-malloc): the library allocates it so
+    }
+};
+
+class Message {
+  public:
+    Message(uint32_t mainOper, uint32_t listFlags) : header_(faltocal_createMessage(mainOper, listFlags)) {
+        if (!header_ || !header_->objectList) {
+            throw std::bad_alloc();
+        }
+    }
+
+    void add(const Object &object, uint32_t subOper) {
+        const uint32_t mainOper = header_->mainOper;
+        ObjectNode *node = nullptr;
+        faltocal_FillObject(&node, header_->objectList, object.name.c_str(), mainOper, subOper, header_->listFlags);
+        if (!node) {
+            throw std::bad_alloc();
+        }
+        for (const Parameter &parameter : object.parameters) {
+            faltocal_FillParam(&node, mainOper, parameter.name.c_str(), 0, parameter.value.c_str());
+        }
+        for (const Parameter &filter : object.filters) {
+            faltocal_AddFilter(&node, filter.name.c_str(), filter.value.c_str());
+        }
+    }
+
+    void send(bool storeOnly, const std::vector<Object> &objects) {
+        const int code = storeOnly ? faltocal_sendQuery_ToDb(header_.get()) : faltocal_sendQuery(header_.get());
+        if (code != 0) {
+            throw failureOf(code, objects);
+        }
+    }
+
+    [[nodiscard]] std::vector<Object> objects() const {
+        std::vector<Object> result;
+        const MsgHeader *header = header_.get();
+        for (const ObjectNode *node = caltofal_nextObject(header, nullptr); node;
+             node = caltofal_nextObject(header, node)) {
+            Object &object = result.emplace_back(Object{text(node->name), {}});
+            for (const ParamNode *param = caltofal_nextParam(node, nullptr); param;
+                 param = caltofal_nextParam(node, param)) {
+                object.parameters.push_back({text(param->name), text(param->value)});
+            }
+        }
+        return result;
+    }
+
+  private:
+    // The layer's own words name the culprit; without them all objects are named.
+    static Failure failureOf(int code, const std::vector<Object> &objects) {
+        std::string names;
+        std::string named;
+        const std::string reason = requests().empty() ? "" : requests().back().reason;
+        for (const Object &object : objects) {
+            names += (names.empty() ? "" : ", ") + object.name;
+            const bool isNamed = reason.starts_with(object.name.substr(0, object.name.find_last_not_of('.') + 1));
+            if (isNamed && object.name.size() > named.size()) {
+                named = object.name;
+            }
+        }
+        const std::string message = reason.empty() ? names + ": " + meaningOf(code) : reason;
+        return {exitOf(code), message, named.empty() ? names : named, code};
+    }
+
+    std::unique_ptr<MsgHeader, Release> header_;
+};
+
+} // namespace
+
+std::vector<Object> get(const std::vector<Object> &objects, Reading reading) {
+    Message message(kGet, static_cast<uint32_t>(reading));
+    for (const Object &object : objects) {
+        message.add(object, kGetOne);
+    }
+    message.send(false, objects);
+    return message.objects();
+}
+
+std::vector<Object> change(const std::vector<Object> &objects, Change what, bool storeOnly) {
+    Message message(kSet, SOPT_OBJVALUE);
+    for (const Object &object : objects) {
+        message.add(object, static_cast<uint32_t>(what));
+    }
+    message.send(storeOnly, objects);
+    return message.objects();
+}
+
+} // namespace cli

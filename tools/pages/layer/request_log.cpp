@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+//
+// The library's calls into libcal bind to the functions of the same names in the executable, which stand before all
+// shared libraries in the search order; each passes its message on and notes what came back.
+#include "pages/layer/request_log.h"
+
+#include "caltofal.h"
+#include "caltofal/trace.h"
+#include "pages/layer/code.h"
+
+#include <cstring>
+#include <dlfcn.h>
+
+namespace cli {
+namespace {
+
+using LayerCall = int (*)(MsgHeader *);
+
+std::vector<Request> &record() {
+    static std::vector<Request> all;
+    return all;
+}
+
+// What the sandbox's libcal says about the thread's last refusal. A device's has no such function.
+auto findReason() {
+    return reinterpret_cast<const char *(*)()>(dlsym(RTLD_DEFAULT, "cal_sandboxReason"));
+}
+
+std::vector<std::string> objectsOf(const MsgHeader *message) {
+    std::vector<std::string> names;
+    const bool ofValues = (message->listFlags & 0x147) != 0;
+    if (!ofValues) {
+        return names;
+    }
+    for (const ObjectNode *object = caltofal_nextObject(message, nullptr); object;
+         object = caltofal_nextObject(message, object)) {
+        names.emplace_back(object->name, strnlen(object->name, sizeof object->name));
+    }
+    return names;
+}
+
+void trace(const Request &request) {
+    std::string line = std::string(request.verb) + " " + objectNames(request) + " -> " + std::to_string(request.code);
+    if (request.code != 0) {
+        line += " (" + reasonOf(request) + ")";
+    }
+    traceText(Source::Request, line + "\n");
+}
+
+int passOn(const char *function, const char *verb, MsgHeader *message) {
+    const auto call = reinterpret_cast<LayerCall>(dlsym(RTLD_NEXT, function));
+    if (!call) {
+        return CALTOFAL_NO_GATEWAY;
+    }
+    traceCollect();
+    Request request{verb, objectsOf(message), 0, {}};
+    request.code = call(message);
+    static const auto reason = findReason();
+    if (request.code != 0 && reason) {
+        request.reason = reason();
+    }
+    trace(request);
+    record().push_back(request);
+    return request.code;
+}
+
+} // namespace
+
+std::span<const Request> requests() {
+    return record();
+}
+
+std::string objectNames(const Request &request) {
+    std::string names;
+    for (const std::string &object : request.objects) {
+        names += (names.empty() ? "" : ", ") + object;
+    }
+    return names;
+}
+
+std::string reasonOf(const Request &request) {
+    return request.reason.empty() ? meaningOf(request.code) : request.reason;
+}
+
+bool isSandbox() {
+    return findReason() != nullptr;
+}
+
+} // namespace cli
+
+#define EXPORTED extern "C" __attribute__((visibility("default")))
+
+EXPORTED int cal_getValue(MsgHeader *message) {
+    return cli::passOn("cal_getValue", "get", message);
+}
+
+EXPORTED int cal_setValue(MsgHeader *message) {
+    return cli::passOn("cal_setValue", "set", message);
+}
+
+EXPORTED int cal_setValueToDb(MsgHeader *message) {
+    return cli::passOn("cal_setValueToDb", "store", message);
+}

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "caltofal/commands.h"
+
+#include "caltofal.h"
+#include "pages/layer/call.h"
+#include "pages/network/pages.h"
+
+namespace cli {
+namespace {
+
+Json modes() {
+    int32_t flags[10] = {};
+    ask([&] { return ZintuGet_DslMode(flags); }, {"no DSL modes"});
+    Json names = Json::array();
+    for (size_t i = 0; i < std::size(flags); ++i) {
+        if (flags[i] != 0) {
+            names.emplace_back(DEF_DSL_MODE[i]);
+        }
+    }
+    return names;
+}
+
+std::vector<Field> direction(int32_t rate, int32_t most, int32_t noise, const std::string &attenuation) {
+    return {
+        {"rate_kbit_s", "Rate", number(rate), "kbit/s"},
+        {"max_rate_kbit_s", "Attainable rate", number(most), "kbit/s"},
+        {"noise_margin_db", "Noise margin", tenths(noise), "dB"},
+        {"attenuation_db", "Attenuation per band", decibels(attenuation), "dB"},
+    };
+}
+
+} // namespace
+
+Page dslPage() {
+    ZintuDslLineInfo line{};
+    untouch(line.nUpstreamCurrRate, line.nDownstreamCurrRate, line.nUpstreamMaxBitRate, line.nDownstreamMaxBitRate,
+            line.nUpstreamNoiseMargin, line.nDownstreamNoiseMargin, line.nXTURCRCErrors, line.nXTUCCRCErrors);
+    ask([&] { return ZintuGet_LineInfo(&line); }, {"no DSL line"});
+    return {{
+                {"",
+                 "",
+                 {
+                     {"status", "Status", text(line.sStatus), {}},
+                     {"profile", "Profile", text(line.sCurrentProfile), {}},
+                     {"modes", "Modes enabled", modes(), {}},
+                 }},
+                {"downstream", "Downstream",
+                 direction(line.nDownstreamCurrRate, line.nDownstreamMaxBitRate, line.nDownstreamNoiseMargin,
+                           text(line.sLATNds))},
+                {"upstream", "Upstream",
+                 direction(line.nUpstreamCurrRate, line.nUpstreamMaxBitRate, line.nUpstreamNoiseMargin,
+                           text(line.sLATNus))},
+                {"crc_errors",
+                 "CRC errors",
+                 {
+                     {"modem", "Seen by the modem", number(line.nXTURCRCErrors), {}},
+                     {"exchange", "Seen by the exchange", number(line.nXTUCCRCErrors), {}},
+                 }},
+            },
+            {}};
+}
+
+const Noun kDslNoun = {"dsl", "DSL line 1: state, rates, quality, modes", "", showPage<dslPage>};
+
+} // namespace cli

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "pages/wifi/pages.h"
+
+#include "caltofal.h"
+#include "pages/failure.h"
+#include "pages/objects/words.h"
+#include "pages/wifi/interface.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <climits>
+#include <cstdlib>
+#include <iterator>
+#include <memory>
+#include <span>
+
+namespace cli::wifi {
+namespace {
+
+struct Arguments {
+    std::string table, value, to;
+};
+
+using Convert = std::string (*)(const std::string &value, bool toUi);
+
+struct Converter {
+    const char *name;
+    const char *what;
+    Convert convert;
+    std::span<const PairRow> pairs = {};   // for people to look at
+    bool number = false;                   // the result is one
+    bool oneWay = number && pairs.empty(); // there is no way back
+};
+
+// A number that is none is a wrong command line; one out of range is refused.
+int numberIn(const std::string &value, int least, int most) {
+    const size_t sign = value.starts_with('-') ? 1 : 0;
+    if (value.size() == sign || value.find_first_not_of("0123456789", sign) != std::string::npos) {
+        throw Usage("value \"" + value.substr(0, 40) + "\" is no number");
+    }
+    int number = 0;
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
+    if (error != std::errc() || number < least || number > most) {
+        throw Failure(Exit::Refused, "value " + value.substr(0, 40) + " is outside " + std::to_string(least) + " to " +
+                                         std::to_string(most));
+    }
+    return number;
+}
+
+template <const char *(*convert)(const char *, int)>
+std::string textual(const std::string &value, bool toUi) {
+    return convert(value.c_str(), toUi ? 1 : 0);
+}
+
+template <const auto &table>
+std::string paired(const std::string &value, bool toUi) {
+    return toUi ? FapiToUi_Str(value.c_str(), table, std::size(table))
+                : UiToFapi_Str(value.c_str(), table, std::size(table));
+}
+
+// The thresholds and intervals replace what lies outside their own range by a default.
+template <int (*convert)(int), int least = 0, int most = INT_MAX>
+std::string numeric(const std::string &value, bool /*toUi*/) {
+    return std::to_string(convert(numberIn(value, least, most)));
+}
+
+template <int radio>
+std::string ssidNumber(const std::string &value, bool toUi) {
+    constexpr int kSsids = 8; // of a radio
+    const int first = toUi ? ConvSsidIdxToFapi(radio, 0) : 0;
+    const int index = numberIn(value, first, first + kSsids - 1);
+    return std::to_string(toUi ? ConvSsidIdxToUI(radio, index) : ConvSsidIdxToFapi(radio, index));
+}
+
+std::string phy(const std::string &value, bool /*toUi*/) {
+    return DevToPhy_Str(value.c_str(), Interface_DevToPhy_Table, std::size(Interface_DevToPhy_Table));
+}
+
+std::string boolean(const std::string &value, bool toUi) {
+    return toUi ? std::to_string(ConvStrToBool(value.c_str())) : ConvBoolToStr(numberIn(value, 0, 1));
+}
+
+std::string filterMode(const std::string &value, bool toUi) {
+    const bool off = value == "off";
+    return toUi ? std::to_string(ConvMacACLModeToUI(value.c_str()))
+                : ConvMacACLModeToFapi(off ? 0 : 1, off ? 0 : numberIn(value, 0, 1));
+}
+
+std::string plain(const std::string &value, bool /*toUi*/) {
+    return ConvStr(value.c_str());
+}
+
+std::string power(const std::string &value, bool toUi) {
+    return TransmitPower_ConvStr(toUi ? std::to_string(numberIn(value, 0, 100)).c_str() : value.c_str(), toUi ? 1 : 0);
+}
+
+// The text may go on behind its digits.
+std::string integer(const std::string &value, bool /*toUi*/) {
+    errno = 0;
+    const long number = strtol(value.c_str(), nullptr, 10);
+    if (errno == ERANGE || number < INT_MIN || number > INT_MAX) {
+        throw Failure(Exit::Refused, "the number of \"" + value.substr(0, 40) + "\" is too large");
+    }
+    return std::to_string(ConvInt(value.c_str()));
+}
+
+constexpr Converter kConverters[] = {
+    {"acl-mode", "MAC filter: Allow as 1, others as 0; back 1, 0 or off", filterMode, {}, false},
+    {"auto-channel", "AutoChannelEnable", textual<AutoChannelEnable_ConvStr>},
+    {"band", "OperatingFrequencyBand", paired<Interface_FapiToUi_Table>, Interface_FapiToUi_Table},
+    {"bandwidth", "OperatingChannelBandwidth", textual<BandWidth_ConvStr>, BandWidth_FapiToUi_Table},
+    {"beacon", "BeaconPeriod in its range, else its default", numeric<ConvBeaconInterval>, {}, true},
+    {"boolean", "true and 1 as 1; back a number", boolean},
+    {"channel-list", "ChannelsInUse", textual<ChannelList_ConvStr>},
+    {"dtim", "DTIMPeriod in its range, else its default", numeric<ConvDtimInterval>, {}, true},
+    {"extension", "ExtensionChannel", textual<ExtensionChannel_ConvStr>, SideBand_FapiToUi_Table},
+    {"fragmentation",
+     "FragmentationThreshold in its range, else its default",
+     numeric<ConvFragmentationThreshold>,
+     {},
+     true},
+    {"frequency", "the channel of a frequency in MHz", numeric<ConvFreqChannel, 2412, 64800>, {}, true},
+    {"guard-interval", "GuardInterval", textual<ShortGuardInterval_ConvStr>, ShortGuardInterval_FapiToUi_Table},
+    {"number", "the number that a text begins with", integer, {}, true},
+    {"phy", "the phy of an interface", phy, Interface_DevToPhy_Table, false, true},
+    {"power", "TransmitPower, percent and word", power},
+    {"power-level", "TransmitPower, percent as 1 (high) to 3 (low)", numeric<ConvTransmitPower, 0, 100>, {}, true},
+    {"protection", "Dot11nProtection", textual<Dot11nProtect_ConvStr>, Dot11nProtect_FapiToUi_Table},
+    {"rts", "RTSThreshold in its range, else its default", numeric<ConvRtsThreshold>, {}, true},
+    {"security", "ModeEnabled", paired<SecurityType_FapiToUi_Table>, SecurityType_FapiToUi_Table},
+    {"ssid-radio1", "the number of an SSID of radio 1", ssidNumber<1>, {}, true, false},
+    {"ssid-radio2", "the number of an SSID of radio 2", ssidNumber<2>, {}, true, false},
+    {"standards", "OperatingStandards", textual<OperatingStandards_ConvStr>, WireLessMode_FapiToUi_Table},
+    {"text", "any text, as it is", plain},
+    {"vht-guard-interval", "VhtGuardInterval", textual<VhtShortGuardInterval_ConvStr>,
+     VhtShortGuardInterval_FapiToUi_Table},
+    {"wmm", "X_ZINTU_WMMOption", textual<WMMOption_ConvStr>, WMM_Option_FapiToUi_Table},
+};
+
+const Converter &converterNamed(const std::string &name) {
+    const auto *const found = std::find_if(std::begin(kConverters), std::end(kConverters),
+                                           [&](const Converter &one) { return one.name == name; });
+    if (found == std::end(kConverters)) {
+        throw Usage("\"" + name.substr(0, 40) + "\" is no conversion; caltofal wifi convert lists them");
+    }
+    return *found;
+}
+
+Report listOfAll() {
+    Report result{{{"conversions", Json::object()}}, {}, {}, {}};
+    for (const Converter &converter : kConverters) {
+        result.json["conversions"][converter.name] = converter.what;
+        result.table.rows.push_back({{converter.name}, {converter.what}});
+    }
+    return result;
+}
+
+Report pairsOf(const Converter &converter) {
+    if (converter.pairs.empty()) {
+        throw Usage(std::string(converter.name) + " has no table: give a value");
+    }
+    Report result{{{"table", converter.name}, {"pairs", Json::array()}}, {}, {}, {}};
+    result.table.headings = {"FAPI", "UI"};
+    for (const PairRow &pair : converter.pairs) {
+        result.json["pairs"].push_back({{"fapi", text(pair.sFirst)}, {"ui", text(pair.sSecond)}});
+        result.table.rows.push_back({{text(pair.sFirst)}, {text(pair.sSecond)}});
+    }
+    return result;
+}
+
+Report run(const Arguments &arguments, bool valueGiven) {
+    if (arguments.to != "ui" && arguments.to != "fapi") {
+        throw Usage("--to is ui or fapi, not \"" + arguments.to.substr(0, 40) + "\"");
+    }
+    if (arguments.table.empty()) {
+        return listOfAll();
+    }
+    const Converter &converter = converterNamed(arguments.table);
+    if (!valueGiven) {
+        return pairsOf(converter);
+    }
+    if (converter.oneWay && arguments.to == "fapi") {
+        throw Usage(std::string(converter.name) + " has no way back: --to fapi does not go with it");
+    }
+    const std::string converted = converter.convert(arguments.value, arguments.to == "ui");
+    Report result{{{"table", converter.name}}, {}, converted + "\n", {}};
+    put(result.json, "value", arguments.value);
+    result.json["to"] = arguments.to;
+    put(result.json, "result", converter.number ? Json(ConvInt(converted.c_str())) : Json(converted));
+    return result;
+}
+
+Run define(CLI::App &command) {
+    const auto arguments = std::make_shared<Arguments>();
+    arguments->to = "ui";
+    addOptionalArgument(command, "TABLE", arguments->table, "A conversion; without one they are listed");
+    const auto valueGiven = addCountedArgument(command, "VALUE", arguments->value, "Without it the table is shown");
+    addOption(command, "--to", arguments->to, "ui|fapi", "Whose words are wanted: ui where not given");
+    return [arguments, valueGiven] { return run(*arguments, valueGiven()); };
+}
+
+} // namespace
+
+const Noun kConvertVerb = {"convert", "Values of the configuration layer (FAPI) and of the user interface (UI)",
+                           "bandwidth 40MHz\nsecurity WEP --to fapi\nstandards\nfrequency 5180", define};
+
+} // namespace cli::wifi

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "pages/wifi/pages.h"
+
+#include "caltofal.h"
+#include "caltofal/device.h"
+#include "pages/failure.h"
+#include "pages/objects/words.h"
+#include "pages/process/shell_output.h"
+#include "pages/wifi/interface.h"
+#include "pages/wifi/pace.h"
+#include "pages/wifi/survey.h"
+
+#include <fcntl.h>
+#include <memory>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace cli::wifi {
+namespace {
+
+// The library cuts the request's command line at 255 characters, 209 of which are its own.
+constexpr size_t kNamesMax = 255 - 209;
+
+struct Arguments {
+    std::string interface, ssid, pace;
+};
+
+// Why a byte of an SSID can not travel in JSON within single quotes of the shell; nullptr where it can.
+const char *unsafe(char byte) {
+    switch (byte) {
+    case '\'':
+        return "a single quote";
+    case '"':
+        return "a double quote";
+    case '\\':
+        return "a backslash";
+    default:
+        return static_cast<unsigned char>(byte) < ' ' || byte == 0x7f ? "a control character" : nullptr;
+    }
+}
+
+void checkForShell(const std::string &interface, const std::string &ssid) {
+    for (size_t i = 0; i < ssid.size(); ++i) {
+        if (const char *what = unsafe(ssid[i])) {
+            throw Usage(std::string("byte ") + std::to_string(i + 1) + " of the SSID, 0x" + hexOf({&ssid[i], 1}) +
+                        ", is " + what + ": the scan request can not carry it; scan for all networks");
+        }
+    }
+    if (interface.size() + ssid.size() > kNamesMax) {
+        throw Usage("interface and SSID have " + std::to_string(interface.size() + ssid.size()) +
+                    " bytes together: the most that a scan request carries is " + std::to_string(kNamesMax));
+    }
+}
+
+// Which file there is, and since when: another one is another scan's.
+struct FileMark {
+    bool present = false;
+    ino_t inode = 0;
+    timespec changed{};
+
+    explicit FileMark(const std::string &path) {
+        struct stat status {};
+        present = stat(path.c_str(), &status) == 0;
+        inode = status.st_ino;
+        changed = status.st_mtim;
+    }
+
+    [[nodiscard]] bool isNewerThan(const FileMark &before) const {
+        return present && (!before.present || inode != before.inode || changed.tv_sec != before.changed.tv_sec ||
+                           changed.tv_nsec != before.changed.tv_nsec);
+    }
+};
+
+bool is5GHz(int radio) {
+    const std::vector<Object> found =
+        get({{"Device.WiFi.Radio." + std::to_string(radio), {{"OperatingFrequencyBand", {}}}}}, Reading::Leaf);
+    return !found.empty() && valueOf(found.front(), "OperatingFrequencyBand") == "5GHz";
+}
+
+// Two scans at a time would take each other's result. Kept until the object is gone; no lock where none can be had.
+class ScanLock {
+  public:
+    explicit ScanLock(const std::string &interface)
+        : descriptor_(open((surveyFile(interface) + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {
+        if (descriptor_ >= 0 && flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
+            close(descriptor_);
+            throw Failure(Exit::Failed, "another scan on " + interface + " is under way");
+        }
+    }
+    ScanLock(const ScanLock &) = delete;
+    ScanLock &operator=(const ScanLock &) = delete;
+    ~ScanLock() { close(descriptor_); }
+
+  private:
+    int descriptor_;
+};
+
+void request(const std::string &interface, const std::string &ssid) {
+    ShellOutput output;
+    const bool ran = ReqScan(interface.c_str(), ssid.c_str()) == 1;
+    const std::string complaint = output.end();
+    if (Interruptible::signal() == 0 && (!ran || !complaint.empty())) {
+        failOfShell("the scan request failed", complaint);
+    }
+}
+
+void wait(const Pace &pace, const std::string &name, const FileMark &before) {
+    const auto done = [&] { return FileMark(surveyFile(name)).isNewerThan(before); };
+    switch (askAgain(pace, "scanning on " + name, done)) {
+    case Outcome::Done:
+        return;
+    case Outcome::Signal:
+        throw Interrupted(Interruptible::signal(), "interrupted: the scan on " + name + " goes on by itself");
+    case Outcome::TimeOut:
+        break;
+    }
+    throw Failure(Exit::TimeOut, "the scan on " + name + " brought no result: is its radio on?");
+}
+
+Report run(const Arguments &arguments) {
+    const std::string &name = checkedInterface(arguments.interface);
+    checkForShell(name, checkedSsid(arguments.ssid));
+    paceOf(SCAN_24G_RetryTime, arguments.pace);
+    needDevice();
+    const bool upper = is5GHz(findInterface(name).radio);
+    const ScanLock lock(name);
+    const FileMark before(surveyFile(name));
+    const Interruptible interruptible;
+    request(name, arguments.ssid);
+    wait(paceOf(upper ? SCAN_5G_RetryTime : SCAN_24G_RetryTime, arguments.pace), name, before);
+    return surveyReport(surveyFile(name), arguments.ssid);
+}
+
+Run define(CLI::App &command) {
+    const auto arguments = std::make_shared<Arguments>();
+    addArgument(command, "INTERFACE", arguments->interface, "The interface to scan on, such as wlan0");
+    addOption(command, "--ssid", arguments->ssid, "SSID", "Look for that network only");
+    addPace(command, arguments->pace);
+    return [arguments] { return run(*arguments); };
+}
+
+} // namespace
+
+const Noun kScanVerb = {"scan", "Look for the networks around and show them",
+                        "wlan0 --pace 100\nwlan0 --ssid cafe-open --pace 60", define};
+
+} // namespace cli::wifi

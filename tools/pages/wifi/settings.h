@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// The library's snapshots: the settings of one SSID or one radio, as rows.
+#pragma once
+
+#include "caltofal.h"
+#include "pages/text.h"
+
+#include <memory>
+#include <span>
+#include <string>
+
+namespace cli::wifi {
+
+enum class Subject { Ssid, Radio };
+
+// "ssid" or "radio". Throws Usage.
+Subject subjectOf(const std::string &word);
+
+// A table is too large for the stack of a small device.
+using Settings = std::unique_ptr<WifiParamTable>;
+
+// What the gateway holds. Throws Failure.
+Settings snapshot(Subject subject, int instance);
+
+inline std::span<const WifiParamRow> rows(const WifiParamTable &table) {
+    return {table.rows, static_cast<size_t>(table.count)};
+}
+
+// A parameter's value in the words of the user interface, and back; unchanged where both are the same.
+// fapiWord() throws Failure for a word that the user interface has not.
+std::string uiWord(const std::string &parameter, const std::string &value);
+std::string fapiWord(const std::string &parameter, const std::string &value);
+
+} // namespace cli::wifi

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include "pages/wifi/survey.h"
+
+#include "caltofal.h"
+#include "caltofal/device.h"
+#include "pages/failure.h"
+#include "pages/objects/words.h"
+#include "pages/page.h"
+#include "pages/process/shell_output.h"
+#include "pages/wifi/interface.h"
+#include "pages/wifi/pages.h"
+#include "pages/wifi/radar.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <span>
+#include <unistd.h>
+
+namespace cli::wifi {
+namespace {
+
+constexpr const char *kCombinedFile = "/tmp/wlan_wave/caltofal_scan.XXXXXX";
+
+struct Arguments {
+    std::string interface, ssid;
+};
+
+struct Survey {
+    SiteSurveyList list{};
+    Survey() = default;
+    Survey(const Survey &) = delete;
+    Survey &operator=(const Survey &) = delete;
+    ~Survey() { free(list.entries); } // NOLINT(cppcoreguidelines-no-malloc): the library allocates it so
+};
+
+// Several interfaces' results in one file, as long as it is needed.
+class CombinedFile {
+  public:
+    CombinedFile() : path_(kCombinedFile) {
+        const int descriptor = mkstemp(path_.data());
+        if (descriptor < 0) {
+            throw Failure(Exit::Failed, path_ + " can not be made");
+        }
+        close(descriptor);
+    }
+    CombinedFile(const CombinedFile &) = delete;
+    CombinedFile &operator=(const CombinedFile &) = delete;
+    ~CombinedFile() { unlink(path_.c_str()); }
+
+    [[nodiscard]] const std::string &path() const { return path_; }
+
+  private:
+    std::string path_;
+};
+
+Json jsonOf(const SiteSurveyEntry &entry) {
+    Json json = Json::object();
+    put(json, "ssid", text(entry.ssid));
+    json["channel"] = entry.channel;
+    json["dfs"] = isRadarChannel(entry.channel);
+    json["rssi_dbm"] = entry.rssi;
+    put(json, "security", text(entry.security));
+    put(json, "encryption", text(entry.encryption));
+    put(json, "bssid", text(entry.macaddr));
+    json["bandwidth_mhz"] = entry.bandwidth;
+    put(json, "standards", text(entry.phymode));
+    put(json, "secondary_side", text(entry.sideband));
+    json["product"] = entry.product;
+    return json;
+}
+
+std::vector<Cell> rowOf(const SiteSurveyEntry &entry) {
+    return {{text(entry.ssid)},
+            {markedChannel(entry.channel)},
+            {std::to_string(entry.rssi)},
+            {text(entry.security)},
+            {text(entry.encryption)},
+            {text(entry.macaddr)},
+            {std::to_string(entry.bandwidth)},
+            {text(entry.phymode)},
+            {text(entry.sideband)}};
+}
+
+bool exists(const std::string &file) {
+    return access(file.c_str(), F_OK) == 0;
+}
+
+std::vector<std::string> interfacesWithResult() {
+    std::vector<std::string> names;
+    for (const Object &ssid : get({{"Device.WiFi.SSID", {{"Name", {}}}}}, Reading::Whole)) {
+        const std::string name = valueOf(ssid, "Name");
+        if (!name.empty() && exists(surveyFile(checkedInterface(name)))) {
+            names.push_back(name);
+        }
+    }
+    return names;
+}
+
+Report surveyOfAll(const std::string &ssid) {
+    const std::vector<std::string> names = interfacesWithResult();
+    if (names.empty()) {
+        throw Failure(Exit::Absent, "no interface has a result; caltofal wifi scan INTERFACE makes one");
+    }
+    if (names.size() == 1) {
+        return surveyReport(surveyFile(names[0]), ssid);
+    }
+    // What was joined so far and what one more makes of it, in turn.
+    const CombinedFile files[2];
+    std::string all = surveyFile(names[0]);
+    ShellOutput output;
+    for (size_t i = 1; i < names.size(); ++i) {
+        const std::string &target = files[i % 2].path();
+        CombineScanResultFiles(all.c_str(), surveyFile(names[i]).c_str(), target.c_str());
+        all = target;
+    }
+    if (const std::string complaint = output.end(); !complaint.empty()) {
+        failOfShell("the results can not be joined", complaint);
+    }
+    return surveyReport(all, ssid);
+}
+
+Report run(const Arguments &arguments) {
+    const std::string &name = arguments.interface;
+    const std::string &ssid = checkedSsid(arguments.ssid);
+    if (name.empty()) {
+        needDevice();
+        return surveyOfAll(ssid);
+    }
+    checkedInterface(name);
+    needDevice();
+    findInterface(name);
+    if (!exists(surveyFile(name))) {
+        throw Failure(Exit::Absent, name + " has no result; caltofal wifi scan " + name + " makes one");
+    }
+    return surveyReport(surveyFile(name), ssid);
+}
+
+Run define(CLI::App &command) {
+    const auto arguments = std::make_shared<Arguments>();
+    addOptionalArgument(command, "INTERFACE", arguments->interface, "Only the result of that interface");
+    addOption(command, "--ssid", arguments->ssid, "SSID", "Only that network");
+    return [arguments] { return run(*arguments); };
+}
+
+} // namespace
+
+std::string surveyFile(const std::string &interface) {
+    return "/tmp/wlan_wave/" + interface + "_scan_by_User.result";
+}
+
+Report surveyReport(const std::string &file, const std::string &ssid) {
+    Survey survey;
+    const int count = GetSiteSurveyList(file.c_str(), &survey.list, ssid.c_str());
+    Report result{{{"networks", Json::array()}}, {}, {}, {}};
+    result.table.headings = {"SSID", "CHANNEL", "DBM", "SECURITY", "ENCRYPTION", "BSSID", "MHZ", "STANDARDS", "2ND"};
+    const std::span entries(survey.list.entries, static_cast<size_t>(count));
+    for (const SiteSurveyEntry &entry : entries) {
+        result.json["networks"].push_back(jsonOf(entry));
+    }
+    std::stable_sort(entries.begin(), entries.end(), [](const auto &a, const auto &b) { return a.rssi > b.rssi; });
+    for (const SiteSurveyEntry &entry : entries) {
+        result.table.rows.push_back(rowOf(entry));
+    }
+    const int lost = ssid.empty() ? GetFileLineCnt(file.c_str()) - count : 0;
+    if (count == 0) {
+        if (!ssid.empty()) {
+            throw Failure(Exit::Absent, "the network \"" + ssid + "\" was not found");
+        }
+        result.notes.emplace_back("no networks found");
+    }
+    if (lost > 0) {
+        result.notes.push_back(std::to_string(lost) + (lost == 1 ? " line" : " lines") +
+                               " of the result left out: hidden networks, or damaged");
+    }
+    return result;
+}
+
+const Noun kSurveyVerb = {"survey", "The networks that the last scans found", "\nwlan0", define};
+
+} // namespace cli::wifi
