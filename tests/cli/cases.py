@@ -148,7 +148,7 @@ FAILURES = [
     ("home", "wifi channels wlan0123456789ab", 2, None, None),
     ("home", ["wifi", "stations", "wlan0", "--mac", "00:00:5e:00:53:1;"], 2, None, None),
     ("home", ["wifi", "scan", "wlan0", "--ssid", "it's"], 2, None, "byte 3 of the SSID, 0x27, is a single quote: the "
-     "scan request can not carry it; scan for all networks"),
+     "scan request cannot carry it; scan for all networks"),
     ("home", ["wifi", "scan", "wlan0", "--ssid", 'a"b'], 2, None, None),
     ("home", ["wifi", "scan", "wlan0", "--ssid", "a\\b"], 2, None, None),
     ("home", ["wifi", "scan", "wlan0", "--ssid", "a\nb"], 2, None, None),

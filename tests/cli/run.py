@@ -106,8 +106,8 @@ class Failures(unittest.TestCase):
             closed = subprocess.run(["sh", "-c", f'"$0" {words} >&-', tool.executable], env=tool.environment(None),
                                     stderr=subprocess.PIPE, check=False)
             self.assertEqual((result.code, closed.returncode), (1, 1), words)
-            self.assertIn("standard output can not be written", result.err)
-            self.assertIn(b"standard output can not be written", closed.stderr)
+            self.assertIn("standard output cannot be written", result.err)
+            self.assertIn(b"standard output cannot be written", closed.stderr)
 
 
 class Changes(unittest.TestCase):

@@ -1,18 +1,64 @@
 // SPDX-License-Identifier: MIT
-// Commands of the command line: nouns, and the verbs below a noun that has several.
+// A command of the command line as data: a noun, or a verb of one.
 #pragma once
 
-#include "caltofal/noun.h"
+#include "pages/report.h"
 
-#include <memory>
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace cli {
 
-// Adds a command below `parent`, whose words so far are `words`. When it is chosen, `*chosen` becomes what it runs.
-void addCommand(CLI::App &parent, const std::string &words, const Noun &noun, const std::shared_ptr<Run> &chosen);
+enum class Take {
+    Word,      // an argument
+    Optional,  // one that may be left out, but not be empty
+    MayBeAny,  // one that may be left out, and may be empty
+    Words,     // one or more
+    Flag,      // an option without a value
+    Option,    // with one, not empty
+    Repeatable // several times, one value each
+};
 
-// Makes `command`, with the words `words`, a noun of which one of `verbs` must be given.
-Run defineVerbs(CLI::App &command, const std::string &words, std::span<const Noun *const> verbs);
+struct Argument {
+    const char *name; // "OBJECT" or "--option"
+    Take take;
+    const char *what;
+    const char *type = " "; // behind the name in the help
+};
+
+// What was typed, by the arguments' names.
+class Arguments {
+  public:
+    [[nodiscard]] bool given(std::string_view name) const { return words_.contains(name); }
+    [[nodiscard]] const std::vector<std::string> &words(std::string_view name) const;
+    // "" where it was not given.
+    [[nodiscard]] const std::string &word(std::string_view name) const;
+
+    void set(std::string_view name, std::vector<std::string> words);
+
+  private:
+    std::map<std::string, std::vector<std::string>, std::less<>> words_;
+};
+
+// Asks the gateway; throws pages::Failure.
+using Show = std::function<pages::Report()>;
+
+struct Command {
+    const char *name;
+    const char *summary;
+    const char *examples;                         // argument lists, a line each
+    Show (*prepare)(const Arguments &) = nullptr; // checks what was typed; throws pages::Usage
+    std::initializer_list<Argument> arguments = {};
+    bool device = false;                 // runs the device's own tools, or reads its files
+    std::span<const Command> verbs = {}; // instead of `prepare`
+};
+
+// The nouns, in the order of the help.
+std::vector<std::span<const Command>> commands();
 
 } // namespace cli

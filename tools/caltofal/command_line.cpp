@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/command_line.h"
 
-#include "caltofal/command.h"
-#include "pages/failure.h"
-#include "pages/objects/words.h"
+#include "caltofal/print.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <deque>
 #include <iostream>
-#include <memory>
+#include <sstream>
 
 namespace cli {
+
+using pages::Usage;
+
 namespace {
 
 constexpr const char *kExitCodes = R"(Data goes to standard output, words to standard error.
@@ -21,6 +23,10 @@ Exit codes: 0 done, 1 failed, 2 wrong usage, 3 time out, 4 no gateway,
 `caltofal NOUN --help` shows a noun's arguments and examples.)";
 
 constexpr const char *kVerbMissing = "A subcommand is required"; // the parser's words
+
+std::string notEmpty(const std::string &value) {
+    return value.empty() ? "is empty" : "";
+}
 
 void addCommonOptions(CLI::App &app, Options &options) {
     app.add_flag("--json", options.json, "Print JSON, errors too");
@@ -98,17 +104,98 @@ std::string reasonOf(const CLI::App &app, const CLI::ParseError &error) {
            (words.empty() ? "" : words + " ") + "--help";
 }
 
+std::string examplesOf(const std::string &words, const char *examples) {
+    std::string result = "Examples:";
+    std::istringstream lines(examples);
+    std::string line;
+    do {
+        line.clear();
+        std::getline(lines, line);
+        result += "\n  " + words + (line.empty() ? "" : " ") + line;
+    } while (!lines.eof() && !lines.fail());
+    return result;
+}
+
+using Words = std::vector<std::string>;
+
+// The commands as the parser takes them, and which one was found.
+struct Parser {
+    const Command *command = nullptr;
+    const CLI::App *app = nullptr;
+    std::deque<Words> words; // of the arguments that take several
+
+    void addArgument(CLI::App &to, const Argument &argument) {
+        switch (argument.take) {
+        case Take::Flag:
+            to.add_flag(argument.name, argument.what);
+            break;
+        case Take::Word:
+            to.add_option(argument.name, argument.what)->required()->option_text(argument.type);
+            break;
+        case Take::Optional:
+            to.add_option(argument.name, argument.what)->option_text(argument.type)->check(notEmpty);
+            break;
+        case Take::MayBeAny:
+            to.add_option(argument.name, argument.what)->option_text(argument.type);
+            break;
+        case Take::Words:
+            to.add_option(argument.name, words.emplace_back(), argument.what)->required()->option_text(argument.type);
+            break;
+        case Take::Option:
+            to.add_option(argument.name, argument.what)->type_name(argument.type)->check(notEmpty);
+            break;
+        case Take::Repeatable:
+            to.add_option(argument.name, words.emplace_back(), argument.what)
+                ->type_name(argument.type)
+                ->allow_extra_args(false);
+            break;
+        }
+    }
+
+    void addCommands(CLI::App &parent, const std::string &before, std::span<const Command> all) {
+        for (const Command &one : all) {
+            CLI::App *child = parent.add_subcommand(one.name, one.summary);
+            const std::string path = before + " " + one.name;
+            child->fallthrough();
+            child->footer(examplesOf(path, one.examples));
+            for (const Argument &argument : one.arguments) {
+                addArgument(*child, argument);
+            }
+            if (one.verbs.empty()) {
+                child->callback([this, &one, child] {
+                    command = &one;
+                    app = child;
+                });
+            } else {
+                child->require_subcommand(1);
+                addCommands(*child, path, one.verbs);
+            }
+        }
+    }
+
+    [[nodiscard]] Arguments arguments() const {
+        Arguments result;
+        for (const Argument &argument : command->arguments) {
+            const CLI::Option *option = app->get_option(argument.name);
+            if (option->count() > 0) {
+                result.set(argument.name, option->results());
+            }
+        }
+        return result;
+    }
+};
+
 } // namespace
 
-Run parse(int argc, char **argv, Options &options) {
+Task parse(int argc, char **argv, Options &options) {
     CLI::App app("Reads and changes a residential gateway's TR-181 configuration.", "caltofal");
     addCommonOptions(app, options);
     app.require_subcommand(1);
     app.footer(kExitCodes);
     app.get_formatter()->column_width(26);
-    const auto chosen = std::make_shared<Run>();
-    for (const Noun *noun : nouns()) {
-        addCommand(app, "caltofal", *noun, chosen);
+    Parser parser;
+    for (const std::span<const Command> group : commands()) {
+        parser.addCommands(app, "caltofal", group);
     }
     try {
         app.parse(argc, argv);
@@ -119,7 +206,7 @@ Run parse(int argc, char **argv, Options &options) {
     } catch (const CLI::ParseError &error) {
         throw Usage(reasonOf(app, error));
     }
-    return *chosen;
+    return {parser.command, parser.command->prepare(parser.arguments())};
 }
 
 } // namespace cli

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The command line as a whole: the nouns' arguments and the options that go with all of them.
+// The command line as a whole: the commands' arguments and the options that go with all of them.
 #pragma once
 
-#include "caltofal/noun.h"
+#include "caltofal/command.h"
 
 #include <string>
 
@@ -14,7 +14,12 @@ struct Options {
     std::string gateway; // "": the environment's, else the sandbox's own choice
 };
 
-// What to run. Prints help or version and answers an empty function where that was asked for; throws Usage.
-Run parse(int argc, char **argv, Options &options);
+struct Task {
+    const Command *command = nullptr;
+    Show show;
+};
+
+// What to do. Prints help or version and answers no command where that was asked for; throws Usage.
+Task parse(int argc, char **argv, Options &options);
 
 } // namespace cli

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/device.h"
 
+#include "caltofal/exit.h"
 #include "caltofal/signals.h"
-#include "pages/failure.h"
 #include "pages/layer/query.h"
 #include "pages/layer/request_log.h"
 #include "pages/process/shell_output.h"
@@ -22,6 +22,9 @@
 #include <vector>
 
 namespace cli {
+
+using namespace pages;
+
 namespace {
 
 constexpr const char *kSandbox = "caltofal-sandbox";
@@ -48,7 +51,7 @@ std::string sandboxPath(const std::string &own) {
     return access(beside.c_str(), X_OK) == 0 ? beside : kSandbox;
 }
 
-// Returns when the sandbox can not be started.
+// Returns when the sandbox cannot be started.
 void become(std::vector<std::string> words) {
     std::vector<char *> pointers;
     pointers.reserve(words.size() + 1);
@@ -62,9 +65,9 @@ void become(std::vector<std::string> words) {
 // A gateway that is not there is told by the layer, as with every other command.
 void checkStore() {
     try {
-        get({{"Device.X_ZINTU_CurrentNetwork", {}}}, Reading::Leaf);
+        get({{"Device.X_ZINTU_CurrentNetwork"}}, Reading::Leaf);
     } catch (const Failure &failure) {
-        if (failure.exit() == Exit::NoLayer) {
+        if (failure.category() == Category::NoLayer) {
             throw;
         }
     }
@@ -76,16 +79,17 @@ void checkBox(const std::string &sandbox) {
     const pid_t child = fork();
     if (child == 0) {
         dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
+        dup2(ShellOutput::descriptor(), STDERR_FILENO);
         become({sandbox, "run", "--check"});
-        _exit(static_cast<int>(Exit::Done)); // said afterwards, in the tool's words
+        _exit(kDone); // said afterwards, in the tool's words
     }
     int status = 0;
     while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
     const std::string complaint = output.end();
-    if (WIFEXITED(status) && WEXITSTATUS(status) != 0) {
+    if (WIFEXITED(status) && WEXITSTATUS(status) != kDone) {
         const std::string name = std::string(kSandbox) + ": ";
-        throw Failure(static_cast<Exit>(WEXITSTATUS(status)),
+        throw Failure(static_cast<Category>(WEXITSTATUS(status)),
                       complaint.starts_with(name) ? complaint.substr(name.size()) : complaint);
     }
 }
@@ -116,7 +120,7 @@ void needDevice() {
     std::error_code gone;
     static_cast<void>(std::filesystem::current_path(gone)); // the command keeps it in the box
     if (gone) {
-        throw Failure(Exit::Failed, "the current directory is no longer there: change to another one");
+        throw Failure(Category::Failed, "the current directory is no longer there: change to another one");
     }
     const std::string own = ownPath();
     const std::string sandbox = sandboxPath(own);
@@ -132,7 +136,7 @@ void needDevice() {
     become(words);
     const int error = errno;
     holdSignals(false);
-    throw Failure(Exit::NoBox, std::string(kSandbox) + " can not be started: " + strerror(error));
+    throw Failure(kNoBox, std::string(kSandbox) + " cannot be started: " + strerror(error));
 }
 
 } // namespace cli

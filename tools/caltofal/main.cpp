@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include "caltofal.h"
 #include "caltofal/command_line.h"
-#include "caltofal/console_capture.h"
 #include "caltofal/device.h"
+#include "caltofal/exit.h"
 #include "caltofal/print.h"
+#include "caltofal/printable.h"
 #include "caltofal/signals.h"
 #include "caltofal/trace.h"
 #include "pages/layer/request_log.h"
 #include "pages/process/streams.h"
-#include "pages/text.h"
-
-#include "caltofal.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -22,6 +21,7 @@
 namespace {
 
 using namespace cli;
+using pages::Category, pages::Failure;
 
 constexpr uint16_t kLogToStdout = 2; // of unfaltocalLogType
 
@@ -36,7 +36,7 @@ void arrangeTrace(const Options &options) {
         showTrace();
         unfaltocalLogType |= kLogToStdout;
     }
-    if (options.trace || isSandbox()) {
+    if (options.trace || pages::isSandbox()) {
         captureConsole();
     }
 }
@@ -51,19 +51,31 @@ void occupyStreams() {
     }
 }
 
+// What the command's page says. A signal ends its waiting.
+pages::Report answerOf(const Task &task) {
+    if (task.command->device) {
+        needDevice();
+    }
+    try {
+        return task.show();
+    } catch (const pages::Cancelled &cancelled) {
+        throw Interrupted(notedSignal(), cancelled.what());
+    }
+}
+
 void runCommand(int argc, char **argv) {
     Options options;
-    const Run run = parse(argc, argv, options);
-    if (!run) {
+    const Task task = parse(argc, argv, options);
+    if (!task.command) {
         return;
     }
     if (!options.gateway.empty()) {
         setenv("CALTOFAL_GATEWAY", options.gateway.c_str(), 1);
     }
     arrangeTrace(options);
-    const StdioCapture capture;
-    const Report report = run();
-    traceCollect();
+    const pages::StreamCapture capture;
+    const pages::Report report = answerOf(task);
+    collectConsole();
     print(report, options.json);
 }
 
@@ -75,18 +87,18 @@ int main(int argc, char **argv) {
     useUtf8Locale();
     rememberCommandLine(argv, asksForJson(argc, argv));
     const auto failed = [&](const Failure &failure) {
-        traceCollect();
+        collectConsole();
         printError(failure, asksForJson(argc, argv));
-        return static_cast<int>(failure.exit());
+        return static_cast<int>(failure.category());
     };
     try {
         runCommand(argc, argv);
-        return static_cast<int>(Exit::Done);
+        return kDone;
     } catch (const Failure &failure) {
         return failed(failure);
     } catch (const std::bad_alloc &) {
-        return failed({Exit::Failed, "out of memory"});
+        return failed({Category::Failed, "out of memory"});
     } catch (const std::exception &error) {
-        return failed({Exit::Failed, error.what()});
+        return failed({Category::Failed, error.what()});
     }
 }

@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "pages/report.h"
+#include "caltofal/print.h"
 
-#include "pages/failure.h"
+#include "caltofal/printable.h"
+#include "caltofal/render.h"
+#include "pages/json.h"
 
 #include <cstdlib>
 #include <iostream>
 #include <unistd.h>
 
 namespace cli {
+
+using namespace pages;
+
 namespace {
 
 bool colourWanted() {
@@ -21,19 +26,27 @@ bool colourWanted() {
 
 void flushOutput() {
     if (!std::cout.flush()) {
-        throw Failure(Exit::Failed, "standard output can not be written");
+        throw Failure(Category::Failed, "standard output cannot be written");
     }
 }
 
 void print(const Report &report, bool json) {
     if (json) {
-        std::cout << dumped(report.json, 2) << '\n';
+        std::cout << toJson(report.json, 2) << '\n';
     } else {
         std::cout << (report.raw.empty() ? render(report.table, colourWanted()) : report.raw);
     }
     flushOutput();
     for (const std::string &note : report.notes) {
         std::cerr << "caltofal: " << printable(note) << '\n';
+    }
+}
+
+void printError(const Failure &failure, bool json) {
+    if (json) {
+        std::cerr << toJson(errorValue(failure)) << '\n';
+    } else {
+        std::cerr << "caltofal: " << printable(failure.what()) << '\n';
     }
 }
 

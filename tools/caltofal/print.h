@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
-// A failure on standard error.
+// Answers on standard output, words on standard error.
 #pragma once
 
 #include "pages/failure.h"
-#include "pages/text.h"
+#include "pages/report.h"
 
 namespace cli {
 
-// {"error": {"code", "exit", "message", "object"}}; code and object are null where there is none.
-Json errorJson(const Failure &failure);
+// Throws Failure when standard output did not take all of it.
+void flushOutput();
 
-void printError(const Failure &failure, bool json);
+// The data, then the notes. Throws like flushOutput().
+void print(const pages::Report &report, bool json);
+
+void printError(const pages::Failure &failure, bool json);
 
 } // namespace cli

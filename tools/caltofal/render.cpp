@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "pages/table.h"
+#include "caltofal/render.h"
 
-#include "pages/text.h"
+#include "caltofal/printable.h"
 
 #include <cstdlib>
 #include <libsmartcols.h>
@@ -10,6 +10,9 @@
 #include <sstream>
 
 namespace cli {
+
+using namespace pages;
+
 namespace {
 
 struct Release {
@@ -59,7 +62,7 @@ std::string cellText(const std::string &text) {
     return printable(result);
 }
 
-void addRow(libscols_table *table, const std::vector<Cell> &row) {
+void addRow(libscols_table *table, const Row &row) {
     libscols_line *line = scols_table_new_line(table, nullptr);
     if (!line) {
         throw std::bad_alloc();
@@ -90,7 +93,7 @@ std::string render(const Table &table, bool colour) {
         return {};
     }
     const Scols scols = newTable(table, colour);
-    for (const std::vector<Cell> &row : table.rows) {
+    for (const Row &row : table.rows) {
         addRow(scols.get(), row);
     }
     char *lines = nullptr;

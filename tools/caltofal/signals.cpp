@@ -1,25 +1,19 @@
 // SPDX-License-Identifier: MIT
-//
-// The library runs the device's tools by system(), which has the process ignore the keyboard's signals meanwhile. Its
-// calls bind to the function below, which loses none.
 #include "caltofal/signals.h"
 
-#include "caltofal/print.h"
+#include "caltofal/exit.h"
 #include "caltofal/terminal.h"
+#include "pages/json.h"
 
 #include <array>
-#include <cerrno>
 #include <csignal>
-#include <cstdlib>
 #include <fcntl.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace cli {
 namespace {
 
 constexpr std::array kSignals = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
-constexpr int kNotExecutable = 127;
 
 volatile sig_atomic_t deferred = 0;
 volatile sig_atomic_t came = 0;
@@ -56,14 +50,6 @@ bool isIgnored(int signal) {
     return action.sa_handler == SIG_IGN;
 }
 
-void letSignalsKill() {
-    for (const int signal : kSignals) {
-        if (!isIgnored(signal)) {
-            std::signal(signal, SIG_DFL);
-        }
-    }
-}
-
 } // namespace
 
 void watchSignals(bool json) {
@@ -74,7 +60,7 @@ void watchSignals(bool json) {
     action.sa_mask = watched();
     for (size_t i = 0; i < kSignals.size(); ++i) {
         const Interrupted failure(kSignals[i], "interrupted");
-        lines[i] = json ? dumped(errorJson(failure)) + "\n" : "caltofal: interrupted\n";
+        lines[i] = json ? pages::toJson(errorValue(failure)) + "\n" : "caltofal: interrupted\n";
         if (!isIgnored(kSignals[i])) {
             sigaction(kSignals[i], &action, nullptr);
         }
@@ -96,25 +82,3 @@ void holdSignals(bool hold) {
 }
 
 } // namespace cli
-
-extern "C" __attribute__((visibility("default"))) int system(const char *command) {
-    if (!command) {
-        return 1;
-    }
-    // The child must not handle a signal in the tool's name.
-    const sigset_t set = cli::watched();
-    sigset_t before;
-    pthread_sigmask(SIG_BLOCK, &set, &before);
-    const pid_t child = fork();
-    if (child == 0) {
-        cli::letSignalsKill();
-        pthread_sigmask(SIG_SETMASK, &before, nullptr);
-        execl("/bin/sh", "sh", "-c", command, nullptr);
-        _exit(cli::kNotExecutable);
-    }
-    pthread_sigmask(SIG_SETMASK, &before, nullptr);
-    int status = -1;
-    while (child > 0 && waitpid(child, &status, 0) < 0 && errno == EINTR) {
-    }
-    return status;
-}

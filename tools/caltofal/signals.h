@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // SIGINT, SIGTERM, SIGHUP and SIGQUIT. They end the program with a line and 128 + the signal's number from the start;
-// only a command that has something to put in order first (waiting.h) defers them.
+// only a command that has something to put in order first (terminal_wait.h) defers them.
 #pragma once
 
 namespace cli {

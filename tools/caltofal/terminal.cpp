@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/terminal.h"
 
-#include "pages/text.h"
+#include "caltofal/printable.h"
 
 #include <cerrno>
 #include <cstdlib>

@@ -7,7 +7,7 @@
 
 namespace cli {
 
-// Writes all of it; what can not be written is lost.
+// Writes all of it; what cannot be written is lost.
 void writeAll(int descriptor, std::string_view text);
 
 // A line on standard error that says what is being waited for; gone when the object is. Nothing where standard error

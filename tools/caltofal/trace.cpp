@@ -1,47 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/trace.h"
 
-#include "caltofal/console_capture.h"
+#include "caltofal/printable.h"
 #include "caltofal/terminal.h"
-#include "pages/text.h"
+#include "pages/process/console.h"
+#include "pages/process/output.h"
 
 #include <array>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace cli {
+
+using pages::Source;
+
 namespace {
 
 constexpr std::array<std::string_view, 4> kTags = {"console", "stderr", "log", "request"};
 
 bool shown = false;
-int output = STDERR_FILENO;
+int console = -1; // all console descriptors share its offset
 std::array<std::string, kTags.size()> unfinished;
 
 void show(std::string_view tag, std::string_view line) {
     const size_t start = line.find_first_not_of(" \t\r");
     if (start != std::string_view::npos) {
-        writeAll(output, "[" + std::string(tag) + "] " + printable(line.substr(start)) + "\n");
+        writeAll(STDERR_FILENO, "[" + std::string(tag) + "] " + printable(line.substr(start)) + "\n");
     }
 }
 
-} // namespace
-
-void showTrace() {
-    shown = true;
-}
-
-void traceTo(int descriptor) {
-    output = descriptor;
-}
-
-bool traceShown() {
-    return shown;
-}
-
-void traceText(Source source, std::string_view text) {
-    if (!shown) {
-        return;
-    }
+void addText(Source source, std::string_view text) {
     const auto index = static_cast<size_t>(source);
     std::string &line = unfinished[index];
     line += text;
@@ -51,8 +39,38 @@ void traceText(Source source, std::string_view text) {
     }
 }
 
-void traceCollect() {
-    traceText(Source::Console, takeConsole());
+// What else was written before comes first.
+void takeText(Source source, std::string_view text) {
+    collectConsole();
+    addText(source, text);
+}
+
+} // namespace
+
+void showTrace() {
+    shown = true;
+    pages::takeOutput(takeText);
+}
+
+void captureConsole() {
+    console = memfd_create("console", MFD_CLOEXEC);
+    if (console >= 0) {
+        pages::redirectConsole(console, collectConsole);
+    }
+}
+
+void collectConsole() {
+    const off_t size = console < 0 ? 0 : lseek(console, 0, SEEK_CUR);
+    if (size <= 0) {
+        return;
+    }
+    std::string text(static_cast<size_t>(size), '\0');
+    const ssize_t got = pread(console, text.data(), text.size(), 0);
+    text.resize(got < 0 ? 0 : static_cast<size_t>(got));
+    lseek(console, 0, SEEK_SET);
+    if (shown) {
+        addText(Source::Console, text);
+    }
 }
 
 } // namespace cli

@@ -1,25 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/print.h"
+#include "pages/failure.h"
 
-#include <iostream>
+namespace pages {
 
-namespace cli {
-
-Json errorJson(const Failure &failure) {
-    Json error = Json::object();
-    error["code"] = failure.code() == 0 ? Json() : Json(failure.code());
-    error["exit"] = static_cast<int>(failure.exit());
-    put(error, "message", failure.what());
-    put(error, "object", failure.object().empty() ? Json() : Json(failure.object()));
-    return {{"error", error}};
+Value errorValue(const Failure &failure) {
+    return Value::object({{"error", Value::object({
+                                        {"code", failure.code() == 0 ? Value() : Value(failure.code())},
+                                        {"exit", static_cast<int>(failure.category())},
+                                        {"message", failure.what()},
+                                        {"object", failure.object().empty() ? Value() : Value(failure.object())},
+                                    })}});
 }
 
-void printError(const Failure &failure, bool json) {
-    if (json) {
-        std::cerr << dumped(errorJson(failure)) << '\n';
-    } else {
-        std::cerr << "caltofal: " << printable(failure.what()) << '\n';
-    }
-}
-
-} // namespace cli
+} // namespace pages

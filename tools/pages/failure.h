@@ -1,53 +1,55 @@
 // SPDX-License-Identifier: MIT
-// Why a command did not do what was asked, and the exit code that says so to scripts.
+// Why a page could not be shown or a change not be made.
 #pragma once
+
+#include "pages/value.h"
 
 #include <stdexcept>
 #include <string>
 
-namespace cli {
+namespace pages {
 
-enum class Exit {
-    Done = 0,
+// The kinds of failure. Their numbers are published: errors carry them in JSON as "exit", for scripts to tell them
+// apart, and a program that ends after one page ends with them.
+enum class Category : int {
     Failed = 1,
-    Usage = 2,   // the command line is wrong
+    Usage = 2,   // what was asked for cannot be understood
     TimeOut = 3, // waiting was in vain
-    NoLayer = 4, // no gateway, or its store can not be used
+    NoLayer = 4, // no gateway, or its store cannot be used
     Refused = 5, // read-only, wrong type, out of range
     Absent = 10, // no such object, parameter or match
-    NoBox = 77,  // the sandbox's device box can not be entered here
 };
 
 // The message is one line that names the culprit.
 class Failure : public std::runtime_error {
   public:
     // `code` is the configuration layer's, 0 where it was not asked; `object` may be empty.
-    Failure(Exit exit, const std::string &message, std::string object = {}, int code = 0)
-        : std::runtime_error(message), exit_(exit), code_(code), object_(std::move(object)) {}
+    Failure(Category category, const std::string &message, std::string object = {}, int code = 0)
+        : std::runtime_error(message), category_(category), code_(code), object_(std::move(object)) {}
 
-    [[nodiscard]] Exit exit() const { return exit_; }
+    [[nodiscard]] Category category() const { return category_; }
     [[nodiscard]] int code() const { return code_; }
     [[nodiscard]] const std::string &object() const { return object_; }
 
   private:
-    Exit exit_;
+    Category category_;
     int code_;
     std::string object_;
 };
 
-// A wrong command line.
+// What was asked for cannot be understood.
 class Usage : public Failure {
   public:
-    explicit Usage(const std::string &message) : Failure(Exit::Usage, message) {}
+    explicit Usage(const std::string &message) : Failure(Category::Usage, message) {}
 };
 
-constexpr int kExitSignal = 128;
-
-// Ended by a signal that the command was waiting for beside its work.
-class Interrupted : public Failure {
+// A wait was ended by who waits (process/wait.h).
+class Cancelled : public Failure {
   public:
-    explicit Interrupted(int signal, const std::string &message)
-        : Failure(static_cast<Exit>(kExitSignal + signal), message) {}
+    explicit Cancelled(const std::string &message) : Failure(Category::Failed, message) {}
 };
 
-} // namespace cli
+// {"error": {"code", "exit", "message", "object"}}; code and object are null where there is none.
+Value errorValue(const Failure &failure);
+
+} // namespace pages

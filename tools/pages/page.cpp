@@ -5,30 +5,30 @@
 #include <charconv>
 #include <cstdio>
 
-namespace cli {
+namespace pages {
 namespace {
 
-std::string readableNumber(const Json &value) {
-    if (!value.is_number_float()) {
-        return value.dump();
+std::string readableNumber(const Value &value) {
+    if (!value.isFraction()) {
+        return std::to_string(value.whole());
     }
     char text[32];
-    snprintf(text, sizeof text, "%.1f", value.get<double>());
+    snprintf(text, sizeof text, "%.1f", value.number());
     return text;
 }
 
-std::string plain(const Json &value) {
-    if (value.is_boolean()) {
-        return value.get<bool>() ? "yes" : "no";
+std::string plain(const Value &value) {
+    if (value.isFlag()) {
+        return value.flag() ? "yes" : "no";
     }
-    if (value.is_number()) {
+    if (value.isNumber()) {
         return readableNumber(value);
     }
-    if (value.is_string()) {
-        return value.get<std::string>();
+    if (value.isText()) {
+        return value.text();
     }
     std::string list;
-    for (const Json &item : value) {
+    for (const Value &item : value.items()) {
         list += (list.empty() ? "" : ", ") + plain(item);
     }
     return list;
@@ -45,15 +45,15 @@ bool isKnown(const Section &section) {
            std::any_of(section.fields.begin(), section.fields.end(), [](const Field &field) { return isKnown(field); });
 }
 
-Json jsonOf(const Section &section) {
-    Json object = Json::object();
+Value valueOf(const Section &section) {
+    Value object = Value::object();
     for (const Field &field : section.fields) {
-        put(object, field.key, field.value);
+        object[field.key] = field.value;
     }
     return object;
 }
 
-Style styleOf(const Json &value) {
+Style styleOf(const Value &value) {
     if (value == "Up" || value == "connected") {
         return Style::Good;
     }
@@ -74,7 +74,7 @@ void addRows(Table &table, const Section &section) {
 
 } // namespace
 
-std::string readable(const Json &value, const std::string &unit) {
+std::string readable(const Value &value, const std::string &unit) {
     const std::string text = plain(value);
     if (text.empty()) {
         return "-";
@@ -82,8 +82,16 @@ std::string readable(const Json &value, const std::string &unit) {
     return unit.empty() ? text : text + " " + unit;
 }
 
-Json decibels(const std::string &list) {
-    Json numbers = Json::array();
+Row rowOf(const Value &object, std::initializer_list<const char *> keys) {
+    Row row;
+    for (const char *key : keys) {
+        row.push_back({readable(object[key])});
+    }
+    return row;
+}
+
+Value decibels(const std::string &list) {
+    Value numbers = Value::list();
     const char *end = list.data() + list.size();
     for (const char *at = list.data(); at < end;) {
         double number = 0;
@@ -92,13 +100,13 @@ Json decibels(const std::string &list) {
             return list;
         }
         const bool whole = std::find(at, behind, '.') == behind;
-        numbers.push_back(whole ? number / 10 : number);
+        numbers.push(whole ? number / 10 : number);
         at = behind + 1;
     }
     return numbers;
 }
 
-Json Page::value(std::string_view path) const {
+Value Page::value(std::string_view path) const {
     const size_t dot = path.find('.');
     const std::string_view sectionKey = dot == std::string_view::npos ? "" : path.substr(0, dot);
     const std::string_view fieldKey = dot == std::string_view::npos ? path : path.substr(dot + 1);
@@ -112,14 +120,16 @@ Json Page::value(std::string_view path) const {
     return {};
 }
 
-Report report(const Page &page) {
-    Report result{Json::object(), {}, {}, page.notes};
-    for (const Section &section : page.sections) {
+Page::operator Report() const {
+    Report result{.json = Value::object(), .notes = notes};
+    for (const Section &section : sections) {
         const bool known = isKnown(section);
-        if (section.key.empty()) {
-            result.json.update(jsonOf(section));
+        if (!section.key.empty()) {
+            result.json[section.key] = known ? valueOf(section) : Value();
         } else {
-            result.json[section.key] = known ? jsonOf(section) : Json();
+            for (const Field &field : section.fields) {
+                result.json[field.key] = field.value;
+            }
         }
         if (known) {
             addRows(result.table, section);
@@ -128,4 +138,4 @@ Report report(const Page &page) {
     return result;
 }
 
-} // namespace cli
+} // namespace pages

@@ -3,18 +3,19 @@
 #pragma once
 
 #include "pages/report.h"
+#include "pages/text.h"
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
-namespace cli {
+namespace pages {
 
 struct Field {
     std::string key; // in JSON, with the unit where there is one
     std::string label;
-    Json value; // null: the gateway does not say
-    std::string unit;
+    Value value; // null: the gateway does not say
+    std::string unit = {};
 };
 
 struct Section {
@@ -25,42 +26,50 @@ struct Section {
 
 struct Page {
     std::vector<Section> sections;
-    std::vector<std::string> notes;
+    std::vector<std::string> notes = {};
 
     // A field's value by "key" or "section.key"; null when there is none.
-    [[nodiscard]] Json value(std::string_view path) const;
+    [[nodiscard]] Value value(std::string_view path) const;
+
+    // A section with nothing known in it is left out for people and null in JSON.
+    operator Report() const; // NOLINT(google-explicit-constructor): a page is what a report is made of
 };
 
-// A section with nothing known in it is left out for people and null in JSON.
-Report report(const Page &page);
+// A page without sections.
+inline Page pageOf(std::vector<Field> fields) {
+    return {{{"", "", std::move(fields)}}};
+}
 
 // The value as people read it: "-" for nothing, "yes" and "no" for flags.
-std::string readable(const Json &value, const std::string &unit = {});
+std::string readable(const Value &value, const std::string &unit = {});
+
+// A table's row from members of an object.
+Row rowOf(const Value &object, std::initializer_list<const char *> keys);
 
 // What a number or a flag holds before the library is called: it stays where the gateway does not say.
 constexpr int32_t kUntouched = INT32_MIN;
 constexpr uint8_t kUntouchedFlag = 0xff;
 
-template <typename... Number>
+template <class... Number>
 void untouch(Number &...numbers) {
     ((numbers = kUntouched), ...);
 }
 
-inline Json number(int32_t value) {
-    return value == kUntouched ? Json() : Json(value);
+inline Value number(int32_t value) {
+    return value == kUntouched ? Value() : Value(value);
 }
-inline Json flag(int32_t value) {
-    return value == kUntouched ? Json() : Json(value != 0);
+inline Value flag(int32_t value) {
+    return value == kUntouched ? Value() : Value(value != 0);
 }
-inline Json flag(uint8_t value) {
-    return value == kUntouchedFlag ? Json() : Json(value != 0);
+inline Value flag(uint8_t value) {
+    return value == kUntouchedFlag ? Value() : Value(value != 0);
 }
 // Units of 0.1.
-inline Json tenths(int32_t value) {
-    return value == kUntouched ? Json() : Json(value / 10.0);
+inline Value tenths(int32_t value) {
+    return value == kUntouched ? Value() : Value(value / 10.0);
 }
 // A comma-separated list of attenuations, in dB: whole numbers count 0.1 dB, those with a decimal point are in dB
 // already. As text where one of them is no number.
-Json decibels(const std::string &list);
+Value decibels(const std::string &list);
 
-} // namespace cli
+} // namespace pages

@@ -1,27 +1,25 @@
 // SPDX-License-Identifier: MIT
-// What a command found out: one answer, printed as JSON or for people.
+// What a page found out: one answer, as a value for JSON and as a table for people.
 #pragma once
 
 #include "pages/table.h"
-#include "pages/text.h"
+#include "pages/value.h"
 
 #include <string>
 #include <vector>
 
-namespace cli {
+namespace pages {
 
-struct Report { // NOLINT(bugprone-exception-escape): the JSON library checks itself when moving
-    Json json;
-    Table table;
-    std::string raw;                // for scripts, byte for byte; instead of the table where not empty
-    std::vector<std::string> notes; // words for people, beside the data
+struct Report {
+    Value json = {};
+    Table table = {};
+    std::string raw = {};                // for scripts, byte for byte; instead of the table where not empty
+    std::vector<std::string> notes = {}; // words for people, beside the data
 };
 
-// Writes the data to standard output and the notes to standard error. Throws Failure when standard output can not be
-// written.
-// Throws Failure when standard output did not take all of it.
-void flushOutput();
+// One value, alone in its line.
+inline Report single(const char *key, const std::string &value) {
+    return {.json = Value::object({{key, value}}), .raw = value + "\n"};
+}
 
-void print(const Report &report, bool json);
-
-} // namespace cli
+} // namespace pages

@@ -1,25 +1,24 @@
 // SPDX-License-Identifier: MIT
-// Aligned columns for people.
+// Aligned columns for people, before they are drawn.
 #pragma once
 
 #include <string>
 #include <vector>
 
-namespace cli {
+namespace pages {
 
 enum class Style { Plain, Heading, Good, Bad };
 
 struct Cell {
-    std::string text; // what is not printable is shown escaped
+    std::string text; // any bytes
     Style style = Style::Plain;
 };
 
+using Row = std::vector<Cell>;
+
 struct Table {
-    std::vector<std::string> headings; // none: no heading line, as many columns as the first row has
-    std::vector<std::vector<Cell>> rows;
+    std::vector<std::string> headings = {}; // none: no heading line, as many columns as the first row has
+    std::vector<Row> rows = {};
 };
 
-// The lines of a table. Nothing is ever cut.
-std::string render(const Table &table, bool colour);
-
-} // namespace cli
+} // namespace pages

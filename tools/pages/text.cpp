@@ -3,13 +3,12 @@
 
 #include <algorithm>
 #include <charconv>
-#include <clocale>
-#include <langinfo.h>
 
-namespace cli {
+namespace pages {
 namespace {
 
 constexpr char kDigits[] = "0123456789abcdef";
+constexpr size_t kQuotedMax = 40;
 
 // Endings of the names of parameters whose values are free text.
 constexpr std::string_view kFreeText[] = {
@@ -23,64 +22,53 @@ bool isFreeText(std::string_view parameter) {
 }
 
 // A decimal number as a program would write it: no sign but '-', no leading zeros. Anything else may mean its digits.
-template <typename Number>
+template <class Number>
 bool readNumber(std::string_view value, Number &number) {
     const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
     return error == std::errc() && end == value.data() + value.size() && std::to_string(number) == value;
 }
 
-// Characters beyond ASCII that a terminal acts on, or shows nothing of: C1 controls, other line ends, marks and
-// overrides of direction, invisible ones.
-struct Span {
-    uint32_t first, last;
+// Characters by their first byte: how many bytes they have, and what the second may be.
+struct Lead {
+    unsigned char first, last;
+    size_t length;
+    unsigned char secondFirst, secondLast;
 };
-constexpr Span kInvisible[] = {{0x80, 0x9f},     {0x61c, 0x61c},   {0x200b, 0x200f},  {0x2028, 0x202e},
-                               {0x2060, 0x206f}, {0xfeff, 0xfeff}, {0xe0000, 0xe007f}};
+constexpr Lead kLeads[] = {
+    {0x00, 0x7f, 1, 0, 0},       {0xc2, 0xdf, 2, 0x80, 0xbf}, {0xe0, 0xe0, 3, 0xa0, 0xbf},
+    {0xe1, 0xec, 3, 0x80, 0xbf}, {0xed, 0xed, 3, 0x80, 0x9f}, {0xee, 0xef, 3, 0x80, 0xbf},
+    {0xf0, 0xf0, 4, 0x90, 0xbf}, {0xf1, 0xf3, 4, 0x80, 0xbf}, {0xf4, 0xf4, 4, 0x80, 0x8f},
+};
 
-// The length of the character that valid UTF-8 begins with.
-size_t lengthOf(unsigned char first) {
-    return first < 0x80 ? 1 : first < 0xe0 ? 2 : first < 0xf0 ? 3 : 4;
-}
-
-uint32_t codePoint(std::string_view character) {
-    uint32_t code = static_cast<unsigned char>(character[0]) & (0xffU >> (character.size() + 1));
-    for (const char c : character.substr(1)) {
-        code = (code << 6) | (static_cast<unsigned char>(c) & 0x3fU);
-    }
-    return code;
-}
-
-bool localeIsUtf8() {
-    return std::string_view(nl_langinfo(CODESET)) == "UTF-8";
-}
-
-// One character of valid UTF-8, or a byte of something else.
-bool isShown(std::string_view character) {
-    const auto byte = static_cast<unsigned char>(character[0]);
-    if (character.size() == 1) {
-        return byte >= ' ' && byte < 0x7f;
-    }
-    const uint32_t code = codePoint(character);
-    return std::none_of(std::begin(kInvisible), std::end(kInvisible),
-                        [&](const Span &span) { return code >= span.first && code <= span.last; });
+bool isBetween(char byte, unsigned char first, unsigned char last) {
+    const auto value = static_cast<unsigned char>(byte);
+    return value >= first && value <= last;
 }
 
 } // namespace
 
-void useUtf8Locale() {
-    setlocale(LC_CTYPE, "");
-    if (!localeIsUtf8()) {
-        setlocale(LC_CTYPE, "C.UTF-8");
+size_t utf8Length(std::string_view text) {
+    for (const Lead &lead : kLeads) {
+        if (text.empty() || !isBetween(text[0], lead.first, lead.last)) {
+            continue;
+        }
+        const bool whole =
+            text.size() >= lead.length && (lead.length < 2 || isBetween(text[1], lead.secondFirst, lead.secondLast)) &&
+            (lead.length < 3 || isBetween(text[2], 0x80, 0xbf)) && (lead.length < 4 || isBetween(text[3], 0x80, 0xbf));
+        return whole ? lead.length : 0;
     }
+    return 0;
 }
 
 bool isUtf8(std::string_view text) {
-    try {
-        static_cast<void>(Json(text).dump());
-        return true;
-    } catch (const Json::type_error &) {
-        return false;
+    while (!text.empty()) {
+        const size_t length = utf8Length(text);
+        if (length == 0) {
+            return false;
+        }
+        text.remove_prefix(length);
     }
+    return true;
 }
 
 std::string hexOf(std::string_view text) {
@@ -93,31 +81,11 @@ std::string hexOf(std::string_view text) {
     return hex;
 }
 
-std::string printable(std::string_view text) {
-    const bool utf8 = localeIsUtf8() && isUtf8(text);
-    std::string result;
-    for (size_t at = 0; at < text.size();) {
-        const std::string_view character = text.substr(at, utf8 ? lengthOf(static_cast<unsigned char>(text[at])) : 1);
-        at += character.size();
-        if (isShown(character)) {
-            result += character;
-        } else {
-            for (const char &byte : character) {
-                result += "\\x" + hexOf({&byte, 1});
-            }
-        }
-    }
-    return result;
+std::string quoted(std::string_view text) {
+    return '"' + std::string(text.substr(0, kQuotedMax)) + '"';
 }
 
-void put(Json &object, const std::string &key, const Json &value) {
-    object[key] = value;
-    if (value.is_string() && !isUtf8(value.get_ref<const std::string &>())) {
-        object[key + "_hex"] = hexOf(value.get_ref<const std::string &>());
-    }
-}
-
-Json typed(std::string_view parameter, std::string_view value) {
+Value typed(std::string_view parameter, std::string_view value) {
     if (isFreeText(parameter)) {
         return value;
     }
@@ -129,11 +97,7 @@ Json typed(std::string_view parameter, std::string_view value) {
     if (readNumber(value, number)) {
         return number;
     }
-    return readNumber(value, large) ? Json(large) : Json(value);
+    return readNumber(value, large) ? Value(large) : Value(value);
 }
 
-std::string dumped(const Json &json, int indent) {
-    return json.dump(indent, ' ', false, Json::error_handler_t::replace);
-}
-
-} // namespace cli
+} // namespace pages

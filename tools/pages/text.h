@@ -1,37 +1,45 @@
 // SPDX-License-Identifier: MIT
-// Text that may hold anything, made fit for a terminal and for JSON.
+// Texts of records and answers: they may hold any bytes.
 #pragma once
 
+#include "pages/value.h"
+
 #include <cstring>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 
-namespace cli {
+namespace pages {
 
-using Json = nlohmann::ordered_json;
-
-// Takes the user's locale, or "C.UTF-8" where that one knows ASCII alone. Before the first text is shown.
-void useUtf8Locale();
+// How many bytes the first character of a text takes in UTF-8; 0 where its bytes are none.
+size_t utf8Length(std::string_view text);
 
 bool isUtf8(std::string_view text);
 
 // Two lower-case digits a byte.
 std::string hexOf(std::string_view text);
 
-// Control characters, marks of direction, and all but ASCII where the text is no UTF-8 or the system has no locale
-// for it, as "\x1b".
-std::string printable(std::string_view text);
+// A text of the outside as a message quotes it: its first 40 bytes in quotation marks.
+std::string quoted(std::string_view text);
 
-// Sets object[key]. A text that is no UTF-8 gets a sibling "KEY_hex" with its bytes.
-void put(Json &object, const std::string &key, const Json &value);
+// Texts with ", " between them.
+template <class Texts>
+std::string joined(const Texts &texts) {
+    std::string result;
+    for (const auto &text : texts) {
+        result += result.empty() ? "" : ", ";
+        result += text;
+    }
+    return result;
+}
+
+// A path without its last dot, as answers name objects.
+inline std::string_view withoutDot(std::string_view path) {
+    return path.substr(0, path.find_last_not_of('.') + 1);
+}
 
 // A parameter's value with the type that it looks like: flag, number or text. What people choose freely (names,
 // descriptions, SSIDs, keys) is always text.
-Json typed(std::string_view parameter, std::string_view value);
-
-// One line; bytes that are no UTF-8 are replaced.
-std::string dumped(const Json &json, int indent = -1);
+Value typed(std::string_view parameter, std::string_view value);
 
 // A fixed-size field, with or without a terminator.
 template <size_t size>
@@ -39,4 +47,4 @@ std::string text(const char (&field)[size]) {
     return {field, strnlen(field, size)};
 }
 
-} // namespace cli
+} // namespace pages

@@ -1,21 +1,55 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/commands.h"
-
-#include "caltofal/command.h"
+#include "caltofal/commands/commands.h"
+#include "caltofal/terminal_wait.h"
+#include "pages/checked.h"
 #include "pages/mesh/pages.h"
 
 namespace cli {
 namespace {
 
-using namespace mesh;
+using namespace pages;
 
-Run define(CLI::App &command) {
-    static constexpr const Noun *kVerbs[] = {&kStatusVerb, &kEnableVerb, &kDisableVerb, &kSyncVerb, &kIpVerb};
-    return defineVerbs(command, "caltofal mesh", kVerbs);
+Show prepareStatus(const Arguments & /*none*/) {
+    return mesh::status;
 }
+
+template <bool on>
+Show prepareSwitch(const Arguments & /*none*/) {
+    return [] { return mesh::enable(on); };
+}
+
+Show prepareSync(const Arguments & /*none*/) {
+    return [] {
+        TerminalWait wait;
+        return mesh::sync(wait);
+    };
+}
+
+Show prepareIp(const Arguments &given) {
+    return [mac = checkedMac(given.word("MAC"))] { return mesh::ip(mac); };
+}
+
+const Command kVerbs[] = {
+    {"status", "Whether the mesh is on, and who belongs to it", "-g mesh", prepareStatus, {}, true},
+    {"enable", "Switch the mesh on", "", prepareSwitch<true>},
+    {"disable", "Switch the mesh off", "", prepareSwitch<false>},
+    {"sync", "Have the satellites take over this gateway's settings", "-g mesh", prepareSync, {}, true},
+    {"ip",
+     "The IP address of a satellite",
+     "02:00:5e:20:00:01 -g mesh",
+     prepareIp,
+     {{"MAC", Take::Word, "A MAC address"}},
+     true},
+};
+
+const Command kCommands[] = {
+    {"mesh", "The roaming mesh and its satellites", "status -g mesh", nullptr, {}, false, kVerbs},
+};
 
 } // namespace
 
-const Noun kMeshNoun = {"mesh", "The roaming mesh and its satellites", "status -g mesh", define};
+std::span<const Command> meshCommands() {
+    return kCommands;
+}
 
 } // namespace cli

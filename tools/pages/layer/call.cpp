@@ -3,10 +3,11 @@
 
 #include "pages/layer/code.h"
 #include "pages/layer/request_log.h"
+#include "pages/text.h"
 
 #include <algorithm>
 
-namespace cli {
+namespace pages {
 namespace {
 
 bool isDecisive(const Request &request, std::initializer_list<std::string_view> beginnings) {
@@ -30,40 +31,39 @@ const Request *culprit(std::span<const Request> asked, std::initializer_list<std
 
 Failure failureOf(const Request &request) {
     const std::string objects = objectNames(request);
-    const std::string again = objects.substr(0, objects.find_last_not_of('.') + 1) + ": ";
+    const std::string again = std::string(withoutDot(objects)) + ": ";
     std::string reason = reasonOf(request);
     if (reason.starts_with(again)) {
         reason.erase(0, again.size());
     }
-    return {exitOf(request.code), "request on " + objects + " failed: " + reason, objects, request.code};
+    return {categoryOf(request.code), "request on " + objects + " failed: " + reason, objects, request.code};
 }
 
 } // namespace
 
 int ask(const std::function<int()> &call, const Expectation &expectation) {
-    const size_t before = requests().size();
+    const RequestLog log;
     const int result = call();
     if (result >= 0 || (expectation.tolerated != 0 && result == expectation.tolerated)) {
         return result;
     }
-    const std::span<const Request> asked = requests().subspan(before);
-    if (const Request *request = culprit(asked, expectation.decisive)) {
+    if (const Request *request = culprit(log.requests(), expectation.decisive)) {
         throw failureOf(*request);
     }
     if (result == -1) {
-        throw Failure(Exit::Absent, expectation.absent);
+        throw Failure(Category::Absent, expectation.absent);
     }
-    throw Failure(exitOf(result), expectation.absent + ": " + meaningOf(result), {}, result);
+    throw Failure(categoryOf(result), expectation.absent + ": " + meaningOf(result), {}, result);
 }
 
 int askEvery(const std::function<int()> &call) {
     const auto strict = [&] {
-        const size_t before = requests().size();
+        const RequestLog log;
         const int result = call();
-        const std::span<const Request> asked = requests().subspan(before);
+        const std::span<const Request> asked = log.requests();
         return std::any_of(asked.begin(), asked.end(), [](const Request &one) { return one.code != 0; }) ? -1 : result;
     };
     return ask(strict, {"the library failed"});
 }
 
-} // namespace cli
+} // namespace pages

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace cli {
+namespace pages {
 
 struct Expectation {
     // What to say when every request was answered and the function failed all the same: the gateway lacks something.
@@ -26,4 +26,4 @@ int ask(const std::function<int()> &call, const Expectation &expectation);
 // Likewise for a function that hides a failed request behind what it found until then: each of its requests counts.
 int askEvery(const std::function<int()> &call);
 
-} // namespace cli
+} // namespace pages

@@ -3,28 +3,28 @@
 
 #include "caltofal.h"
 
-namespace cli {
+namespace pages {
 namespace {
 
 struct Row {
     int code;
-    Exit exit;
+    Category category;
     const char *meaning;
 };
 
 constexpr Row kRows[] = {
-    {CALTOFAL_BAD_MESSAGE, Exit::Failed, "the message is malformed"},
-    {CALTOFAL_ABSENT_OBJECT, Exit::Absent, "the object does not exist"},
-    {CALTOFAL_UNKNOWN_PARAMETER, Exit::Absent, "the object has no such parameter"},
-    {CALTOFAL_READ_ONLY, Exit::Refused, "the parameter or table can not be written"},
-    {CALTOFAL_WRONG_TYPE, Exit::Refused, "the value is not of the parameter's type"},
-    {CALTOFAL_OUT_OF_RANGE, Exit::Refused, "the value is outside the parameter's range, length or enumeration"},
-    {CALTOFAL_NOT_A_TABLE, Exit::Refused, "add on what is no table, or del on what is no instance"},
-    {CALTOFAL_NO_MATCH, Exit::Absent, "no instance matches the filter"},
-    {CALTOFAL_NO_GATEWAY, Exit::NoLayer, "there is no gateway to talk to"},
-    {CALTOFAL_STORE_BUSY, Exit::NoLayer, "the store stayed locked by another process"},
-    {CALTOFAL_STORE_FAILED, Exit::NoLayer, "the store can not be read or written"},
-    {CALTOFAL_NO_MEMORY, Exit::Failed, "out of memory"},
+    {CALTOFAL_BAD_MESSAGE, Category::Failed, "the message is malformed"},
+    {CALTOFAL_ABSENT_OBJECT, Category::Absent, "the object does not exist"},
+    {CALTOFAL_UNKNOWN_PARAMETER, Category::Absent, "the object has no such parameter"},
+    {CALTOFAL_READ_ONLY, Category::Refused, "the parameter or table cannot be written"},
+    {CALTOFAL_WRONG_TYPE, Category::Refused, "the value is not of the parameter's type"},
+    {CALTOFAL_OUT_OF_RANGE, Category::Refused, "the value is outside the parameter's range, length or enumeration"},
+    {CALTOFAL_NOT_A_TABLE, Category::Refused, "add on what is no table, or del on what is no instance"},
+    {CALTOFAL_NO_MATCH, Category::Absent, "no instance matches the filter"},
+    {CALTOFAL_NO_GATEWAY, Category::NoLayer, "there is no gateway to talk to"},
+    {CALTOFAL_STORE_BUSY, Category::NoLayer, "the store stayed locked by another process"},
+    {CALTOFAL_STORE_FAILED, Category::NoLayer, "the store cannot be read or written"},
+    {CALTOFAL_NO_MEMORY, Category::Failed, "out of memory"},
 };
 
 const Row *find(int code) {
@@ -38,9 +38,9 @@ const Row *find(int code) {
 
 } // namespace
 
-Exit exitOf(int code) {
+Category categoryOf(int code) {
     const Row *row = find(code);
-    return row ? row->exit : Exit::Failed;
+    return row ? row->category : Category::Failed;
 }
 
 std::string meaningOf(int code) {
@@ -48,4 +48,4 @@ std::string meaningOf(int code) {
     return row ? row->meaning : "the configuration layer answered " + std::to_string(code);
 }
 
-} // namespace cli
+} // namespace pages

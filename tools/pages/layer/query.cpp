@@ -7,11 +7,12 @@
 #include "pages/layer/request_log.h"
 #include "pages/text.h"
 
+#include <charconv>
 #include <cstdlib>
 #include <memory>
 #include <new>
 
-namespace cli {
+namespace pages {
 namespace {
 
 constexpr uint32_t kGet = 1;
@@ -49,9 +50,10 @@ class Message {
     }
 
     void send(bool storeOnly, const std::vector<Object> &objects) {
+        const RequestLog log;
         const int code = storeOnly ? faltocal_sendQuery_ToDb(header_.get()) : faltocal_sendQuery(header_.get());
         if (code != 0) {
-            throw failureOf(code, objects);
+            throw failureOf(code, log.reason(), objects);
         }
     }
 
@@ -60,7 +62,7 @@ class Message {
         const MsgHeader *header = header_.get();
         for (const ObjectNode *node = caltofal_nextObject(header, nullptr); node;
              node = caltofal_nextObject(header, node)) {
-            Object &object = result.emplace_back(Object{text(node->name), {}});
+            Object &object = result.emplace_back(Object{text(node->name)});
             for (const ParamNode *param = caltofal_nextParam(node, nullptr); param;
                  param = caltofal_nextParam(node, param)) {
                 object.parameters.push_back({text(param->name), text(param->value)});
@@ -71,19 +73,18 @@ class Message {
 
   private:
     // The layer's own words name the culprit; without them all objects are named.
-    static Failure failureOf(int code, const std::vector<Object> &objects) {
+    static Failure failureOf(int code, const std::string &reason, const std::vector<Object> &objects) {
         std::string names;
         std::string named;
-        const std::string reason = requests().empty() ? "" : requests().back().reason;
         for (const Object &object : objects) {
             names += (names.empty() ? "" : ", ") + object.name;
-            const bool isNamed = reason.starts_with(object.name.substr(0, object.name.find_last_not_of('.') + 1));
+            const bool isNamed = reason.starts_with(withoutDot(object.name));
             if (isNamed && object.name.size() > named.size()) {
                 named = object.name;
             }
         }
         const std::string message = reason.empty() ? names + ": " + meaningOf(code) : reason;
-        return {exitOf(code), message, named.empty() ? names : named, code};
+        return {categoryOf(code), message, named.empty() ? names : named, code};
     }
 
     std::unique_ptr<MsgHeader, Release> header_;
@@ -109,4 +110,20 @@ std::vector<Object> change(const std::vector<Object> &objects, Change what, bool
     return message.objects();
 }
 
-} // namespace cli
+std::string valueOf(const Object &object, std::string_view parameter) {
+    for (const Parameter &candidate : object.parameters) {
+        if (candidate.name == parameter) {
+            return candidate.value;
+        }
+    }
+    return {};
+}
+
+int instanceOf(std::string_view path) {
+    const std::string_view name = withoutDot(path);
+    int number = 0;
+    std::from_chars(name.data() + name.rfind('.') + 1, name.data() + name.size(), number);
+    return number;
+}
+
+} // namespace pages

@@ -4,18 +4,20 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
-namespace cli {
+namespace pages {
 
 struct Parameter {
-    std::string name, value;
+    std::string name;
+    std::string value = {};
 };
 
 // An object of a request or of an answer.
 struct Object {
     std::string name;
-    std::vector<Parameter> parameters;
+    std::vector<Parameter> parameters = {};
     std::vector<Parameter> filters = {}; // of a get
 };
 
@@ -36,4 +38,10 @@ std::vector<Object> get(const std::vector<Object> &objects, Reading reading);
 // Throws Failure.
 std::vector<Object> change(const std::vector<Object> &objects, Change what, bool storeOnly);
 
-} // namespace cli
+// The value of a parameter of an answer; "" when it is not there.
+std::string valueOf(const Object &object, std::string_view parameter);
+
+// "Device.WiFi.Radio.2." -> 2; 0 when the path has no number at its end.
+int instanceOf(std::string_view path);
+
+} // namespace pages

@@ -5,21 +5,19 @@
 #include "pages/layer/request_log.h"
 
 #include "caltofal.h"
-#include "caltofal/trace.h"
 #include "pages/layer/code.h"
+#include "pages/process/output.h"
+#include "pages/text.h"
 
 #include <cstring>
 #include <dlfcn.h>
 
-namespace cli {
+namespace pages {
 namespace {
 
 using LayerCall = int (*)(MsgHeader *);
 
-std::vector<Request> &record() {
-    static std::vector<Request> all;
-    return all;
-}
+thread_local RequestLog *innermost = nullptr;
 
 // What the sandbox's libcal says about the thread's last refusal. A device's has no such function.
 auto findReason() {
@@ -44,7 +42,7 @@ void trace(const Request &request) {
     if (request.code != 0) {
         line += " (" + reasonOf(request) + ")";
     }
-    traceText(Source::Request, line + "\n");
+    output(Source::Request, line + "\n");
 }
 
 int passOn(const char *function, const char *verb, MsgHeader *message) {
@@ -52,7 +50,6 @@ int passOn(const char *function, const char *verb, MsgHeader *message) {
     if (!call) {
         return CALTOFAL_NO_GATEWAY;
     }
-    traceCollect();
     Request request{verb, objectsOf(message), 0, {}};
     request.code = call(message);
     static const auto reason = findReason();
@@ -60,22 +57,28 @@ int passOn(const char *function, const char *verb, MsgHeader *message) {
         request.reason = reason();
     }
     trace(request);
-    record().push_back(request);
+    RequestLog::note(request);
     return request.code;
 }
 
 } // namespace
 
-std::span<const Request> requests() {
-    return record();
+RequestLog::RequestLog() : outer_(innermost) {
+    innermost = this;
+}
+
+RequestLog::~RequestLog() {
+    innermost = outer_;
+}
+
+void RequestLog::note(const Request &request) {
+    for (RequestLog *log = innermost; log; log = log->outer_) {
+        log->requests_.push_back(request);
+    }
 }
 
 std::string objectNames(const Request &request) {
-    std::string names;
-    for (const std::string &object : request.objects) {
-        names += (names.empty() ? "" : ", ") + object;
-    }
-    return names;
+    return joined(request.objects);
 }
 
 std::string reasonOf(const Request &request) {
@@ -86,18 +89,18 @@ bool isSandbox() {
     return findReason() != nullptr;
 }
 
-} // namespace cli
+} // namespace pages
 
 #define EXPORTED extern "C" __attribute__((visibility("default")))
 
 EXPORTED int cal_getValue(MsgHeader *message) {
-    return cli::passOn("cal_getValue", "get", message);
+    return pages::passOn("cal_getValue", "get", message);
 }
 
 EXPORTED int cal_setValue(MsgHeader *message) {
-    return cli::passOn("cal_setValue", "set", message);
+    return pages::passOn("cal_setValue", "set", message);
 }
 
 EXPORTED int cal_setValueToDb(MsgHeader *message) {
-    return cli::passOn("cal_setValueToDb", "store", message);
+    return pages::passOn("cal_setValueToDb", "store", message);
 }

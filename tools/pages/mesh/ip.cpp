@@ -2,23 +2,20 @@
 #include "pages/mesh/pages.h"
 
 #include "caltofal.h"
-#include "caltofal/device.h"
 #include "pages/failure.h"
-#include "pages/objects/words.h"
 #include "pages/process/shell_output.h"
-#include "pages/wifi/interface.h"
+#include "pages/text.h"
 
 #include <cstdio>
-#include <memory>
 
-namespace cli::mesh {
+namespace pages::mesh {
 namespace {
 
 constexpr size_t kBufferSize = 128;
 
-Report run(const std::string &argument) {
-    const std::string mac = checkedMac(argument);
-    needDevice();
+} // namespace
+
+Report ip(const std::string &mac) {
     char buffer[kBufferSize] = "";
     snprintf(buffer, sizeof buffer, "%s", mac.c_str());
     ShellOutput output;
@@ -29,22 +26,12 @@ Report run(const std::string &argument) {
         failOfShell("the mesh does not tell the address of " + mac, complaint);
     }
     if (ip.empty()) {
-        throw Failure(Exit::Absent, mac + ": no satellite and no host has that MAC address");
+        throw Failure(Category::Absent, mac + ": no satellite and no host has that MAC address");
     }
     if (zintu_isValidIPv4Address(ip.c_str()) != 0) {
-        throw Failure(Exit::Failed, "the mesh names \"" + ip + "\", which is no IP address");
+        throw Failure(Category::Failed, "the mesh names \"" + ip + "\", which is no IP address");
     }
-    return {{{"mac", mac}, {"ip", ip}}, {}, ip + "\n", {}};
+    return {.json = Value::object({{"mac", mac}, {"ip", ip}}), .raw = ip + "\n"};
 }
 
-Run define(CLI::App &command) {
-    const auto mac = std::make_shared<std::string>();
-    addArgument(command, "MAC", *mac, "A MAC address");
-    return [mac] { return run(*mac); };
-}
-
-} // namespace
-
-const Noun kIpVerb = {"ip", "The IP address of a satellite", "02:00:5e:20:00:01 -g mesh", define};
-
-} // namespace cli::mesh
+} // namespace pages::mesh

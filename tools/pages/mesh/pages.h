@@ -1,25 +1,23 @@
 // SPDX-License-Identifier: MIT
-// The verbs of `mesh`; each is defined in the file of its name.
+// The pages of the roaming mesh; each stands in the file of its name. They throw Failure.
 #pragma once
 
-#include "caltofal/noun.h"
-#include "pages/text.h"
+#include "pages/process/wait.h"
+#include "pages/report.h"
 
-namespace cli::mesh {
+#include <string>
 
-extern const Noun kStatusVerb;
-extern const Noun kEnableVerb;
-extern const Noun kDisableVerb;
-extern const Noun kSyncVerb;
-extern const Noun kIpVerb;
+namespace pages::mesh {
 
-struct State {
-    bool enabled = false;
-    bool master = false;
-    int32_t satellites = 0; // connected ones
-};
+// Whether the mesh is on, and who belongs to it. Needs the device.
+Report status();
 
-// Asks the gateway and the device's runtime database. Throws Failure.
-State state();
+Report enable(bool on);
 
-} // namespace cli::mesh
+// Has the satellites take over this gateway's settings, where there is something to do. Needs the device.
+Report sync(Wait &wait);
+
+// The IP address of a satellite, or of a host; `mac` with colons. Needs the device.
+Report ip(const std::string &mac);
+
+} // namespace pages::mesh

@@ -2,23 +2,16 @@
 #include "pages/mesh/pages.h"
 
 #include "caltofal.h"
-#include "caltofal/device.h"
-#include "caltofal/signals.h"
 #include "pages/failure.h"
+#include "pages/mesh/state.h"
 #include "pages/process/shell_output.h"
-#include "pages/process/wait.h"
 
+#include <csignal>
 #include <future>
-#include <memory>
 #include <thread>
 
-namespace cli::mesh {
+namespace pages::mesh {
 namespace {
-
-using std::chrono::milliseconds;
-using std::chrono::steady_clock;
-
-constexpr milliseconds kTick{200};
 
 // The library passes over these in silence. nullptr where there is something to do.
 const char *obstacle(const State &now) {
@@ -31,58 +24,53 @@ const char *obstacle(const State &now) {
     return now.satellites > 0 ? nullptr : "no satellite is connected";
 }
 
-// The library waits some seconds after it told the daemon: on a thread of its own, which a signal leaves behind.
-std::future<void> startSync() {
-    holdSignals(true);
-    std::promise<void> promise;
-    std::future<void> ended = promise.get_future();
-    std::thread([promise = std::move(promise)]() mutable {
-        ZINTU_meshgrove_sync_to_slave();
-        promise.set_value();
-    }).detach();
-    holdSignals(false);
-    return ended;
-}
-
-void sync() {
-    const Interruptible interruptible;
-    Progress progress;
+std::string tellSatellites() {
     ShellOutput output;
-    const steady_clock::time_point start = steady_clock::now();
-    const std::future<void> ended = startSync();
-    while (ended.wait_for(milliseconds(0)) != std::future_status::ready) {
-        progress.show("the satellites take the settings: " + secondsSince(start));
-        if (!pauseFor(kTick)) {
-            throw Interrupted(Interruptible::signal(), "interrupted: the satellites take the settings all the same");
-        }
+    ZINTU_meshgrove_sync_to_slave();
+    return output.end();
+}
+
+// The library waits some seconds after it told the daemon: on a thread of its own, which takes no signals and which
+// who cancels the wait leaves behind. What comes is the tools' complaint.
+std::future<std::string> startSync() {
+    sigset_t all;
+    sigset_t before;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before);
+    std::promise<std::string> promise;
+    std::future<std::string> complaint = promise.get_future();
+    std::thread([promise = std::move(promise)]() mutable { promise.set_value(tellSatellites()); }).detach();
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    return complaint;
+}
+
+void push(Wait &wait) {
+    wait.begin();
+    std::future<std::string> complaint = startSync();
+    const auto ended = [&] { return complaint.wait_for(std::chrono::seconds(0)) == std::future_status::ready; };
+    if (!waitFor(wait, "the satellites take the settings", ended)) {
+        throw Cancelled("interrupted: the satellites take the settings all the same");
     }
-    if (const std::string complaint = output.end(); !complaint.empty()) {
-        failOfShell("the satellites were not told", complaint);
+    if (const std::string words = complaint.get(); !words.empty()) {
+        failOfShell("the satellites were not told", words);
     }
 }
 
-Report run() {
-    needDevice();
+} // namespace
+
+Report sync(Wait &wait) {
     const State now = state();
     const char *reason = obstacle(now);
-    Report result{{{"synced", reason == nullptr}, {"satellites", now.satellites}}, {}, {}, {}};
+    Report result{.json = Value::object({{"synced", reason == nullptr}, {"satellites", now.satellites}})};
     if (reason) {
         result.json["reason"] = reason;
         result.notes.push_back(std::string("nothing to do: ") + reason);
         return result;
     }
-    sync();
+    push(wait);
     result.notes.push_back("settings pushed to " + std::to_string(now.satellites) +
                            (now.satellites == 1 ? " satellite" : " satellites"));
     return result;
 }
 
-Run define(CLI::App & /*command*/) {
-    return run;
-}
-
-} // namespace
-
-const Noun kSyncVerb = {"sync", "Have the satellites take over this gateway's settings", "-g mesh", define};
-
-} // namespace cli::mesh
+} // namespace pages::mesh

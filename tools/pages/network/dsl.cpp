@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/commands.h"
+
+#include "pages/network/pages.h"
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
-#include "pages/network/pages.h"
 
-namespace cli {
+namespace pages {
 namespace {
 
-Json modes() {
+Value modes() {
     int32_t flags[10] = {};
     ask([&] { return ZintuGet_DslMode(flags); }, {"no DSL modes"});
-    Json names = Json::array();
+    Value names = Value::list();
     for (size_t i = 0; i < std::size(flags); ++i) {
         if (flags[i] != 0) {
-            names.emplace_back(DEF_DSL_MODE[i]);
+            names.push(DEF_DSL_MODE[i]);
         }
     }
     return names;
@@ -31,35 +31,31 @@ std::vector<Field> direction(int32_t rate, int32_t most, int32_t noise, const st
 
 } // namespace
 
-Page dslPage() {
+Page dsl() {
     ZintuDslLineInfo line{};
     untouch(line.nUpstreamCurrRate, line.nDownstreamCurrRate, line.nUpstreamMaxBitRate, line.nDownstreamMaxBitRate,
             line.nUpstreamNoiseMargin, line.nDownstreamNoiseMargin, line.nXTURCRCErrors, line.nXTUCCRCErrors);
     ask([&] { return ZintuGet_LineInfo(&line); }, {"no DSL line"});
     return {{
-                {"",
-                 "",
-                 {
-                     {"status", "Status", text(line.sStatus), {}},
-                     {"profile", "Profile", text(line.sCurrentProfile), {}},
-                     {"modes", "Modes enabled", modes(), {}},
-                 }},
-                {"downstream", "Downstream",
-                 direction(line.nDownstreamCurrRate, line.nDownstreamMaxBitRate, line.nDownstreamNoiseMargin,
-                           text(line.sLATNds))},
-                {"upstream", "Upstream",
-                 direction(line.nUpstreamCurrRate, line.nUpstreamMaxBitRate, line.nUpstreamNoiseMargin,
-                           text(line.sLATNus))},
-                {"crc_errors",
-                 "CRC errors",
-                 {
-                     {"modem", "Seen by the modem", number(line.nXTURCRCErrors), {}},
-                     {"exchange", "Seen by the exchange", number(line.nXTUCCRCErrors), {}},
-                 }},
-            },
-            {}};
+        {"",
+         "",
+         {
+             {"status", "Status", text(line.sStatus)},
+             {"profile", "Profile", text(line.sCurrentProfile)},
+             {"modes", "Modes enabled", modes()},
+         }},
+        {"downstream", "Downstream",
+         direction(line.nDownstreamCurrRate, line.nDownstreamMaxBitRate, line.nDownstreamNoiseMargin,
+                   text(line.sLATNds))},
+        {"upstream", "Upstream",
+         direction(line.nUpstreamCurrRate, line.nUpstreamMaxBitRate, line.nUpstreamNoiseMargin, text(line.sLATNus))},
+        {"crc_errors",
+         "CRC errors",
+         {
+             {"modem", "Seen by the modem", number(line.nXTURCRCErrors)},
+             {"exchange", "Seen by the exchange", number(line.nXTUCCRCErrors)},
+         }},
+    }};
 }
 
-const Noun kDslNoun = {"dsl", "DSL line 1: state, rates, quality, modes", "", showPage<dslPage>};
-
-} // namespace cli
+} // namespace pages

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/commands.h"
+
+#include "pages/network/pages.h"
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
-#include "pages/network/pages.h"
+#include "pages/network/current.h"
 
 #include <charconv>
 
-namespace cli {
+namespace pages {
 namespace {
 
 constexpr std::string_view kInterfaces = "Device.IP.Interface.";
@@ -22,7 +23,7 @@ int32_t indexOf(std::string_view interface) {
 
 } // namespace
 
-Page ipv6Page() {
+Page ipv6() {
     ZintuWanInfo info{};
     info.bIpv6Enable = kUntouchedFlag;
     const std::string interface = gatewayInterface();
@@ -31,23 +32,18 @@ Page ipv6Page() {
     const int forwarding = ask([&] { return ZintuGet_WanIPv6(&info); },
                                {"no IPv6 forwarding", {"Device.Routing."}, CALTOFAL_ABSENT_OBJECT});
     const int delegation = ask(ZintuGet_IPv6PD, {"no prefix delegation"});
-    Page page{{{"",
-                "",
-                {
-                    {"interface", "Interface", interface, {}},
-                    {"enabled", "Enabled", flag(info.bIpv6Enable), {}},
-                    {"type", "Type", text(info.sIpv6Type), {}},
-                    {"address", "Address", text(info.sIpv6Address), {}},
-                    {"next_hop", "Next hop", text(info.sIpv6NextHop), {}},
-                    {"prefix_delegation", "Prefix delegation", flag(delegation), {}},
-                }}},
-              {}};
+    Page page = pageOf({
+        {"interface", "Interface", interface},
+        {"enabled", "Enabled", flag(info.bIpv6Enable)},
+        {"type", "Type", text(info.sIpv6Type)},
+        {"address", "Address", text(info.sIpv6Address)},
+        {"next_hop", "Next hop", text(info.sIpv6NextHop)},
+        {"prefix_delegation", "Prefix delegation", flag(delegation)},
+    });
     if (forwarding != 0) {
         page.notes.push_back("no IPv6 forwarding entry for " + interface);
     }
     return page;
 }
 
-const Noun kIpv6Noun = {"ipv6", "IPv6 on the default WAN connection", "", showPage<ipv6Page>};
-
-} // namespace cli
+} // namespace pages

@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/commands.h"
+
+#include "pages/network/pages.h"
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
-#include "pages/network/pages.h"
-#include "pages/objects/words.h"
 
-#include <memory>
-
-namespace cli {
+namespace pages {
 namespace {
-
-struct Arguments {
-    bool ipv4 = false;
-    bool ipv6 = false;
-};
 
 Section ipv4Section() {
     LANv4Info lan{};
@@ -24,12 +16,12 @@ Section ipv4Section() {
     return {"ipv4",
             "IPv4",
             {
-                {"address", "Address", text(lan.sIPv4Address), {}},
-                {"subnet_mask", "Subnet mask", text(lan.sIPv4Subnet), {}},
-                {"mac_address", "MAC address", text(lan.sMACAddr), {}},
-                {"dhcp_active", "DHCP server", flag(lan.bDHCPv4Active), {}},
-                {"dhcp_start", "DHCP range from", text(lan.sDHCPv4StartIP), {}},
-                {"dhcp_end", "DHCP range to", text(lan.sDHCPv4EndIP), {}},
+                {"address", "Address", text(lan.sIPv4Address)},
+                {"subnet_mask", "Subnet mask", text(lan.sIPv4Subnet)},
+                {"mac_address", "MAC address", text(lan.sMACAddr)},
+                {"dhcp_active", "DHCP server", flag(lan.bDHCPv4Active)},
+                {"dhcp_start", "DHCP range from", text(lan.sDHCPv4StartIP)},
+                {"dhcp_end", "DHCP range to", text(lan.sDHCPv4EndIP)},
                 {"lease_time_s", "Lease time", number(lan.nLeaseTimeSec), "s"},
             }};
 }
@@ -43,42 +35,37 @@ Section ipv6Section() {
     return {"ipv6",
             "IPv6",
             {
-                {"active", "Active", flag(lan.bIPv6Active), {}},
-                {"address", "Address", text(lan.sIPv6Address), {}},
+                {"active", "Active", flag(lan.bIPv6Active)},
+                {"address", "Address", text(lan.sIPv6Address)},
                 {"prefix_length_bits", "Prefix length", number(lan.nPrefixLength), "bits"},
-                {"mode", "Mode", text(lan.sLANv6Mode), {}},
-                {"dns1", "DNS server 1", text(lan.sDNSv6Primary), {}},
-                {"dns2", "DNS server 2", text(lan.sDNSv6Secondary), {}},
-                {"domain", "Domain", text(lan.sDomainNamev6), {}},
-                {"dhcp_start", "DHCP range from", text(lan.sDHCPv6StartIP), {}},
-                {"dhcp_end", "DHCP range to", text(lan.sDHCPv6EndIP), {}},
+                {"mode", "Mode", text(lan.sLANv6Mode)},
+                {"dns1", "DNS server 1", text(lan.sDNSv6Primary)},
+                {"dns2", "DNS server 2", text(lan.sDNSv6Secondary)},
+                {"domain", "Domain", text(lan.sDomainNamev6)},
+                {"dhcp_start", "DHCP range from", text(lan.sDHCPv6StartIP)},
+                {"dhcp_end", "DHCP range to", text(lan.sDHCPv6EndIP)},
                 {"lease_time_s", "Lease time", number(lan.nLeaseTimeSec), "s"},
-                {"prefix_delegation", "Prefix delegation", flag(lan.bPDActive), {}},
-                {"manual_prefix", "Manual prefix", text(lan.sManualPrefix), {}},
+                {"prefix_delegation", "Prefix delegation", flag(lan.bPDActive)},
+                {"manual_prefix", "Manual prefix", text(lan.sManualPrefix)},
                 {"manual_prefix_length_bits", "Manual prefix length", number(lan.nManualPrefixLength), "bits"},
             }};
 }
 
-Report run(const Arguments &arguments) {
-    if (arguments.ipv4 == arguments.ipv6) {
-        return report(lanPage());
-    }
-    return report(Page{{arguments.ipv4 ? ipv4Section() : ipv6Section()}, {}});
-}
-
-Run define(CLI::App &command) {
-    const auto arguments = std::make_shared<Arguments>();
-    addFlag(command, "--ipv4", arguments->ipv4, "Only IPv4");
-    addFlag(command, "--ipv6", arguments->ipv6, "Only IPv6");
-    return [arguments] { return run(*arguments); };
-}
-
 } // namespace
 
-Page lanPage() {
-    return {{ipv4Section(), ipv6Section()}, {}};
+Page lan(LanPart part) {
+    Page page;
+    if (part != LanPart::Ipv6) {
+        page.sections.push_back(ipv4Section());
+    }
+    if (part != LanPart::Ipv4) {
+        page.sections.push_back(ipv6Section());
+    }
+    return page;
 }
 
-const Noun kLanNoun = {"lan", "The LAN's addresses and DHCP settings", "\n--ipv4 --json", define};
+Page wholeLan() {
+    return lan(LanPart::Both);
+}
 
-} // namespace cli
+} // namespace pages

@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/commands.h"
+#include "pages/network/pages.h"
 
 #include "caltofal.h"
+#include "pages/checked.h"
 #include "pages/layer/call.h"
-#include "pages/objects/words.h"
 
 #include <algorithm>
-#include <memory>
 
-namespace cli {
+namespace pages {
 namespace {
-
-struct Arguments {
-    std::string object;
-    bool walk = false;
-};
 
 std::string below(const std::string &object) {
     char layers[128] = "";
@@ -22,34 +16,23 @@ std::string below(const std::string &object) {
     return text(layers);
 }
 
-Report run(const Arguments &arguments) {
-    Json layers = Json::array();
-    Table table;
-    for (std::string object = checkedPath(arguments.object); !object.empty();) {
-        const std::string next = below(object);
-        const bool seen = std::find(layers.begin(), layers.end(), next) != layers.end();
+} // namespace
+
+Report lowerLayers(const std::string &object, bool walk) {
+    Report result{.json = Value::object({{"object", object}, {"lower_layers", Value::list()}})};
+    Value &layers = result.json["lower_layers"];
+    for (std::string upper = checkedPath(object); !upper.empty();) {
+        const std::string next = below(upper);
+        const bool seen = std::find(layers.items().begin(), layers.items().end(), next) != layers.items().end();
         if (next.empty() || seen) {
             break;
         }
-        layers.push_back(next);
-        table.rows.push_back({{next}});
+        layers.push(next);
+        result.table.rows.push_back({{next}});
         // A list names several: the walk goes on below the first.
-        object = arguments.walk ? next.substr(0, next.find(',')) : "";
+        upper = walk ? next.substr(0, next.find(',')) : "";
     }
-    Json json = {{"object", arguments.object}, {"lower_layers", layers}};
-    return {json, table, {}, {}};
+    return result;
 }
 
-Run define(CLI::App &command) {
-    const auto arguments = std::make_shared<Arguments>();
-    addArgument(command, "OBJECT", arguments->object, "An object of the interface stack");
-    addFlag(command, "--walk", arguments->walk, "Go on downwards to the physical interface");
-    return [arguments] { return run(*arguments); };
-}
-
-} // namespace
-
-const Noun kLowerLayersNoun = {"lower-layers", "What lies below an object in the interface stack",
-                               "Device.IP.Interface.3 --walk", define};
-
-} // namespace cli
+} // namespace pages

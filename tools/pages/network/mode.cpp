@@ -1,31 +1,24 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/commands.h"
+
+#include "pages/network/pages.h"
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
-#include "pages/network/pages.h"
+#include "pages/network/current.h"
 
-namespace cli {
-namespace {
+namespace pages {
 
-// Bits of the operation mode.
-constexpr int32_t kWifiWan = 2;
-constexpr int32_t kRouter = 4;
-
-} // namespace
-
-Page modePage() {
-    const int mode = ask(ZintuGet_OperMode, {kNoMode});
-    return {{{"",
-              "",
-              {
-                  {"mode", "Operation mode", mode, {}},
-                  {"router", "Router or mesh master", (mode & kRouter) != 0, {}},
-                  {"wifi_wan", "WAN over Wi-Fi", (mode & kWifiWan) != 0, {}},
-              }}},
-            {}};
+int operationMode() {
+    return ask(ZintuGet_OperMode, {kNoMode});
 }
 
-const Noun kModeNoun = {"mode", "The operation mode", "", showPage<modePage>};
+Page mode() {
+    const int mode = operationMode();
+    return pageOf({
+        {"mode", "Operation mode", mode},
+        {"router", "Router or mesh master", (mode & kRouterBit) != 0},
+        {"wifi_wan", "WAN over Wi-Fi", (mode & kWifiWanBit) != 0},
+    });
+}
 
-} // namespace cli
+} // namespace pages

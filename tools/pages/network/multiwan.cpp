@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/commands.h"
+
+#include "pages/network/pages.h"
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
-#include "pages/network/pages.h"
 
-namespace cli {
+namespace pages {
 namespace {
 
 constexpr int32_t kUnknown = -1; // of nEnabled
 
-Json kindOf(int32_t type) {
+Value kindOf(int32_t type) {
     switch (type) {
     case kUntouched:
         return {};
@@ -23,7 +23,7 @@ Json kindOf(int32_t type) {
     }
 }
 
-Json sharingOf(int32_t failOver) {
+Value sharingOf(int32_t failOver) {
     if (failOver == kUntouched) {
         return {};
     }
@@ -32,30 +32,27 @@ Json sharingOf(int32_t failOver) {
 
 std::vector<Field> connection(const char (&interface)[128], int32_t type) {
     return {
-        {"interface", "Interface", text(interface), {}},
-        {"kind", "Kind", kindOf(type), {}},
+        {"interface", "Interface", text(interface)},
+        {"kind", "Kind", kindOf(type)},
     };
 }
 
 } // namespace
 
-Page multiWanPage() {
+Page multiWan() {
     ZintuMultiWanInfo info{};
     untouch(info.nFailOver, info.nWan1Type, info.nWan2Type);
     ask([&] { return ZintuGet_MultiWanInfo(&info); }, {"no multi-WAN"});
     return {{
-                {"",
-                 "",
-                 {
-                     {"enabled", "Enabled", info.nEnabled == kUnknown ? Json() : flag(info.nEnabled), {}},
-                     {"sharing", "Sharing", sharingOf(info.nFailOver), {}},
-                 }},
-                {"wan1", "First WAN", connection(info.sWan1Interface, info.nWan1Type)},
-                {"wan2", "Second WAN", connection(info.sWan2Interface, info.nWan2Type)},
-            },
-            {}};
+        {"",
+         "",
+         {
+             {"enabled", "Enabled", info.nEnabled == kUnknown ? Value() : flag(info.nEnabled)},
+             {"sharing", "Sharing", sharingOf(info.nFailOver)},
+         }},
+        {"wan1", "First WAN", connection(info.sWan1Interface, info.nWan1Type)},
+        {"wan2", "Second WAN", connection(info.sWan2Interface, info.nWan2Type)},
+    }};
 }
 
-const Noun kMultiWanNoun = {"multiwan", "Fail-over and load balancing between two WANs", "", showPage<multiWanPage>};
-
-} // namespace cli
+} // namespace pages

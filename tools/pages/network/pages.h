@@ -1,34 +1,43 @@
 // SPDX-License-Identifier: MIT
-// The pages that `status` shows beside the nouns of the same names. Each asks the gateway and throws Failure.
+// The pages of the WAN, the LAN and what lies between them; each stands in the file of its name. They ask the gateway
+// and throw Failure.
 #pragma once
 
-#include "caltofal/noun.h"
 #include "pages/page.h"
 
-namespace cli {
+#include <string>
 
-// What is said where the current network does not tell.
-inline constexpr const char *kNoMode = "Device.X_ZINTU_CurrentNetwork: no OperationMode is given";
-inline constexpr const char *kNoDefaultWan = "Device.X_ZINTU_CurrentNetwork: no WanIpInterface is given";
+namespace pages {
 
-Page modePage();
-Page gatewayPage();
+Report status(); // the others at a glance
+Page mode();
+Page gateway();
+Page wan();
+Page bridgeWan();                       // of a device in bridge mode
+Page dns(const std::string &interface); // "": the default WAN's
+Page ipv6();
+Page dsl();
+Page atm();
 
-// The IP interface object of the default WAN.
-std::string gatewayInterface();
+enum class LanPart { Both, Ipv4, Ipv6 };
+Page lan(LanPart part);
+Page wholeLan();
 
-Page wanPage();
-Page ipv6Page();
-Page dslPage();
-Page atmPage();
-Page lanPage();
-Page multiWanPage();
-Page iptvPage();
+Page multiWan();
+Page iptv();
 
-// A noun that shows a page and takes no arguments.
-template <Page (*page)()>
-Run showPage(CLI::App & /*command*/) {
-    return [] { return report(page()); };
-}
+// By MAC or IPv4 address. Throws Usage for what is neither.
+Page host(const std::string &address);
 
-} // namespace cli
+// What lies below an object of the interface stack; with `walk`, on down to the physical interface.
+Report lowerLayers(const std::string &object, bool walk);
+
+// What kind of address a text is.
+Page address(const std::string &text);
+
+// Single values.
+Report uciSectionOfMode(const std::string &mode);
+Report wanInterfaceName();     // the Linux name
+Report ethernetWanInterface(); // the IP interface object
+
+} // namespace pages

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/commands.h"
-
-#include "caltofal/print.h"
-#include "pages/failure.h"
 #include "pages/network/pages.h"
+
+#include "pages/failure.h"
 
 #include <initializer_list>
 #include <optional>
 
-namespace cli {
+namespace pages {
 namespace {
 
 struct Glance {
@@ -19,14 +17,14 @@ struct Glance {
 };
 
 const Glance kGlances[] = {
-    {"mode", "Operation mode", modePage, {"mode"}},
-    {"wan", "WAN", wanPage, {"status", "type", "ip_address", "gateway", "interface"}},
-    {"ipv6", "WAN IPv6", ipv6Page, {"type", "address"}},
-    {"dsl", "DSL", dslPage, {"status", "profile"}},
-    {"atm", "ATM", atmPage, {"qos_class"}},
-    {"lan", "LAN", lanPage, {"ipv4.address", "ipv4.subnet_mask", "ipv6.address"}},
-    {"multiwan", "Multi-WAN", multiWanPage, {"sharing", "wan1.interface", "wan2.interface"}},
-    {"iptv", "IPTV set-top box", iptvPage, {"set_top_box"}},
+    {"mode", "Operation mode", mode, {"mode"}},
+    {"wan", "WAN", wan, {"status", "type", "ip_address", "gateway", "interface"}},
+    {"ipv6", "WAN IPv6", ipv6, {"type", "address"}},
+    {"dsl", "DSL", dsl, {"status", "profile"}},
+    {"atm", "ATM", atm, {"qos_class"}},
+    {"lan", "LAN", wholeLan, {"ipv4.address", "ipv4.subnet_mask", "ipv6.address"}},
+    {"multiwan", "Multi-WAN", multiWan, {"sharing", "wan1.interface", "wan2.interface"}},
+    {"iptv", "IPTV set-top box", iptv, {"set_top_box"}},
 };
 
 std::string summary(const Page &page, const Glance &glance) {
@@ -40,33 +38,29 @@ std::string summary(const Page &page, const Glance &glance) {
     return result.empty() ? "-" : result;
 }
 
-Run define(CLI::App & /*command*/) {
-    return [] {
-        Report result{Json::object(), {}, {}, {}};
-        std::optional<Failure> first;
-        size_t failed = 0;
-        for (const Glance &glance : kGlances) {
-            try {
-                const Page page = glance.page();
-                result.json[glance.key] = report(page).json;
-                result.table.rows.push_back({{glance.title, Style::Heading}, {summary(page, glance)}});
-            } catch (const Failure &failure) {
-                result.json[glance.key] = errorJson(failure);
-                result.table.rows.push_back(
-                    {{glance.title, Style::Heading}, {std::string("(") + failure.what() + ")", Style::Bad}});
-                first = first ? first : failure;
-                ++failed;
-            }
-        }
-        if (failed == std::size(kGlances)) {
-            throw Failure(*first);
-        }
-        return result;
-    };
-}
-
 } // namespace
 
-const Noun kStatusNoun = {"status", "All pages at a glance", "\n--json", define};
+Report status() {
+    Report result;
+    std::optional<Failure> first;
+    size_t failed = 0;
+    for (const Glance &glance : kGlances) {
+        try {
+            const Page page = glance.page();
+            result.json[glance.key] = Report(page).json;
+            result.table.rows.push_back({{glance.title, Style::Heading}, {summary(page, glance)}});
+        } catch (const Failure &failure) {
+            result.json[glance.key] = errorValue(failure);
+            result.table.rows.push_back(
+                {{glance.title, Style::Heading}, {std::string("(") + failure.what() + ")", Style::Bad}});
+            first = first ? first : failure;
+            ++failed;
+        }
+    }
+    if (failed == std::size(kGlances)) {
+        throw Failure(*first);
+    }
+    return result;
+}
 
-} // namespace cli
+} // namespace pages

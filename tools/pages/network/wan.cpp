@@ -1,21 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/commands.h"
+
+#include "pages/network/pages.h"
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
-#include "pages/network/pages.h"
-#include "pages/objects/words.h"
+#include "pages/network/current.h"
 
-#include <memory>
-
-namespace cli {
+namespace pages {
 namespace {
-
-struct Arguments {
-    bool bridge = false;
-    bool ifName = false;
-    bool ethernet = false;
-};
 
 ZintuWanInfo untouchedInfo() {
     ZintuWanInfo info{};
@@ -27,63 +19,62 @@ ZintuWanInfo untouchedInfo() {
 
 Page sectionsOf(const ZintuWanInfo &info) {
     return {{
-                {"",
-                 "",
-                 {
-                     {"status", "Status", text(info.sStatus), {}},
-                     {"mode", "Mode", text(info.sOperMode), {}},
-                     {"type", "Type", text(info.sWanIpType), {}},
-                     {"link_type", "Link type", text(info.sWanLinkType), {}},
-                     {"name", "Name", text(info.sName), {}},
-                     {"interface", "Interface", text(info.sWanIpInterface), {}},
-                     {"interface_index", "Interface index", number(info.nWanIpIfIndex), {}},
-                     {"lower_layers", "Lower layers", text(info.sLowerLayers), {}},
-                     {"description", "Description", text(info.sDescription), {}},
-                     {"ipv4_mode", "IPv4 mode", text(info.sIpv4Mode), {}},
-                     {"ip_address", "IP address", text(info.sIPAddress), {}},
-                     {"subnet_mask", "Subnet mask", text(info.sSubnetMask), {}},
-                     {"gateway", "Gateway", text(info.sGateway), {}},
-                 }},
-                {"ppp",
-                 "PPP",
-                 {
-                     {"interface", "Interface", text(info.sPppInterface), {}},
-                     {"static_address", "Static address", text(info.sPppStaticAddress), {}},
-                     {"username", "User name", text(info.sUsername), {}},
-                     {"password", "Password", text(info.sPassword), {}},
-                     {"connection_trigger", "Connection trigger", text(info.sConnectionTrigger), {}},
-                     {"idle_disconnect_time_s", "Idle disconnect time", number(info.nIdleDisconnectTime), "s"},
-                     {"max_mru_bytes", "Maximum receive unit", number(info.nMaxMRUSize), "bytes"},
-                     {"ac_name", "Access concentrator", text(info.sACName), {}},
-                     {"service_name", "Service name", text(info.sServiceName), {}},
-                 }},
-                {"dns",
-                 "DNS",
-                 {
-                     {"automatic", "Automatic", flag(info.bDnsAuto), {}},
-                     {"dns1", "Server 1", text(info.sDNS1), {}},
-                     {"dns2", "Server 2", text(info.sDNS2), {}},
-                 }},
-                {"vlan",
-                 "VLAN",
-                 {
-                     {"enabled", "Enabled", flag(info.bVlanEnable), {}},
-                     {"id", "VLAN ID", number(info.nVlanID), {}},
-                 }},
-                {"ipv6",
-                 "IPv6",
-                 {
-                     {"enabled", "Enabled", flag(info.bIpv6Enable), {}},
-                     {"type", "Type", text(info.sIpv6Type), {}},
-                     {"address", "Address", text(info.sIpv6Address), {}},
-                     {"next_hop", "Next hop", text(info.sIpv6NextHop), {}},
-                 }},
-            },
-            {}};
+        {"",
+         "",
+         {
+             {"status", "Status", text(info.sStatus)},
+             {"mode", "Mode", text(info.sOperMode)},
+             {"type", "Type", text(info.sWanIpType)},
+             {"link_type", "Link type", text(info.sWanLinkType)},
+             {"name", "Name", text(info.sName)},
+             {"interface", "Interface", text(info.sWanIpInterface)},
+             {"interface_index", "Interface index", number(info.nWanIpIfIndex)},
+             {"lower_layers", "Lower layers", text(info.sLowerLayers)},
+             {"description", "Description", text(info.sDescription)},
+             {"ipv4_mode", "IPv4 mode", text(info.sIpv4Mode)},
+             {"ip_address", "IP address", text(info.sIPAddress)},
+             {"subnet_mask", "Subnet mask", text(info.sSubnetMask)},
+             {"gateway", "Gateway", text(info.sGateway)},
+         }},
+        {"ppp",
+         "PPP",
+         {
+             {"interface", "Interface", text(info.sPppInterface)},
+             {"static_address", "Static address", text(info.sPppStaticAddress)},
+             {"username", "User name", text(info.sUsername)},
+             {"password", "Password", text(info.sPassword)},
+             {"connection_trigger", "Connection trigger", text(info.sConnectionTrigger)},
+             {"idle_disconnect_time_s", "Idle disconnect time", number(info.nIdleDisconnectTime), "s"},
+             {"max_mru_bytes", "Maximum receive unit", number(info.nMaxMRUSize), "bytes"},
+             {"ac_name", "Access concentrator", text(info.sACName)},
+             {"service_name", "Service name", text(info.sServiceName)},
+         }},
+        {"dns",
+         "DNS",
+         {
+             {"automatic", "Automatic", flag(info.bDnsAuto)},
+             {"dns1", "Server 1", text(info.sDNS1)},
+             {"dns2", "Server 2", text(info.sDNS2)},
+         }},
+        {"vlan",
+         "VLAN",
+         {
+             {"enabled", "Enabled", flag(info.bVlanEnable)},
+             {"id", "VLAN ID", number(info.nVlanID)},
+         }},
+        {"ipv6",
+         "IPv6",
+         {
+             {"enabled", "Enabled", flag(info.bIpv6Enable)},
+             {"type", "Type", text(info.sIpv6Type)},
+             {"address", "Address", text(info.sIpv6Address)},
+             {"next_hop", "Next hop", text(info.sIpv6NextHop)},
+         }},
+    }};
 }
 
 // The WAN being down is an answer, not a failure: no forwarding entry tells a gateway then.
-Page pageOf(const ZintuWanInfo &info) {
+Page noted(const ZintuWanInfo &info) {
     Page page = sectionsOf(info);
     if (info.sGateway[0] == '\0') {
         page.notes.push_back("no IPv4 forwarding entry tells the gateway of " + text(info.sWanIpInterface));
@@ -91,68 +82,38 @@ Page pageOf(const ZintuWanInfo &info) {
     return page;
 }
 
-// The operation mode's bits are the flags by which a router is refused and a Wi-Fi link is known.
-Page bridgePage() {
-    const int mode = ask(ZintuGet_OperMode, {kNoMode});
-    ZintuWanInfo info = untouchedInfo();
-    ask([&] { return ZintuGet_BrWanInfo(static_cast<uint32_t>(mode), &info); },
-        {"the gateway is no bridge: its operation mode is " + std::to_string(mode),
-         {"Device.Routing."},
-         CALTOFAL_NO_MATCH});
-    return pageOf(info);
-}
-
-Report single(const char *key, const std::string &value) {
-    Report result;
-    put(result.json, key, value);
-    result.raw = value + "\n";
-    return result;
-}
-
-Report interfaceName() {
-    char name[PARAM_VALUE_SIZE] = "";
-    ask([&] { return zintu_GetWanIfName(name); }, {"the current WAN interface has no name"});
-    return single("name", text(name));
-}
-
-Report ethernetInterface() {
-    char object[128] = "";
-    ask([&] { return ZintuGet_EthWanObjName(object); }, {"Device.IP.Interface: none is the Ethernet WAN"});
-    return single("interface", text(object));
-}
-
-Report run(const Arguments &arguments) {
-    if (arguments.bridge + arguments.ifName + arguments.ethernet > 1) {
-        throw Usage("--bridge, --if-name and --ethernet exclude each other");
-    }
-    if (arguments.ifName) {
-        return interfaceName();
-    }
-    if (arguments.ethernet) {
-        return ethernetInterface();
-    }
-    return report(arguments.bridge ? bridgePage() : wanPage());
-}
-
-Run define(CLI::App &command) {
-    const auto arguments = std::make_shared<Arguments>();
-    addFlag(command, "--bridge", arguments->bridge, "The WAN of a device in bridge mode");
-    addFlag(command, "--if-name", arguments->ifName, "Only the Linux name of the WAN interface");
-    addFlag(command, "--ethernet", arguments->ethernet, "Only the IP interface object of the Ethernet WAN");
-    return [arguments] { return run(*arguments); };
-}
-
 } // namespace
 
-Page wanPage() {
+Page wan() {
     ZintuWanInfo info = untouchedInfo();
     ask([&] { return ZintuGet_DefWanInfo(&info); },
         {kNoDefaultWan,
          {"Device.X_ZINTU_CurrentNetwork", "Device.Routing.Router.1.IPv4Forwarding", "Device.Ethernet.VLANTermination"},
          CALTOFAL_NO_MATCH});
-    return pageOf(info);
+    return noted(info);
 }
 
-const Noun kWanNoun = {"wan", "The default WAN connection", "\n--bridge -g bridge\n--if-name\n--ethernet", define};
+// The operation mode's bits are the flags by which a router is refused and a Wi-Fi link is known.
+Page bridgeWan() {
+    const int mode = operationMode();
+    ZintuWanInfo info = untouchedInfo();
+    ask([&] { return ZintuGet_BrWanInfo(static_cast<uint32_t>(mode), &info); },
+        {"the gateway is no bridge: its operation mode is " + std::to_string(mode),
+         {"Device.Routing."},
+         CALTOFAL_NO_MATCH});
+    return noted(info);
+}
 
-} // namespace cli
+Report wanInterfaceName() {
+    char name[PARAM_VALUE_SIZE] = "";
+    ask([&] { return zintu_GetWanIfName(name); }, {"the current WAN interface has no name"});
+    return single("name", text(name));
+}
+
+Report ethernetWanInterface() {
+    char object[128] = "";
+    ask([&] { return ZintuGet_EthWanObjName(object); }, {"Device.IP.Interface: none is the Ethernet WAN"});
+    return single("interface", text(object));
+}
+
+} // namespace pages

@@ -1,22 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/commands.h"
+#include "pages/objects/pages.h"
 
 #include "pages/failure.h"
-#include "pages/objects/words.h"
+#include "pages/text.h"
 
 #include <algorithm>
-#include <memory>
 
-namespace cli {
+namespace pages::objects {
 namespace {
-
-struct Arguments {
-    std::vector<std::string> words;
-    std::vector<std::string> where;
-    bool leaf = false;
-    bool defaults = false;
-    bool values = false;
-};
 
 std::string withDot(const std::string &path) {
     return path.ends_with('.') ? path : path + ".";
@@ -39,7 +30,8 @@ void checkAnswered(const Object &asked, const std::vector<Object> &answer) {
             return withDot(object.name).starts_with(branch) && has(object, parameter.name);
         });
         if (!found) {
-            throw Failure(Exit::Absent, branch + parameter.name + ": no object here has that parameter", asked.name);
+            throw Failure(Category::Absent, branch + parameter.name + ": no object here has that parameter",
+                          asked.name);
         }
     }
 }
@@ -98,7 +90,7 @@ std::vector<Object> getObjects(const std::vector<Object> &objects, Reading readi
         return get(objects, reading);
     } catch (const Failure &failure) {
         const std::vector<Object> other = asParameter(objects);
-        if (failure.exit() != Exit::Absent || other.empty()) {
+        if (failure.category() != Category::Absent || other.empty()) {
             throw;
         }
         std::vector<Object> found;
@@ -114,41 +106,46 @@ std::vector<Object> getObjects(const std::vector<Object> &objects, Reading readi
     }
 }
 
-std::vector<Object> answer(const Arguments &arguments) {
-    std::vector<Object> objects = objectsToRead(arguments.words);
-    if (arguments.defaults && (arguments.leaf || !arguments.where.empty())) {
-        throw Usage("--defaults goes with neither --leaf nor --where");
+std::vector<Object> answer(const Query &query) {
+    std::vector<Object> objects = query.objects;
+    std::vector<Object> result;
+    if (!query.where.empty()) {
+        objects.front().filters = query.where;
+        result = matching(objects.front(), query.leaf);
+    } else {
+        const Reading plain = query.leaf ? Reading::Leaf : Reading::Whole;
+        result = getObjects(objects, query.defaults ? Reading::Defaults : plain);
     }
-    if (!arguments.where.empty()) {
-        if (objects.size() > 1) {
-            throw Usage("--where goes with one object");
-        }
-        for (const std::string &word : arguments.where) {
-            objects.front().filters.push_back(assignment(word));
-        }
-    }
-    const Reading plain = arguments.leaf ? Reading::Leaf : Reading::Whole;
-    std::vector<Object> result = !arguments.where.empty()
-                                     ? matching(objects.front(), arguments.leaf)
-                                     : getObjects(objects, arguments.defaults ? Reading::Defaults : plain);
     for (const Object &object : objects) {
         checkAnswered(object, result);
     }
     return result;
 }
 
-Report run(const Arguments &arguments) {
-    Report result{Json::object(), {}, {}, {}};
-    for (const Object &object : answer(arguments)) {
-        Json &parameters = result.json[object.name];
-        parameters = parameters.is_null() ? Json::object() : parameters;
+} // namespace
+
+void check(const Query &query) {
+    if (query.defaults && (query.leaf || !query.where.empty())) {
+        throw Usage("--defaults goes with neither --leaf nor --where");
+    }
+    if (!query.where.empty() && query.objects.size() > 1) {
+        throw Usage("--where goes with one object");
+    }
+}
+
+Report read(const Query &query) {
+    check(query);
+    Report result{.json = Value::object()};
+    for (const Object &object : answer(query)) {
+        Value &parameters = result.json[object.name];
+        parameters = parameters.isNull() ? Value::object() : parameters;
         if (object.parameters.empty()) {
             result.table.rows.push_back({{withDot(object.name)}, {}});
         }
         for (const Parameter &parameter : object.parameters) {
-            put(parameters, parameter.name, typed(parameter.name, parameter.value));
+            parameters[parameter.name] = typed(parameter.name, parameter.value);
             result.table.rows.push_back({{withDot(object.name) + parameter.name}, {parameter.value}});
-            if (arguments.values) {
+            if (query.valuesOnly) {
                 result.raw += parameter.value + "\n";
             }
         }
@@ -156,25 +153,4 @@ Report run(const Arguments &arguments) {
     return result;
 }
 
-Run define(CLI::App &command) {
-    const auto arguments = std::make_shared<Arguments>();
-    addArguments(command, "OBJECT", arguments->words, "[PARAM...]",
-                 "An object, the names of the parameters wanted (none: all), then more objects");
-    addOption(command, "--where", arguments->where, "NAME=VALUE",
-              "Only instances whose parameter has that value; repeatable");
-    addFlag(command, "--leaf", arguments->leaf, "The object's own parameters, nothing below it");
-    addFlag(command, "--defaults", arguments->defaults, "The values after a factory reset");
-    addFlag(command, "--values", arguments->values, "The values alone, one a line");
-    return [arguments] { return run(*arguments); };
-}
-
-} // namespace
-
-const Noun kGetNoun = {"get", "Read objects or parameters",
-                       "Device.IP.Interface.1 Status Name\n"
-                       "Device.Hosts.Host --where Active=true HostName IPAddress\n"
-                       "Device.WiFi.Radio.1 --leaf --json\n"
-                       "Device.WiFi.Radio.1.Channel --values",
-                       define};
-
-} // namespace cli
+} // namespace pages::objects

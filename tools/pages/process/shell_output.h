@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-// What the shell commands that the library runs write on the tool's own standard output and standard error.
+// What the shell commands that the library runs write past their results.
 #pragma once
 
 #include <string>
 
-namespace cli {
+namespace pages {
 
-// While it lives, both descriptors lead into a memory file, so that the tool's streams carry nothing but its own words.
-// The trace keeps going to the real standard error.
+// While it lives, what commands run by its thread write on standard error (with system(), on standard output too) goes
+// into a memory file, so that the process's own streams carry nothing but its own words. One at a time for a thread.
 class ShellOutput {
   public:
     ShellOutput();
@@ -15,17 +15,29 @@ class ShellOutput {
     ShellOutput &operator=(const ShellOutput &) = delete;
     ~ShellOutput() { end(); }
 
-    // Ends the capture and hands what there is to the trace. The first line, "" for none; it tells why a command
-    // failed.
+    // Ends the capture and hands what there is to whoever takes the output. The first line, "" for none; it tells why
+    // a command failed.
     std::string end();
 
+    // Where this thread's commands write to; -1 where nothing is captured.
+    static int descriptor();
+
   private:
+    static void capture(int descriptor);
+
     int memory_;
-    int out_;
-    int err_;
 };
 
 // Throws a Failure with what a shell command complained about in brackets, when it did.
 [[noreturn]] void failOfShell(const std::string &message, const std::string &complaint);
 
-} // namespace cli
+// The library's own work files serve one call at a time: while one lives, others of the process wait.
+class DeviceTurn {
+  public:
+    DeviceTurn();
+    DeviceTurn(const DeviceTurn &) = delete;
+    DeviceTurn &operator=(const DeviceTurn &) = delete;
+    ~DeviceTurn();
+};
+
+} // namespace pages

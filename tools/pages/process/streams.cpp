@@ -1,25 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "pages/process/streams.h"
 
-#include "caltofal/trace.h"
+#include "pages/process/output.h"
 
 #include <sys/types.h>
 
-namespace cli {
+namespace pages {
 
 #ifdef __GLIBC__
 namespace {
 
 template <Source source>
-ssize_t toTrace(void * /*cookie*/, const char *text, size_t size) {
-    traceCollect();
-    traceText(source, {text, size});
+ssize_t handOn(void * /*cookie*/, const char *text, size_t size) {
+    output(source, {text, size});
     return static_cast<ssize_t>(size);
 }
 
 template <Source source>
 FILE *replacement(FILE *original) {
-    FILE *stream = fopencookie(nullptr, "w", {nullptr, toTrace<source>, nullptr, nullptr});
+    FILE *stream = fopencookie(nullptr, "w", {nullptr, handOn<source>, nullptr, nullptr});
     if (!stream) {
         return original;
     }
@@ -36,18 +35,18 @@ void restore(FILE *&stream, FILE *original) {
 
 } // namespace
 
-StdioCapture::StdioCapture() : out_(stdout), err_(stderr) {
+StreamCapture::StreamCapture() : out_(stdout), err_(stderr) {
     stdout = replacement<Source::Log>(out_);
     stderr = replacement<Source::Stderr>(err_);
 }
 
-StdioCapture::~StdioCapture() {
+StreamCapture::~StreamCapture() {
     restore(stdout, out_);
     restore(stderr, err_);
 }
 #else
-StdioCapture::StdioCapture() : out_(stdout), err_(stderr) {}
-StdioCapture::~StdioCapture() = default;
+StreamCapture::StreamCapture() : out_(stdout), err_(stderr) {}
+StreamCapture::~StreamCapture() = default;
 #endif
 
-} // namespace cli
+} // namespace pages

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Waiting for what the device does in its own time.
+// Waiting for what the device does in its own time. How a program waits, what it shows meanwhile and who may end it is
+// its own: a command line has its signals, a server its jobs.
 #pragma once
-
-#include "caltofal/terminal.h"
 
 #include <chrono>
 #include <cstdint>
@@ -10,35 +9,39 @@
 #include <span>
 #include <string>
 
-namespace cli {
+namespace pages {
 
-// While it lives, the signals of signals.h end a wait rather than the process.
-class Interruptible {
+class Wait {
   public:
-    Interruptible();
-    Interruptible(const Interruptible &) = delete;
-    Interruptible &operator=(const Interruptible &) = delete;
-    ~Interruptible();
+    Wait() = default;
+    Wait(const Wait &) = delete;
+    Wait &operator=(const Wait &) = delete;
+    virtual ~Wait() = default;
 
-    // The signal that came, 0 for none.
-    static int signal();
+    // What follows is in progress on the device: from now on it is for cancelled() to say that it shall end.
+    virtual void begin() {}
+
+    // Waits; false as soon as it was cancelled.
+    virtual bool pause(std::chrono::milliseconds time) = 0;
+
+    virtual bool cancelled() = 0;
+
+    // What is waited for, how long by now, and how long at most (0: not known).
+    virtual void progress(const std::string &what, std::chrono::milliseconds gone, std::chrono::milliseconds most) = 0;
 };
-
-// Waits; false as soon as a signal came.
-bool pauseFor(std::chrono::milliseconds time);
 
 // How a wait goes: the library's table of intervals, and how long a unit of it lasts.
 struct Pace {
     std::span<const uint8_t> intervals;
-    std::chrono::milliseconds unit;
+    std::chrono::milliseconds unit{1000};
 };
 
-enum class Outcome { Done, TimeOut, Signal };
+enum class Outcome { Done, TimeOut, Cancelled };
 
-// Asks `done` after each interval. Shows `what` and the time gone by.
-Outcome askAgain(const Pace &pace, const std::string &what, const std::function<bool()> &done);
+// Asks `done` after each interval.
+Outcome askAgain(Wait &wait, const Pace &pace, const std::string &what, const std::function<bool()> &done);
 
-// "12 s" since `start`.
-std::string secondsSince(std::chrono::steady_clock::time_point start);
+// Waits until `done`, however long that takes; false when it was cancelled.
+bool waitFor(Wait &wait, const std::string &what, const std::function<bool()> &done);
 
-} // namespace cli
+} // namespace pages

@@ -3,20 +3,14 @@
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
-#include "pages/objects/words.h"
 #include "pages/page.h"
 #include "pages/wifi/interface.h"
 
 #include <algorithm>
-#include <memory>
 #include <span>
 
-namespace cli::wifi {
+namespace pages::wifi {
 namespace {
-
-struct Arguments {
-    std::string ssid, mac;
-};
 
 struct Answer {
     MsgHeader header{};
@@ -49,36 +43,43 @@ bool isListed(const MacAccessList &list, const std::string &mac) {
 }
 
 // With the filter off everybody may come; else the listed ones, or all but those.
-Json isAdmitted(const std::string &mode, bool listed) {
+bool isAdmitted(const std::string &mode, bool listed) {
     return mode == "Disabled" || (ConvMacACLModeToUI(mode.c_str()) == 1) == listed;
 }
 
-Report run(const Arguments &arguments) {
-    const int ssid = checkedInstance(arguments.ssid, "SSID");
-    const std::string mac = arguments.mac.empty() ? "" : checkedMac(arguments.mac);
+struct Filter {
+    std::string mode;
+    MacAccessList list{};
+};
+
+Filter filterOf(int ssid) {
     const std::string accessPoint = "Device.WiFi.AccessPoint." + std::to_string(ssid);
     const std::vector<Object> vendor =
-        get({{accessPoint + ".X_LANTIQ_COM_Vendor", {{"MACAddressControlEnabled", {}}}}}, Reading::Leaf);
-    const std::string mode = vendor.empty() ? "" : valueOf(vendor.front(), "MACAddressControlEnabled");
-    MacAccessList list{};
-    readEntries(accessPoint + ".X_ZINTU_MacFilter", list);
+        get({{accessPoint + ".X_LANTIQ_COM_Vendor", {{"MACAddressControlEnabled"}}}}, Reading::Leaf);
+    Filter filter;
+    filter.mode = vendor.empty() ? "" : valueOf(vendor.front(), "MACAddressControlEnabled");
+    readEntries(accessPoint + ".X_ZINTU_MacFilter", filter.list);
+    return filter;
+}
 
-    Report result{{{"ssid", ssid}}, {}, {}, {}};
-    put(result.json, "mode", mode);
-    if (!mac.empty()) {
-        const Json admitted = isAdmitted(mode, isListed(list, mac));
-        result.json.update({{"mac", mac}, {"admitted", admitted}});
-        result.raw = mac + (admitted == true ? " may join\n" : " may not join\n");
-        return result;
-    }
-    result.json["entries"] = Json::array();
-    result.table.rows.push_back({{"Filter"}, {mode.empty() ? "-" : mode}, {}});
+} // namespace
+
+Report mayJoin(int ssid, const std::string &mac) {
+    const Filter filter = filterOf(ssid);
+    const bool admitted = isAdmitted(filter.mode, isListed(filter.list, mac));
+    return {.json = Value::object({{"ssid", ssid}, {"mode", filter.mode}, {"mac", mac}, {"admitted", admitted}}),
+            .raw = mac + (admitted ? " may join\n" : " may not join\n")};
+}
+
+Report macFilter(int ssid) {
+    const auto [mode, list] = filterOf(ssid);
+    Report result{.json = Value::object({{"ssid", ssid}, {"mode", mode}, {"entries", Value::list()}})};
+    result.table.rows.push_back({{"Filter"}, {readable(mode)}, {}});
     for (const MacAccessEntry &entry : entries(list)) {
-        Json json = {{"index", entry.index}};
-        put(json, "name", text(entry.name));
-        put(json, "mac", text(entry.macAddress));
+        const Value json =
+            Value::object({{"index", entry.index}, {"name", text(entry.name)}, {"mac", text(entry.macAddress)}});
         result.table.rows.push_back({{readable(json["index"])}, {text(entry.macAddress)}, {text(entry.name)}});
-        result.json["entries"].push_back(json);
+        result.json["entries"].push(json);
     }
     if (list.count == static_cast<int32_t>(std::size(list.entries))) {
         result.notes.emplace_back("the list is full: entries beyond the 32nd are left out");
@@ -86,15 +87,4 @@ Report run(const Arguments &arguments) {
     return result;
 }
 
-Run define(CLI::App &command) {
-    const auto arguments = std::make_shared<Arguments>();
-    addArgument(command, "SSID", arguments->ssid, "An SSID's instance number");
-    addOption(command, "--mac", arguments->mac, "MAC", "Only tell whether that station may join");
-    return [arguments] { return run(*arguments); };
-}
-
-} // namespace
-
-const Noun kAclVerb = {"acl", "The MAC filter of an SSID", "1\n9 --mac 00:00:5e:00:53:99", define};
-
-} // namespace cli::wifi
+} // namespace pages::wifi

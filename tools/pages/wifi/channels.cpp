@@ -3,9 +3,7 @@
 #include "pages/wifi/pages.h"
 
 #include "caltofal.h"
-#include "caltofal/device.h"
 #include "pages/layer/call.h"
-#include "pages/objects/words.h"
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
 #include "pages/wifi/interface.h"
@@ -13,70 +11,31 @@
 
 #include <algorithm>
 #include <iterator>
-#include <memory>
 #include <span>
 
-namespace cli::wifi {
+namespace pages::wifi {
 namespace {
 
-Json jsonOf(const WifiChannelEntry &entry) {
-    Json widths = Json::array();
+Value jsonOf(const WifiChannelEntry &entry) {
+    Value widths = Value::list();
     for (const int32_t width : entry.bandwidths) {
         if (width != 0) {
-            widths.push_back(width);
+            widths.push(width);
         }
     }
-    const auto secondary = [](int32_t channel) { return channel == 0 ? Json() : Json(channel); };
-    return {{"channel", entry.channel},
-            {"frequency_mhz", entry.frequency},
-            {"bandwidths_mhz", widths},
-            {"secondary_below", secondary(entry.belowChannel)},
-            {"secondary_above", secondary(entry.aboveChannel)},
-            {"dfs", isRadarChannel(entry.channel)}};
+    const auto secondary = [](int32_t channel) { return channel == 0 ? Value() : Value(channel); };
+    return Value::object({{"channel", entry.channel},
+                          {"frequency_mhz", entry.frequency},
+                          {"bandwidths_mhz", widths},
+                          {"secondary_below", secondary(entry.belowChannel)},
+                          {"secondary_above", secondary(entry.aboveChannel)},
+                          {"dfs", isRadarChannel(entry.channel)}});
 }
 
-std::vector<Cell> rowOf(const Json &entry) {
-    const auto cell = [&](const char *key) { return Cell{readable(entry[key])}; };
-    return {{markedChannel(entry["channel"])},
-            cell("frequency_mhz"),
-            cell("bandwidths_mhz"),
-            cell("secondary_below"),
-            cell("secondary_above")};
-}
-
-Report runChannels(const std::string &name) {
-    checkedInterface(name);
-    needDevice();
-    const Interface interface = findInterface(name);
-    WifiChannelList list{};
-    ShellOutput output;
-    const int phy = GetPhyNumber(name.c_str());
-    const int count = askEvery([&] { return GetChannelList(name.c_str(), interface.radio, &list); });
-    const std::string complaint = output.end();
-    if (count == 0) {
-        failOfShell("iw lists no channels for " + name, complaint);
-    }
-    Report result{{{"interface", name},
-                   {"radio", interface.radio},
-                   {"phy", phy < 0 ? Json() : Json(phy)},
-                   {"channels", Json::array()}},
-                  {},
-                  {},
-                  {}};
-    result.table.headings = {"CHANNEL", "FREQUENCY", "BANDWIDTHS", "2ND LOWER", "2ND UPPER"};
-    const std::span entries(list.entries, static_cast<size_t>(count));
-    for (const WifiChannelEntry &entry : entries) {
-        result.json["channels"].push_back(jsonOf(entry));
-    }
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const auto &a, const auto &b) { return a.channel < b.channel; });
-    for (const WifiChannelEntry &entry : entries) {
-        result.table.rows.push_back(rowOf(jsonOf(entry)));
-    }
-    if (count == static_cast<int>(std::size(list.entries))) {
-        result.notes.emplace_back("the list is full: channels beyond the 100th are left out");
-    }
-    return result;
+Row rowOf(const Value &entry, int channel) {
+    Row row = pages::rowOf(entry, {"channel", "frequency_mhz", "bandwidths_mhz", "secondary_below", "secondary_above"});
+    row.front().text = markedChannel(channel);
+    return row;
 }
 
 struct Current {
@@ -85,7 +44,7 @@ struct Current {
 };
 
 // The side of the secondary channel, for channels at 2.4 GHz: upper, lower or auto, as a survey names it.
-Json sideOf(const Current &current, const std::string &band) {
+Value sideOf(const Current &current, const std::string &band) {
     if (current.channel == kUntouched || band != "2.4GHz") {
         return {};
     }
@@ -93,55 +52,65 @@ Json sideOf(const Current &current, const std::string &band) {
     return FapiToUi_Str(side, SideBand_FapiToUi_Table, std::size(SideBand_FapiToUi_Table));
 }
 
-Report runChannel(const std::string &name) {
-    checkedInterface(name);
-    needDevice();
+} // namespace
+
+Report channels(const InterfaceName &name) {
+    const Interface interface = findInterface(name);
+    WifiChannelList list{};
+    ShellOutput output;
+    const int phy = GetPhyNumber(name.c_str());
+    const int count = askEvery([&] { return GetChannelList(name.c_str(), interface.radio, &list); });
+    const std::string complaint = output.end();
+    if (count == 0) {
+        failOfShell("iw lists no channels for " + name.text(), complaint);
+    }
+    Report result{.json = Value::object({{"interface", name.text()},
+                                         {"radio", interface.radio},
+                                         {"phy", phy < 0 ? Value() : Value(phy)},
+                                         {"channels", Value::list()}})};
+    result.table.headings = {"CHANNEL", "FREQUENCY", "BANDWIDTHS", "2ND LOWER", "2ND UPPER"};
+    const std::span entries(list.entries, static_cast<size_t>(count));
+    for (const WifiChannelEntry &entry : entries) {
+        result.json["channels"].push(jsonOf(entry));
+    }
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const auto &a, const auto &b) { return a.channel < b.channel; });
+    for (const WifiChannelEntry &entry : entries) {
+        result.table.rows.push_back(rowOf(jsonOf(entry), entry.channel));
+    }
+    if (count == static_cast<int>(std::size(list.entries))) {
+        result.notes.emplace_back("the list is full: channels beyond the 100th are left out");
+    }
+    return result;
+}
+
+Report currentChannel(const InterfaceName &name) {
     const Interface interface = findInterface(name);
     const std::string radioPath = "Device.WiFi.Radio." + std::to_string(interface.radio);
-    const Object radio = get({{radioPath,
-                               {{"RegulatoryDomain", {}},
-                                {"ExtensionChannel", {}},
-                                {"OperatingFrequencyBand", {}},
-                                {"AutoChannelEnable", {}}}}},
-                             Reading::Leaf)
-                             .front();
+    const Object radio =
+        get({{radioPath,
+              {{"RegulatoryDomain"}, {"ExtensionChannel"}, {"OperatingFrequencyBand"}, {"AutoChannelEnable"}}}},
+            Reading::Leaf)
+            .front();
     Current current{kUntouched, valueOf(radio, "RegulatoryDomain"), valueOf(radio, "ExtensionChannel")};
     ShellOutput output;
     const bool ran = GetCurrentChannel(name.c_str(), 0, &current.channel) == 1;
     const std::string complaint = output.end();
     if (!ran || (current.channel == kUntouched && !complaint.empty())) {
-        failOfShell("iwlist tells no channel of " + name, complaint);
+        failOfShell("iwlist tells no channel of " + name.text(), complaint);
     }
-    Page page{
-        {{"",
-          "",
-          {
-              {"interface", "Interface", name, {}},
-              {"radio", "Radio", interface.radio, {}},
-              {"channel", "Channel", number(current.channel), {}},
-              {"auto_channel", "Chosen automatically", valueOf(radio, "AutoChannelEnable") == "true", {}},
-              {"secondary_side", "Secondary channel", sideOf(current, valueOf(radio, "OperatingFrequencyBand")), {}},
-              {"dfs_channel", "DFS channel", GetDFSChannel() == 0 ? Json() : Json(GetDFSChannel()), {}},
-          }}},
-        {}};
+    Page page = pageOf({
+        {"interface", "Interface", name.text()},
+        {"radio", "Radio", interface.radio},
+        {"channel", "Channel", number(current.channel)},
+        {"auto_channel", "Chosen automatically", valueOf(radio, "AutoChannelEnable") == "true"},
+        {"secondary_side", "Secondary channel", sideOf(current, valueOf(radio, "OperatingFrequencyBand"))},
+        {"dfs_channel", "DFS channel", GetDFSChannel() == 0 ? Value() : Value(GetDFSChannel())},
+    });
     if (current.channel == kUntouched) {
-        page.notes.push_back("iwlist names no current channel: the radio of " + name + " is off");
+        page.notes.push_back("iwlist names no current channel: the radio of " + name.text() + " is off");
     }
-    return report(page);
+    return page;
 }
 
-template <Report (*run)(const std::string &)>
-Run defineQuery(CLI::App &command) {
-    const auto name = std::make_shared<std::string>();
-    addArgument(command, "INTERFACE", *name, "A wireless interface, such as wlan0");
-    return [name] { return run(*name); };
-}
-
-} // namespace
-
-const Noun kChannelsVerb = {"channels", "The channels that an interface's radio may use", "wlan0\nwlan2 --json",
-                            defineQuery<runChannels>};
-
-const Noun kChannelVerb = {"channel", "The channel in use", "wlan0", defineQuery<runChannel>};
-
-} // namespace cli::wifi
+} // namespace pages::wifi

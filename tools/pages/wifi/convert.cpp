@@ -3,8 +3,7 @@
 
 #include "caltofal.h"
 #include "pages/failure.h"
-#include "pages/objects/words.h"
-#include "pages/wifi/interface.h"
+#include "pages/text.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -12,15 +11,10 @@
 #include <climits>
 #include <cstdlib>
 #include <iterator>
-#include <memory>
 #include <span>
 
-namespace cli::wifi {
+namespace pages::wifi {
 namespace {
-
-struct Arguments {
-    std::string table, value, to;
-};
 
 using Convert = std::string (*)(const std::string &value, bool toUi);
 
@@ -33,17 +27,17 @@ struct Converter {
     bool oneWay = number && pairs.empty(); // there is no way back
 };
 
-// A number that is none is a wrong command line; one out of range is refused.
+// A number that is not one is a wrong command line; one out of range is refused.
 int numberIn(const std::string &value, int least, int most) {
     const size_t sign = value.starts_with('-') ? 1 : 0;
     if (value.size() == sign || value.find_first_not_of("0123456789", sign) != std::string::npos) {
-        throw Usage("value \"" + value.substr(0, 40) + "\" is no number");
+        throw Usage("value " + quoted(value) + " is no number");
     }
     int number = 0;
     const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
     if (error != std::errc() || number < least || number > most) {
-        throw Failure(Exit::Refused, "value " + value.substr(0, 40) + " is outside " + std::to_string(least) + " to " +
-                                         std::to_string(most));
+        throw Failure(Category::Refused, "value " + value.substr(0, 40) + " is outside " + std::to_string(least) +
+                                             " to " + std::to_string(most));
     }
     return number;
 }
@@ -100,7 +94,7 @@ std::string integer(const std::string &value, bool /*toUi*/) {
     errno = 0;
     const long number = strtol(value.c_str(), nullptr, 10);
     if (errno == ERANGE || number < INT_MIN || number > INT_MAX) {
-        throw Failure(Exit::Refused, "the number of \"" + value.substr(0, 40) + "\" is too large");
+        throw Failure(Category::Refused, "the number of " + quoted(value) + " is too large");
     }
     return std::to_string(ConvInt(value.c_str()));
 }
@@ -142,13 +136,15 @@ const Converter &converterNamed(const std::string &name) {
     const auto *const found = std::find_if(std::begin(kConverters), std::end(kConverters),
                                            [&](const Converter &one) { return one.name == name; });
     if (found == std::end(kConverters)) {
-        throw Usage("\"" + name.substr(0, 40) + "\" is no conversion; caltofal wifi convert lists them");
+        throw Usage(quoted(name) + " is no conversion; caltofal wifi convert lists them");
     }
     return *found;
 }
 
-Report listOfAll() {
-    Report result{{{"conversions", Json::object()}}, {}, {}, {}};
+} // namespace
+
+Report conversions() {
+    Report result{.json = Value::object({{"conversions", Value::object()}})};
     for (const Converter &converter : kConverters) {
         result.json["conversions"][converter.name] = converter.what;
         result.table.rows.push_back({{converter.name}, {converter.what}});
@@ -156,53 +152,32 @@ Report listOfAll() {
     return result;
 }
 
-Report pairsOf(const Converter &converter) {
+Report conversionWords(const std::string &name) {
+    const Converter &converter = converterNamed(name);
     if (converter.pairs.empty()) {
-        throw Usage(std::string(converter.name) + " has no table: give a value");
+        throw Usage(name + " has no table: give a value");
     }
-    Report result{{{"table", converter.name}, {"pairs", Json::array()}}, {}, {}, {}};
+    Report result{.json = Value::object({{"table", name}, {"pairs", Value::list()}})};
     result.table.headings = {"FAPI", "UI"};
     for (const PairRow &pair : converter.pairs) {
-        result.json["pairs"].push_back({{"fapi", text(pair.sFirst)}, {"ui", text(pair.sSecond)}});
+        result.json["pairs"].push(Value::object({{"fapi", text(pair.sFirst)}, {"ui", text(pair.sSecond)}}));
         result.table.rows.push_back({{text(pair.sFirst)}, {text(pair.sSecond)}});
     }
     return result;
 }
 
-Report run(const Arguments &arguments, bool valueGiven) {
-    if (arguments.to != "ui" && arguments.to != "fapi") {
-        throw Usage("--to is ui or fapi, not \"" + arguments.to.substr(0, 40) + "\"");
+Report convert(const std::string &name, const std::string &value, bool toUi) {
+    const Converter &converter = converterNamed(name);
+    if (converter.oneWay && !toUi) {
+        throw Usage(name + " has no way back: --to fapi does not go with it");
     }
-    if (arguments.table.empty()) {
-        return listOfAll();
-    }
-    const Converter &converter = converterNamed(arguments.table);
-    if (!valueGiven) {
-        return pairsOf(converter);
-    }
-    if (converter.oneWay && arguments.to == "fapi") {
-        throw Usage(std::string(converter.name) + " has no way back: --to fapi does not go with it");
-    }
-    const std::string converted = converter.convert(arguments.value, arguments.to == "ui");
-    Report result{{{"table", converter.name}}, {}, converted + "\n", {}};
-    put(result.json, "value", arguments.value);
-    result.json["to"] = arguments.to;
-    put(result.json, "result", converter.number ? Json(ConvInt(converted.c_str())) : Json(converted));
-    return result;
+    const std::string converted = converter.convert(value, toUi);
+    return {.json =
+                Value::object({{"table", name},
+                               {"value", value},
+                               {"to", toUi ? "ui" : "fapi"},
+                               {"result", converter.number ? Value(ConvInt(converted.c_str())) : Value(converted)}}),
+            .raw = converted + "\n"};
 }
 
-Run define(CLI::App &command) {
-    const auto arguments = std::make_shared<Arguments>();
-    arguments->to = "ui";
-    addOptionalArgument(command, "TABLE", arguments->table, "A conversion; without one they are listed");
-    const auto valueGiven = addCountedArgument(command, "VALUE", arguments->value, "Without it the table is shown");
-    addOption(command, "--to", arguments->to, "ui|fapi", "Whose words are wanted: ui where not given");
-    return [arguments, valueGiven] { return run(*arguments, valueGiven()); };
-}
-
-} // namespace
-
-const Noun kConvertVerb = {"convert", "Values of the configuration layer (FAPI) and of the user interface (UI)",
-                           "bandwidth 40MHz\nsecurity WEP --to fapi\nstandards\nfrequency 5180", define};
-
-} // namespace cli::wifi
+} // namespace pages::wifi

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace cli::wifi {
+namespace pages::wifi {
 
 // Those from 5,250 to 5,730 MHz, in every regulatory domain.
 constexpr bool isRadarChannel(int channel) {
@@ -16,4 +16,4 @@ inline std::string markedChannel(int channel) {
     return std::to_string(channel) + (isRadarChannel(channel) ? " (DFS)" : "");
 }
 
-} // namespace cli::wifi
+} // namespace pages::wifi

@@ -2,31 +2,23 @@
 #include "pages/wifi/pages.h"
 
 #include "caltofal.h"
-#include "caltofal/device.h"
 #include "pages/failure.h"
-#include "pages/objects/words.h"
 #include "pages/process/shell_output.h"
 #include "pages/wifi/interface.h"
-#include "pages/wifi/pace.h"
 #include "pages/wifi/survey.h"
 
 #include <fcntl.h>
-#include <memory>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace cli::wifi {
+namespace pages::wifi {
 namespace {
 
 // The library cuts the request's command line at 255 characters, 209 of which are its own.
 constexpr size_t kNamesMax = 255 - 209;
 
-struct Arguments {
-    std::string interface, ssid, pace;
-};
-
-// Why a byte of an SSID can not travel in JSON within single quotes of the shell; nullptr where it can.
+// Why a byte of an SSID cannot travel in JSON within single quotes of the shell; nullptr where it can.
 const char *unsafe(char byte) {
     switch (byte) {
     case '\'':
@@ -44,7 +36,7 @@ void checkForShell(const std::string &interface, const std::string &ssid) {
     for (size_t i = 0; i < ssid.size(); ++i) {
         if (const char *what = unsafe(ssid[i])) {
             throw Usage(std::string("byte ") + std::to_string(i + 1) + " of the SSID, 0x" + hexOf({&ssid[i], 1}) +
-                        ", is " + what + ": the scan request can not carry it; scan for all networks");
+                        ", is " + what + ": the scan request cannot carry it; scan for all networks");
         }
     }
     if (interface.size() + ssid.size() > kNamesMax) {
@@ -74,18 +66,18 @@ struct FileMark {
 
 bool is5GHz(int radio) {
     const std::vector<Object> found =
-        get({{"Device.WiFi.Radio." + std::to_string(radio), {{"OperatingFrequencyBand", {}}}}}, Reading::Leaf);
+        get({{"Device.WiFi.Radio." + std::to_string(radio), {{"OperatingFrequencyBand"}}}}, Reading::Leaf);
     return !found.empty() && valueOf(found.front(), "OperatingFrequencyBand") == "5GHz";
 }
 
 // Two scans at a time would take each other's result. Kept until the object is gone; no lock where none can be had.
 class ScanLock {
   public:
-    explicit ScanLock(const std::string &interface)
+    explicit ScanLock(const InterfaceName &interface)
         : descriptor_(open((surveyFile(interface) + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)) {
         if (descriptor_ >= 0 && flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
             close(descriptor_);
-            throw Failure(Exit::Failed, "another scan on " + interface + " is under way");
+            throw Failure(Category::Failed, "another scan on " + interface.text() + " is under way");
         }
     }
     ScanLock(const ScanLock &) = delete;
@@ -96,53 +88,46 @@ class ScanLock {
     int descriptor_;
 };
 
-void request(const std::string &interface, const std::string &ssid) {
+void request(const ScanRequest &wanted, Wait &wait) {
     ShellOutput output;
-    const bool ran = ReqScan(interface.c_str(), ssid.c_str()) == 1;
+    const bool ran = ReqScan(wanted.interface.c_str(), wanted.ssid.c_str()) == 1;
     const std::string complaint = output.end();
-    if (Interruptible::signal() == 0 && (!ran || !complaint.empty())) {
+    if (!wait.cancelled() && (!ran || !complaint.empty())) {
         failOfShell("the scan request failed", complaint);
     }
 }
 
-void wait(const Pace &pace, const std::string &name, const FileMark &before) {
-    const auto done = [&] { return FileMark(surveyFile(name)).isNewerThan(before); };
-    switch (askAgain(pace, "scanning on " + name, done)) {
+void await(Wait &wait, const Pace &pace, const InterfaceName &interface, const FileMark &before) {
+    const std::string &name = interface.text();
+    const auto done = [&] { return FileMark(surveyFile(interface)).isNewerThan(before); };
+    switch (askAgain(wait, pace, "scanning on " + name, done)) {
     case Outcome::Done:
         return;
-    case Outcome::Signal:
-        throw Interrupted(Interruptible::signal(), "interrupted: the scan on " + name + " goes on by itself");
+    case Outcome::Cancelled:
+        throw Cancelled("interrupted: the scan on " + name + " goes on by itself");
     case Outcome::TimeOut:
         break;
     }
-    throw Failure(Exit::TimeOut, "the scan on " + name + " brought no result: is its radio on?");
-}
-
-Report run(const Arguments &arguments) {
-    const std::string &name = checkedInterface(arguments.interface);
-    checkForShell(name, checkedSsid(arguments.ssid));
-    paceOf(SCAN_24G_RetryTime, arguments.pace);
-    needDevice();
-    const bool upper = is5GHz(findInterface(name).radio);
-    const ScanLock lock(name);
-    const FileMark before(surveyFile(name));
-    const Interruptible interruptible;
-    request(name, arguments.ssid);
-    wait(paceOf(upper ? SCAN_5G_RetryTime : SCAN_24G_RetryTime, arguments.pace), name, before);
-    return surveyReport(surveyFile(name), arguments.ssid);
-}
-
-Run define(CLI::App &command) {
-    const auto arguments = std::make_shared<Arguments>();
-    addArgument(command, "INTERFACE", arguments->interface, "The interface to scan on, such as wlan0");
-    addOption(command, "--ssid", arguments->ssid, "SSID", "Look for that network only");
-    addPace(command, arguments->pace);
-    return [arguments] { return run(*arguments); };
+    throw Failure(Category::TimeOut, "the scan on " + name + " brought no result: is its radio on?");
 }
 
 } // namespace
 
-const Noun kScanVerb = {"scan", "Look for the networks around and show them",
-                        "wlan0 --pace 100\nwlan0 --ssid cafe-open --pace 60", define};
+ScanRequest checkedScan(const std::string &interface, const std::string &ssid) {
+    ScanRequest request{InterfaceName(interface), checkedSsid(ssid)};
+    checkForShell(interface, ssid);
+    return request;
+}
 
-} // namespace cli::wifi
+Report scan(const ScanRequest &wanted, Wait &wait) {
+    const bool upper = is5GHz(findInterface(wanted.interface).radio);
+    const ScanLock lock(wanted.interface);
+    const FileMark before(surveyFile(wanted.interface));
+    wait.begin();
+    request(wanted, wait);
+    await(wait, {upper ? SCAN_5G_RetryTime : SCAN_24G_RetryTime, wanted.unit}, wanted.interface, before);
+    const DeviceTurn turn;
+    return surveyReport(surveyFile(wanted.interface), wanted.ssid);
+}
+
+} // namespace pages::wifi

@@ -4,14 +4,14 @@
 
 #include "pages/failure.h"
 #include "pages/layer/call.h"
-#include "pages/objects/words.h"
+#include "pages/page.h"
 #include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
 
 #include <algorithm>
 #include <iterator>
 
-namespace cli::wifi {
+namespace pages::wifi {
 namespace {
 
 using Convert = const char *(*)(const char *text, int direction);
@@ -25,13 +25,13 @@ const char *convertSecurity(const char *text, int direction) {
 // The library has these in no table.
 constexpr PairRow kPowerWords[] = {{"100", "high"}, {"50", "medium"}, {"25", "low"}};
 
-struct Row {
+struct Words {
     std::string_view parameter;
     Convert convert;
     std::span<const PairRow> pairs; // all words that there are
 };
 
-const Row kConverters[] = {
+const Words kConverters[] = {
     {"Dot11nProtection", Dot11nProtect_ConvStr, Dot11nProtect_FapiToUi_Table},
     {"ExtensionChannel", ExtensionChannel_ConvStr, SideBand_FapiToUi_Table},
     {"GuardInterval", ShortGuardInterval_ConvStr, ShortGuardInterval_FapiToUi_Table},
@@ -43,14 +43,14 @@ const Row kConverters[] = {
     {"X_ZINTU_WMMOption", WMMOption_ConvStr, WMM_Option_FapiToUi_Table},
 };
 
-const Row *converterOf(const std::string &parameter) {
-    const Row *const found = std::find_if(std::begin(kConverters), std::end(kConverters),
-                                          [&](const Row &row) { return row.parameter == parameter; });
+const Words *converterOf(const std::string &parameter) {
+    const Words *const found = std::find_if(std::begin(kConverters), std::end(kConverters),
+                                            [&](const Words &row) { return row.parameter == parameter; });
     return found == std::end(kConverters) ? nullptr : found;
 }
 
 // The library passes unknown words on, or takes them for its first one.
-void checkWord(const Row &row, const std::string &word) {
+void checkWord(const Words &row, const std::string &word) {
     std::string words;
     for (const PairRow &pair : row.pairs) {
         const std::string known = text(pair.sSecond);
@@ -59,51 +59,19 @@ void checkWord(const Row &row, const std::string &word) {
         }
         words += (words.empty() ? "" : ", ") + known;
     }
-    throw Failure(Exit::Refused, std::string(row.parameter) + ": \"" + word.substr(0, 40) +
-                                     "\" is no word of the user interface; there are " + words);
+    throw Failure(Category::Refused, std::string(row.parameter) + ": " + quoted(word) +
+                                         " is no word of the user interface; there are " + words);
 }
 
 std::string lastPart(const std::string &object) {
     return object.substr(std::string_view("Device.WiFi.").size());
 }
 
-Report show(Subject subject, const std::string &word) {
-    const bool ssid = subject == Subject::Ssid;
-    const int instance = checkedInstance(word, ssid ? "SSID" : "radio");
-    const Settings settings = snapshot(subject, instance);
-    Report result{
-        {{ssid ? "ssid" : "radio", instance}, {"settings", Json::object()}, {"user_interface", Json::object()}},
-        {},
-        {},
-        {}};
-    result.table.headings = {"SETTING", "VALUE", "USER INTERFACE"};
-    for (const WifiParamRow &row : rows(*settings)) {
-        const std::string object = text(row.object);
-        const std::string name = text(row.parameter);
-        const std::string value = text(row.value);
-        const std::string ui = uiWord(name, value);
-        put(result.json["settings"][object], name, typed(name, value));
-        if (ui != value) {
-            put(result.json["user_interface"][object], name, ui);
-        }
-        result.table.rows.push_back(
-            {{lastPart(object) + "." + name}, {value.empty() ? "-" : value}, {ui == value ? "" : ui}});
-    }
-    return result;
-}
-
-template <Subject subject>
-Run define(CLI::App &command) {
-    const auto instance = std::make_shared<std::string>();
-    addArgument(command, "NUMBER", *instance, "The instance number in the configuration layer");
-    return [instance] { return show(subject, *instance); };
-}
-
 } // namespace
 
 Subject subjectOf(const std::string &word) {
     if (word != "ssid" && word != "radio") {
-        throw Usage("\"" + word.substr(0, 40) + "\" is neither ssid nor radio");
+        throw Usage(quoted(word) + " is neither ssid nor radio");
     }
     return word == "ssid" ? Subject::Ssid : Subject::Radio;
 }
@@ -120,7 +88,7 @@ Settings snapshot(Subject subject, int instance) {
         return !ssid.empty() && valueOf(ssid.front(), "X_ZINTU_NetworkType") == "uplink";
     };
     if (subject == Subject::Ssid && isUplink()) {
-        throw Failure(Exit::Absent, "SSID " + std::to_string(instance) + " is an uplink: it has no access point",
+        throw Failure(Category::Absent, "SSID " + std::to_string(instance) + " is an uplink: it has no access point",
                       "Device.WiFi.AccessPoint." + std::to_string(instance));
     }
     ask(call, {"no settings of that number"});
@@ -128,12 +96,12 @@ Settings snapshot(Subject subject, int instance) {
 }
 
 std::string uiWord(const std::string &parameter, const std::string &value) {
-    const Row *row = converterOf(parameter);
+    const Words *row = converterOf(parameter);
     return row ? row->convert(value.c_str(), 1) : value;
 }
 
 std::string fapiWord(const std::string &parameter, const std::string &value) {
-    const Row *row = converterOf(parameter);
+    const Words *row = converterOf(parameter);
     if (!row) {
         return value;
     }
@@ -141,9 +109,24 @@ std::string fapiWord(const std::string &parameter, const std::string &value) {
     return row->convert(value.c_str(), 0);
 }
 
-const Noun kSsidVerb = {"ssid", "The settings of an SSID, its access point and its security", "1\n9 --json",
-                        define<Subject::Ssid>};
+Report settings(Subject subject, int instance) {
+    const Settings current = snapshot(subject, instance);
+    Report result{.json = Value::object({{subject == Subject::Ssid ? "ssid" : "radio", instance},
+                                         {"settings", Value::object()},
+                                         {"user_interface", Value::object()}})};
+    result.table.headings = {"SETTING", "VALUE", "USER INTERFACE"};
+    for (const WifiParamRow &row : rows(*current)) {
+        const std::string object = text(row.object);
+        const std::string name = text(row.parameter);
+        const std::string value = text(row.value);
+        const std::string ui = uiWord(name, value);
+        result.json["settings"][object][name] = typed(name, value);
+        if (ui != value) {
+            result.json["user_interface"][object][name] = ui;
+        }
+        result.table.rows.push_back({{lastPart(object) + "." + name}, {readable(value)}, {ui == value ? "" : ui}});
+    }
+    return result;
+}
 
-const Noun kRadioVerb = {"radio", "The settings of a radio and of its first access point", "1", define<Subject::Radio>};
-
-} // namespace cli::wifi
+} // namespace pages::wifi

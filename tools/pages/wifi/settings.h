@@ -9,7 +9,7 @@
 #include <span>
 #include <string>
 
-namespace cli::wifi {
+namespace pages::wifi {
 
 enum class Subject { Ssid, Radio };
 
@@ -31,4 +31,4 @@ inline std::span<const WifiParamRow> rows(const WifiParamTable &table) {
 std::string uiWord(const std::string &parameter, const std::string &value);
 std::string fapiWord(const std::string &parameter, const std::string &value);
 
-} // namespace cli::wifi
+} // namespace pages::wifi

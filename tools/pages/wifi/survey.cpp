@@ -2,9 +2,7 @@
 #include "pages/wifi/survey.h"
 
 #include "caltofal.h"
-#include "caltofal/device.h"
 #include "pages/failure.h"
-#include "pages/objects/words.h"
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
 #include "pages/wifi/interface.h"
@@ -13,18 +11,13 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
 #include <span>
 #include <unistd.h>
 
-namespace cli::wifi {
+namespace pages::wifi {
 namespace {
 
 constexpr const char *kCombinedFile = "/tmp/wlan_wave/caltofal_scan.XXXXXX";
-
-struct Arguments {
-    std::string interface, ssid;
-};
 
 struct Survey {
     SiteSurveyList list{};
@@ -40,7 +33,7 @@ class CombinedFile {
     CombinedFile() : path_(kCombinedFile) {
         const int descriptor = mkstemp(path_.data());
         if (descriptor < 0) {
-            throw Failure(Exit::Failed, path_ + " can not be made");
+            throw Failure(Category::Failed, path_ + " cannot be made");
         }
         close(descriptor);
     }
@@ -54,23 +47,23 @@ class CombinedFile {
     std::string path_;
 };
 
-Json jsonOf(const SiteSurveyEntry &entry) {
-    Json json = Json::object();
-    put(json, "ssid", text(entry.ssid));
+Value jsonOf(const SiteSurveyEntry &entry) {
+    Value json = Value::object();
+    json["ssid"] = text(entry.ssid);
     json["channel"] = entry.channel;
     json["dfs"] = isRadarChannel(entry.channel);
     json["rssi_dbm"] = entry.rssi;
-    put(json, "security", text(entry.security));
-    put(json, "encryption", text(entry.encryption));
-    put(json, "bssid", text(entry.macaddr));
+    json["security"] = text(entry.security);
+    json["encryption"] = text(entry.encryption);
+    json["bssid"] = text(entry.macaddr);
     json["bandwidth_mhz"] = entry.bandwidth;
-    put(json, "standards", text(entry.phymode));
-    put(json, "secondary_side", text(entry.sideband));
+    json["standards"] = text(entry.phymode);
+    json["secondary_side"] = text(entry.sideband);
     json["product"] = entry.product;
     return json;
 }
 
-std::vector<Cell> rowOf(const SiteSurveyEntry &entry) {
+Row rowOf(const SiteSurveyEntry &entry) {
     return {{text(entry.ssid)},
             {markedChannel(entry.channel)},
             {std::to_string(entry.rssi)},
@@ -86,21 +79,21 @@ bool exists(const std::string &file) {
     return access(file.c_str(), F_OK) == 0;
 }
 
-std::vector<std::string> interfacesWithResult() {
-    std::vector<std::string> names;
-    for (const Object &ssid : get({{"Device.WiFi.SSID", {{"Name", {}}}}}, Reading::Whole)) {
+std::vector<InterfaceName> interfacesWithResult() {
+    std::vector<InterfaceName> names;
+    for (const Object &ssid : get({{"Device.WiFi.SSID", {{"Name"}}}}, Reading::Whole)) {
         const std::string name = valueOf(ssid, "Name");
-        if (!name.empty() && exists(surveyFile(checkedInterface(name)))) {
-            names.push_back(name);
+        if (!name.empty() && exists(surveyFile(InterfaceName(name)))) {
+            names.emplace_back(name);
         }
     }
     return names;
 }
 
 Report surveyOfAll(const std::string &ssid) {
-    const std::vector<std::string> names = interfacesWithResult();
+    const std::vector<InterfaceName> names = interfacesWithResult();
     if (names.empty()) {
-        throw Failure(Exit::Absent, "no interface has a result; caltofal wifi scan INTERFACE makes one");
+        throw Failure(Category::Absent, "no interface has a result; caltofal wifi scan INTERFACE makes one");
     }
     if (names.size() == 1) {
         return surveyReport(surveyFile(names[0]), ssid);
@@ -115,48 +108,38 @@ Report surveyOfAll(const std::string &ssid) {
         all = target;
     }
     if (const std::string complaint = output.end(); !complaint.empty()) {
-        failOfShell("the results can not be joined", complaint);
+        failOfShell("the results cannot be joined", complaint);
     }
     return surveyReport(all, ssid);
 }
 
-Report run(const Arguments &arguments) {
-    const std::string &name = arguments.interface;
-    const std::string &ssid = checkedSsid(arguments.ssid);
-    if (name.empty()) {
-        needDevice();
-        return surveyOfAll(ssid);
-    }
-    checkedInterface(name);
-    needDevice();
-    findInterface(name);
-    if (!exists(surveyFile(name))) {
-        throw Failure(Exit::Absent, name + " has no result; caltofal wifi scan " + name + " makes one");
-    }
-    return surveyReport(surveyFile(name), ssid);
-}
-
-Run define(CLI::App &command) {
-    const auto arguments = std::make_shared<Arguments>();
-    addOptionalArgument(command, "INTERFACE", arguments->interface, "Only the result of that interface");
-    addOption(command, "--ssid", arguments->ssid, "SSID", "Only that network");
-    return [arguments] { return run(*arguments); };
-}
-
 } // namespace
 
-std::string surveyFile(const std::string &interface) {
-    return "/tmp/wlan_wave/" + interface + "_scan_by_User.result";
+std::string surveyFile(const InterfaceName &interface) {
+    return "/tmp/wlan_wave/" + interface.text() + "_scan_by_User.result";
+}
+
+Report survey(const std::optional<InterfaceName> &interface, const std::string &ssid) {
+    const DeviceTurn turn;
+    if (!interface) {
+        return surveyOfAll(ssid);
+    }
+    findInterface(*interface);
+    if (!exists(surveyFile(*interface))) {
+        throw Failure(Category::Absent,
+                      interface->text() + " has no result; caltofal wifi scan " + interface->text() + " makes one");
+    }
+    return surveyReport(surveyFile(*interface), ssid);
 }
 
 Report surveyReport(const std::string &file, const std::string &ssid) {
     Survey survey;
     const int count = GetSiteSurveyList(file.c_str(), &survey.list, ssid.c_str());
-    Report result{{{"networks", Json::array()}}, {}, {}, {}};
+    Report result{.json = Value::object({{"networks", Value::list()}})};
     result.table.headings = {"SSID", "CHANNEL", "DBM", "SECURITY", "ENCRYPTION", "BSSID", "MHZ", "STANDARDS", "2ND"};
     const std::span entries(survey.list.entries, static_cast<size_t>(count));
     for (const SiteSurveyEntry &entry : entries) {
-        result.json["networks"].push_back(jsonOf(entry));
+        result.json["networks"].push(jsonOf(entry));
     }
     std::stable_sort(entries.begin(), entries.end(), [](const auto &a, const auto &b) { return a.rssi > b.rssi; });
     for (const SiteSurveyEntry &entry : entries) {
@@ -165,7 +148,7 @@ Report surveyReport(const std::string &file, const std::string &ssid) {
     const int lost = ssid.empty() ? GetFileLineCnt(file.c_str()) - count : 0;
     if (count == 0) {
         if (!ssid.empty()) {
-            throw Failure(Exit::Absent, "the network \"" + ssid + "\" was not found");
+            throw Failure(Category::Absent, "the network \"" + ssid + "\" was not found");
         }
         result.notes.emplace_back("no networks found");
     }
@@ -176,6 +159,4 @@ Report surveyReport(const std::string &file, const std::string &ssid) {
     return result;
 }
 
-const Noun kSurveyVerb = {"survey", "The networks that the last scans found", "\nwlan0", define};
-
-} // namespace cli::wifi
+} // namespace pages::wifi

@@ -2,16 +2,17 @@
 // The networks around, as the device's last scan left them in its result files.
 #pragma once
 
+#include "pages/checked.h"
 #include "pages/report.h"
 
 #include <string>
 
-namespace cli::wifi {
+namespace pages::wifi {
 
-// The result file of an interface whose name was checked.
-std::string surveyFile(const std::string &interface);
+// The result file of an interface.
+std::string surveyFile(const InterfaceName &interface);
 
 // The networks of a result file; with an `ssid`, only that one: throws Failure when it is not there.
 Report surveyReport(const std::string &file, const std::string &ssid);
 
-} // namespace cli::wifi
+} // namespace pages::wifi

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// `wifi set`: a snapshot of what the gateway holds, a comparison, and one message with what differs.
+// A snapshot of what the gateway holds, a comparison, and one message with what differs.
 #include "pages/wifi/pages.h"
 
 #include "pages/failure.h"
 #include "pages/layer/call.h"
-#include "pages/objects/words.h"
+#include "pages/page.h"
 #include "pages/wifi/interface.h"
 #include "pages/wifi/settings.h"
 
@@ -12,16 +12,10 @@
 #include <cctype>
 #include <utility>
 
-namespace cli::wifi {
+namespace pages::wifi {
 namespace {
 
 constexpr size_t kValueMax = 126; // what a row of a table keeps
-
-struct Arguments {
-    std::string subject, instance;
-    std::vector<std::string> words;
-    bool storeOnly = false, dryRun = false, force = false, ui = false;
-};
 
 class Message {
   public:
@@ -32,7 +26,7 @@ class Message {
     ~Message() { faltocal_finalize(&header_); }
 
     void send(WifiParamTable &changes, bool storeOnly) {
-        ask([&] { return faltocal_fromDB(&header_, &changes, 0, storeOnly ? 1 : 0); }, {"the changes can not be sent"});
+        ask([&] { return faltocal_fromDB(&header_, &changes, 0, storeOnly ? 1 : 0); }, {"the changes cannot be sent"});
     }
 
   private:
@@ -54,55 +48,50 @@ const WifiParamRow &rowNamed(const WifiParamTable &current, const std::string &n
         return text(row.parameter) == name || path == name || path == "Device.WiFi." + name;
     });
     if (found == rows(current).end()) {
-        throw Failure(Exit::Absent, "no setting \"" + name + "\" here; there are " + namesOf(current));
+        throw Failure(Category::Absent, "no setting \"" + name + "\" here; there are " + namesOf(current));
     }
     return *found;
 }
 
 // Other spellings of a flag or a number as the layer writes them, so that they compare equal.
 std::string normalized(const WifiParamRow &row, const std::string &value) {
-    const Json now = typed(text(row.parameter), text(row.value));
-    if (now.is_boolean()) {
+    const Value now = typed(text(row.parameter), text(row.value));
+    if (now.isFlag()) {
         std::string lower = value;
         std::transform(lower.begin(), lower.end(), lower.begin(), [](unsigned char c) { return tolower(c); });
         return lower == "1" || lower == "true" ? "true" : lower == "0" || lower == "false" ? "false" : value;
     }
     const size_t sign = value.starts_with('+') ? 1 : 0;
     const bool digits = value.size() > sign && value.find_first_not_of("0123456789", sign) == std::string::npos;
-    if (!now.is_number() || !digits) {
+    if (!now.isNumber() || !digits) {
         return value;
     }
     return value.substr(std::min(value.find_first_not_of('0', sign), value.size() - 1));
 }
 
-// The words of the command line with the objects that hold them.
-Settings requested(const Arguments &arguments, const std::vector<Parameter> &wanted, const WifiParamTable &current) {
+void checkLength(const Parameter &parameter) {
+    if (parameter.value.size() > kValueMax) {
+        throw Usage(parameter.name + ": the value has " + std::to_string(parameter.value.size()) +
+                    " bytes: the most is " + std::to_string(kValueMax));
+    }
+}
+
+// What is wanted, with the objects that hold it.
+Settings requested(const SettingsChange &change, const WifiParamTable &current) {
     auto table = std::make_unique<WifiParamTable>();
-    for (const Parameter &parameter : wanted) {
+    for (const Parameter &parameter : change.wanted) {
         const WifiParamRow &row = rowNamed(current, parameter.name);
         if (std::any_of(rows(*table).begin(), rows(*table).end(),
                         [&](const WifiParamRow &one) { return text(one.parameter) == text(row.parameter); })) {
             throw Usage(text(row.parameter) + " is given twice");
         }
-        const std::string given = arguments.ui ? fapiWord(text(row.parameter), parameter.value) : parameter.value;
+        const std::string given = change.uiWords ? fapiWord(text(row.parameter), parameter.value) : parameter.value;
         const std::string value = normalized(row, given);
         if (SetParam(table.get(), row.object, row.parameter, value.c_str()) != 0) {
             throw Usage("too many settings: the most is 100");
         }
     }
     return table;
-}
-
-std::vector<Parameter> assignments(const std::vector<std::string> &words) {
-    std::vector<Parameter> result;
-    for (const std::string &word : words) {
-        const Parameter &parameter = result.emplace_back(assignment(word));
-        if (parameter.value.size() > kValueMax) {
-            throw Usage(parameter.name + ": the value has " + std::to_string(parameter.value.size()) +
-                        " bytes: the most is " + std::to_string(kValueMax));
-        }
-    }
-    return result;
 }
 
 Settings differences(WifiParamTable &current, const WifiParamTable &wanted, bool force) {
@@ -138,14 +127,9 @@ void addChanges(Report &result, const WifiParamTable &current, const WifiParamTa
         const std::string name = text(row.parameter);
         const std::string from = text(rowNamed(current, name).value);
         const std::string to = text(row.value);
-        Json change = Json::object();
-        put(change, "object", text(row.object));
-        put(change, "parameter", name);
-        put(change, "from", typed(name, from));
-        put(change, "to", typed(name, to));
-        result.json["changes"].push_back(change);
-        result.table.rows.push_back(
-            {{text(row.object) + "." + name}, {from.empty() ? "-" : from}, {"->"}, {to.empty() ? "-" : to}});
+        result.json["changes"].push(Value::object(
+            {{"object", text(row.object)}, {"parameter", name}, {"from", typed(name, from)}, {"to", typed(name, to)}}));
+        result.table.rows.push_back({{text(row.object) + "." + name}, {readable(from)}, {"->"}, {readable(to)}});
     }
 }
 
@@ -153,63 +137,44 @@ Settings readBack(Subject subject, int instance) {
     try {
         return snapshot(subject, instance);
     } catch (const Failure &failure) {
-        throw Failure(Exit::Failed, std::string("written, but could not be read back: ") + failure.what(),
+        throw Failure(Category::Failed, std::string("written, but could not be read back: ") + failure.what(),
                       failure.object(), failure.code());
     }
 }
 
-Report run(const Arguments &arguments) {
-    const Subject subject = subjectOf(arguments.subject);
-    const int instance = checkedInstance(arguments.instance, subject == Subject::Ssid ? "SSID" : "radio");
-    const std::vector<Parameter> words = assignments(arguments.words);
-    const Settings current = snapshot(subject, instance);
-    const Settings wanted = requested(arguments, words, *current);
-    const Settings changes = differences(*current, *wanted, arguments.force || arguments.storeOnly);
-    const bool writes = changes->count > 0 && !arguments.dryRun;
-
-    Report result{
-        {{"changes", Json::array()}, {"written", writes}, {"applied", writes && !arguments.storeOnly}}, {}, {}, {}};
-    if (writes) {
-        Message().send(*changes, arguments.storeOnly);
+void addNotes(const SettingsChange &change, bool differs, std::vector<std::string> &notes) {
+    if (!differs) {
+        notes.emplace_back("nothing to change: these are the values in force (--force writes them all the same)");
+    } else if (change.dryRun) {
+        notes.emplace_back("dry run: nothing written; whether the gateway takes it was not asked");
+    } else if (change.storeOnly) {
+        notes.emplace_back("stored: in force after the next start");
     }
-    addChanges(result, *current, *changes);
-    noteChannel(*changes, *current, result.notes);
-    if (writes && !arguments.storeOnly) {
-        noteReadBack(*readBack(subject, instance), *changes, result.notes);
-    }
-    if (changes->count == 0) {
-        result.notes.emplace_back(
-            "nothing to change: these are the values in force (--force writes them all the same)");
-    } else if (arguments.dryRun) {
-        result.notes.emplace_back("dry run: nothing written; whether the gateway takes it was not asked");
-    } else if (arguments.storeOnly) {
-        result.notes.emplace_back("stored: in force after the next start");
-    }
-    return result;
-}
-
-Run define(CLI::App &command) {
-    const auto arguments = std::make_shared<Arguments>();
-    addArgument(command, "SUBJECT", arguments->subject, "ssid or radio");
-    addArgument(command, "NUMBER", arguments->instance, "Its instance number");
-    addArguments(command, "SETTING", arguments->words, "NAME=VALUE...",
-                 "New values, named as `wifi ssid` and `wifi "
-                 "radio` show them");
-    addFlag(command, "--ui", arguments->ui, "The values are in the user interface's words");
-    addFlag(command, "--dry-run", arguments->dryRun,
-            "Only tell what would be written; the gateway is not asked whether it takes the values");
-    addFlag(command, "--db-only", arguments->storeOnly,
-            "Store all that is given without applying: in force after the next start");
-    addFlag(command, "--force", arguments->force, "Write values that are the same as well");
-    return [arguments] { return run(*arguments); };
 }
 
 } // namespace
 
-const Noun kSetVerb = {"set", "Change settings of an SSID or a radio, writing only what differs",
-                       "ssid 1 SSID=attic SSIDAdvertisementEnabled=true\n"
-                       "radio 1 --ui OperatingChannelBandwidth=40 ExtensionChannel=upper --dry-run\n"
-                       "radio 2 Channel=44 --db-only",
-                       define};
+Report changeSettings(const SettingsChange &change) {
+    for (const Parameter &parameter : change.wanted) {
+        checkLength(parameter);
+    }
+    const Settings current = snapshot(change.subject, change.instance);
+    const Settings wanted = requested(change, *current);
+    const Settings changes = differences(*current, *wanted, change.force || change.storeOnly);
+    const bool writes = changes->count > 0 && !change.dryRun;
+    const bool applies = writes && !change.storeOnly;
 
-} // namespace cli::wifi
+    Report result{.json = Value::object({{"changes", Value::list()}, {"written", writes}, {"applied", applies}})};
+    if (writes) {
+        Message().send(*changes, change.storeOnly);
+    }
+    addChanges(result, *current, *changes);
+    noteChannel(*changes, *current, result.notes);
+    if (applies) {
+        noteReadBack(*readBack(change.subject, change.instance), *changes, result.notes);
+    }
+    addNotes(change, changes->count > 0, result.notes);
+    return result;
+}
+
+} // namespace pages::wifi

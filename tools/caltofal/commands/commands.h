@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// The commands by subject; each group stands in the file of its name.
+#pragma once
+
+#include "caltofal/command.h"
+
+namespace cli {
+
+std::span<const Command> networkCommands();
+std::span<const Command> objectCommands();
+std::span<const Command> wifiCommands();
+std::span<const Command> meshCommands();
+
+} // namespace cli

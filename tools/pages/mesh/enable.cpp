@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#include "pages/mesh/pages.h"
+
+#include "caltofal.h"
+#include "pages/layer/call.h"
+
+namespace pages::mesh {
+
+Report enable(bool on) {
+    ask([&] { return ZINTU_meshgrove_set_enable_value(on ? 1 : 0); }, {"the mesh cannot be switched"});
+    return {.json = Value::object({{"enabled", on}})};
+}
+
+} // namespace pages::mesh

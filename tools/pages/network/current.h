@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// The current network, on which several pages hang.
+#pragma once
+
+#include <string>
+
+namespace pages {
+
+// What is said where the current network does not tell.
+inline constexpr const char *kNoMode = "Device.X_ZINTU_CurrentNetwork: no OperationMode is given";
+inline constexpr const char *kNoDefaultWan = "Device.X_ZINTU_CurrentNetwork: no WanIpInterface is given";
+
+// The operation mode; its bits tell what the device is.
+int operationMode();
+inline constexpr int kWifiWanBit = 2;
+inline constexpr int kRouterBit = 4; // a router, or the master of a mesh
+
+// The IP interface object of the default WAN.
+std::string gatewayInterface();
+
+} // namespace pages

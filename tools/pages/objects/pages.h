@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// Any object of the data model: read and changed. Throws Failure.
+#pragma once
+
+#include "pages/layer/query.h"
+#include "pages/report.h"
+
+#include <string>
+#include <vector>
+
+namespace pages::objects {
+
+struct Query {
+    std::vector<Object> objects;       // with the parameters wanted; none: all
+    std::vector<Parameter> where = {}; // of the one object: only instances whose parameters have those values
+    bool leaf = false;                 // its own parameters, nothing below it
+    bool defaults = false;             // the values after a factory reset
+    bool valuesOnly = false;           // a line each, in the raw text
+};
+
+// Throws Usage for what does not go together.
+void check(const Query &query);
+Report read(const Query &query);
+
+// All objects of a change go in one message, which is done whole or not at all. `storeOnly`: not applied.
+Report set(const std::vector<Object> &objects, bool storeOnly);
+Report add(const std::vector<Object> &tables, bool storeOnly);
+Report remove(const std::vector<std::string> &instances, bool storeOnly);
+
+// An instance by one parameter, and the value of another (127 characters at most).
+struct Search {
+    std::string table, filter, value, wanted;
+};
+Report find(const Search &search);
+
+} // namespace pages::objects
