@@ -25,8 +25,3 @@ const char *GetSideChannel(int channel, const char *countryCode, const char *fal
     }
     return channel > lastChannelWithRoomAbove(countryCode) ? "BelowControlChannel" : fallback;
 }
-
-// Kept for the hosts that call it.
-int GetDFSChannel(void) {
-    return 0;
-}

@@ -1,29 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "wifi/driver/current_channel.h"
-
+// The channel in use.
 #include "frame/pipe.h"
+#include "frame/text.h"
+#include "wifi/driver/command_text.h"
 #include "wifi/driver/file.h"
-#include "wifi/driver/formatted.h"
+#include "wifi/driver/radio_text.h"
 #include "wifi/wifi_trace.h"
-
-#include <cstring>
 
 using namespace frame;
 using namespace wifi;
 
-namespace wifi {
-
-const char *findCurrentChannel(const char *line) {
-    constexpr char kLabel[] = "Current Channel=";
-    const char *found = strstr(line, kLabel);
-    return found ? found + sizeof(kLabel) - 1 : nullptr;
-}
-
-} // namespace wifi
-
 int GetCurrentChannel(const char *ifname, int /*ignored*/, int *channel) {
     traceStart();
-    const Formatted<128> command("iwlist %s channel", ifname);
+    char command[128];
+    formatCut(command, sizeof(command), "iwlist %s channel", ifname);
     Pipe pipe(command);
     if (!pipe.started()) {
         traceVola(Unit::WifiUtil, "popen()");
@@ -31,8 +21,8 @@ int GetCurrentChannel(const char *ifname, int /*ignored*/, int *channel) {
     }
     char line[kLineSize];
     while (pipe.readLine(line, sizeof(line))) {
-        if (const char *number = findCurrentChannel(line)) {
-            *channel = ConvInt(number);
+        if (const char *current = findCurrentChannel(line)) {
+            *channel = number(current);
         }
     }
     return 1;

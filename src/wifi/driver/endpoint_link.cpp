@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The upstream link of a repeater's endpoint, from its driver's files.
+// The upstream link of a repeater's endpoint.
 #include "frame/pipe.h"
 #include "frame/text.h"
+#include "wifi/driver/command_text.h"
+#include "wifi/driver/endpoint_lines.h"
 #include "wifi/driver/file.h"
-#include "wifi/driver/formatted.h"
 #include "wifi/wifi_trace.h"
-
-#include <cstring>
 
 using namespace frame;
 using namespace wifi;
@@ -14,42 +13,22 @@ using namespace wifi;
 namespace {
 
 // The file that a command leaves its output in; both queries use the same one.
-struct PeerFile : Formatted<128> {
-    explicit PeerFile(const char *ifname) : Formatted("/tmp/wlan_wave/%s_peer_info", ifname) {}
+struct PeerFile {
+    explicit PeerFile(const char *ifname) { formatCut(path, sizeof(path), "/tmp/wlan_wave/%s_peer_info", ifname); }
+
+    char path[128];
 };
 
-using Command = Formatted<256>;
-
-bool run(const char *command, const char *function) {
-    if (runShell(command)) {
-        return true;
-    }
-    traceVola({Unit::WifiUtil, __LINE__, function}, "%s system command fail\n", command);
-    return false;
-}
-
-// Names a pattern in place of the path.
-void traceMissing(const char *pattern, const char *function = __builtin_FUNCTION()) {
-    traceVola({Unit::WifiUtil, __LINE__, function}, "%s does not exist\n", pattern);
-}
-
-bool readTrimmedLine(File &file, char (&line)[kLineSize]) {
-    if (!file.readLine(line)) {
+// Runs a command and opens the file that it wrote. A file that is missing is traced by a pattern, not by its path.
+bool openOutput(const char *command, File &file, const PeerFile &output, const char *missing, const char *function) {
+    const Place place(Unit::WifiUtil, __LINE__, function);
+    if (!runShell(command)) {
+        traceVola(place, "%s system command fail\n", command);
         return false;
     }
-    line[strcspn(line, "\n")] = '\0';
-    return true;
-}
-
-// Reads a line and leaves out its newline and what does not fit.
-bool readCutLine(File &file, char (&line)[kLineSize]) {
-    constexpr size_t kLast = kLineSize - 2;
-    line[kLast] = '\0';
-    if (!readTrimmedLine(file, line)) {
+    if (!file.open(output.path)) {
+        traceVola(place, "%s does not exist\n", missing);
         return false;
-    }
-    if (line[kLast]) {
-        file.skipLine();
     }
     return true;
 }
@@ -61,19 +40,15 @@ int GetEPContection(const char *ifname, char *macOut) {
         return 0;
     }
     const PeerFile peers(ifname);
-    const Command command("cat /proc/net/mtlk/%s/PeerFlowStatus | grep \"STA MAC\" | "
-                          "sed -e 's/: STA MAC//' -e 's/\\t//' -e 's/ //g' > %s",
-                          ifname, peers.c_str());
-    if (!run(command, __func__)) {
-        return 0;
-    }
-    File file(peers);
-    if (!file.opened()) {
-        traceMissing("/tmp/wlan_wave/%s_peer_info");
-        return 0;
-    }
+    char command[256];
+    formatCut(command, sizeof(command),
+              "cat /proc/net/mtlk/%s/PeerFlowStatus | grep \"STA MAC\" | "
+              "sed -e 's/: STA MAC//' -e 's/\\t//' -e 's/ //g' > %s",
+              ifname, peers.path);
+    File file;
     char line[kLineSize];
-    if (!readTrimmedLine(file, line) || isValidMacAddress(line) == 0) {
+    if (!openOutput(command, file, peers, "/tmp/wlan_wave/%s_peer_info", __func__) || !file.readLine(line) ||
+        !isPeer(line)) {
         return 0;
     }
     if (macOut) {
@@ -87,26 +62,20 @@ int ReqEPChannelInfo(const char *ifname, int32_t *values) {
         return 0;
     }
     const PeerFile figures(ifname);
-    const Command command(
-        "cat /proc/net/mtlk/%s/channel | grep -e width: -e primary_channel: | sed 's/[^0-9]*//g' > %s", ifname,
-        figures.c_str());
-    if (!run(command, __func__)) {
+    char command[256];
+    formatCut(command, sizeof(command),
+              "cat /proc/net/mtlk/%s/channel | grep -e width: -e primary_channel: | sed 's/[^0-9]*//g' > %s", ifname,
+              figures.path);
+    File file;
+    // The pattern is that of another query's file: what is traced is fixed.
+    if (!openOutput(command, file, figures, "/tmp/wlan_wave/%s_scan_by_User.result", __func__)) {
         return 0;
     }
-    File file(figures);
-    if (!file.opened()) {
-        traceMissing("/tmp/wlan_wave/%s_scan_by_User.result"); // another query's file, as hosts' logs know it
-        return 0;
-    }
-    int stored = 0;
-    for (char line[kLineSize]; readCutLine(file, line);) {
-        const int value = ConvInt(line);
-        if (value == 0) {
+    ChannelFigures stored(values);
+    for (char line[kLineSize]; file.readStartOfLine(line);) {
+        if (!stored.addLine(line)) {
             return 0;
         }
-        if (values) {
-            values[stored++] = value;
-        }
     }
-    return stored > 0 ? 1 : 0;
+    return stored.any() ? 1 : 0;
 }

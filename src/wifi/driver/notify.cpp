@@ -2,7 +2,7 @@
 // Asking the service daemon for WPS and scan actions, over the message bus's command-line client.
 #include "frame/pipe.h"
 #include "frame/trace.h"
-#include "wifi/driver/formatted.h"
+#include "wifi/driver/command_text.h"
 
 using namespace frame;
 using namespace wifi;
@@ -19,12 +19,12 @@ int call(const char *command, const char *function) {
     return runShell(command) ? 1 : 0;
 }
 
-template <size_t Size>
-int requestWps(const char *action, const char *function = __builtin_FUNCTION()) {
-    const Formatted<Size> command(
-        "source /opt/lantiq/etc/ugw_notify_defs.sh; ubus call servd notify '{\"notify_id\": "
-        "'$NOTIFY_WIFI_WPS_ACTION', \"type\": false, \"pn1\": \"Action\", \"pv1\": \"%s\"}' > /dev/null\n",
-        action);
+int requestWps(const char *action, size_t size, const char *function = __builtin_FUNCTION()) {
+    char command[kLongCommand];
+    formatCut(command, size,
+              "source /opt/lantiq/etc/ugw_notify_defs.sh; ubus call servd notify '{\"notify_id\": "
+              "'$NOTIFY_WIFI_WPS_ACTION', \"type\": false, \"pn1\": \"Action\", \"pv1\": \"%s\"}' > /dev/null\n",
+              action);
     return call(command, function);
 }
 
@@ -35,25 +35,26 @@ const char *orNull(const char *text) {
 } // namespace
 
 int ReqWPSActive(void) {
-    return requestWps<kLongCommand>("PBC");
+    return requestWps("PBC", kLongCommand);
 }
 
 int ReqWPSCancel(void) {
-    return requestWps<kShortCommand>("CancelWPS");
+    return requestWps("CancelWPS", kShortCommand);
 }
 
 int ReqWPSReset(void) {
-    return requestWps<kShortCommand>("ResetWPS");
+    return requestWps("ResetWPS", kShortCommand);
 }
 
 int ReqScan(const char *ifname, const char *ssid) {
     if (!ifname && !ssid) {
         return 0;
     }
-    const Formatted<kShortCommand> command(
-        "source /opt/lantiq/etc/ugw_notify_defs.sh; ubus call servd notify '{\"nid\": "
-        "'$NOTIFY_WIFI_SCAN_ACTION',\"type\": false,\"pn1\": \"Action\", \"pv1\": \"SCAN\",\"pn2\": \"Name\", "
-        "\"pv2\": \"%s\", \"pn3\": \"SSID\", \"pv3\": \"%s\"}'>/dev/null",
-        orNull(ifname), orNull(ssid));
+    char command[kShortCommand];
+    formatCut(command, sizeof(command),
+              "source /opt/lantiq/etc/ugw_notify_defs.sh; ubus call servd notify '{\"nid\": "
+              "'$NOTIFY_WIFI_SCAN_ACTION',\"type\": false,\"pn1\": \"Action\", \"pv1\": \"SCAN\",\"pn2\": \"Name\", "
+              "\"pv2\": \"%s\", \"pn3\": \"SSID\", \"pv3\": \"%s\"}'>/dev/null",
+              orNull(ifname), orNull(ssid));
     return call(command, __func__);
 }

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The radio behind a network interface.
+// What the wireless tools print of a radio.
 #pragma once
 
 namespace wifi {
 
 // The number behind "wiphy" in the text of `iw dev IF info`; -1 when the word is not there.
 int parsePhyNumber(const char *text);
+
+// The number's text behind "Current Channel=" in a line of `iwlist IF channel`, or nullptr.
+const char *findCurrentChannel(const char *line);
 
 } // namespace wifi

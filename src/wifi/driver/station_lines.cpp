@@ -1,23 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "wifi/driver/station_lines.h"
 
-#include "frame/pipe.h"
 #include "frame/text.h"
 #include "wifi/convert/words.h"
-#include "wifi/driver/file.h"
-#include "wifi/driver/formatted.h"
-#include "wifi/wifi_trace.h"
+#include "wifi/cut_copy.h"
 
 #include <cstring>
 #include <iterator>
 
 using namespace frame;
-using namespace wifi;
 
 namespace wifi {
 namespace {
 
-constexpr size_t kMacSize = 127; // the last byte of the field stays unused
 constexpr int kWeakestRssi = -127;
 
 struct Line {
@@ -55,7 +50,7 @@ void StationParser::addLine(char *line) {
     if (!station_) {
         addStation(parts.value);
     } else if (beginsWith(parts.description, "Short-term")) {
-        addAntenna(ConvInt(parts.value));
+        addAntenna(number(parts.value));
     } else {
         station_ = nullptr; // whatever this line is, it goes with the station that it ends
     }
@@ -67,7 +62,7 @@ void StationParser::addStation(const char *mac) {
     }
     station_ = &list_.entries[list_.count++];
     antenna_ = 0;
-    copyText(station_->mac, kMacSize, mac);
+    copyCut(station_->mac, mac);
 }
 
 void StationParser::addAntenna(int rssi) {
@@ -83,31 +78,3 @@ bool StationParser::isWanted(const char *mac) const {
 }
 
 } // namespace wifi
-
-int GetStaInfo(const char *ifname, const char *macFilter, WifiStaList *list) {
-    traceStart();
-    if (!ifname || !*ifname || !list) {
-        traceError({}, "arg is Failure\n");
-        return list ? static_cast<int>(list->count) : 0;
-    }
-    memset(list, 0, sizeof(*list));
-    const Formatted<128> path("/tmp/wlan_wave/sta_info_%s", ifname);
-    const Formatted<200> command("cat /proc/net/mtlk/%s/PeerFlowStatus | "
-                                 "grep 'STA MAC\\| Short-term RSSI average per antenna' > %s",
-                                 ifname, path.c_str());
-    if (!runShell(command)) {
-        traceVola(Unit::WifiUtil, "system is Failure\n");
-        return 0;
-    }
-    File file(path);
-    if (!file.opened()) {
-        traceVola(Unit::WifiUtil, "%s does not exist\n", path.c_str());
-        return 0;
-    }
-    StationParser parser(macFilter && isValidMacAddress(macFilter) != 0 ? macFilter : nullptr, *list);
-    char line[kLineSize];
-    while (file.readLine(line)) {
-        parser.addLine(line);
-    }
-    return static_cast<int>(list->count);
-}

@@ -83,8 +83,8 @@ int GetSiteSurveyList(const char *path, SiteSurveyList *list, const char *ssidFi
         traceVola(Unit::WifiUtil, "fail to alloc memory");
         return list->count;
     }
-    File file(path);
-    if (!file.opened()) {
+    File file;
+    if (!file.open(path)) {
         traceVola(Unit::WifiUtil, "%s does not exist\n", "/tmp/wlan_wave/%s_scan_by_User.result");
         return list->count;
     }

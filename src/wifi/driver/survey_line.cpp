@@ -21,7 +21,7 @@ char *skipToTab(char *text) {
 
 template <size_t Size>
 void copyColumn(char (&field)[Size], const SurveyLine::Text &column) {
-    copyField(field, column.data, column.length);
+    copyCut(field, column.data, column.length);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "frame/range.h"
 #include "frame/text.h"
 #include "wifi/convert/wrap.h"
+#include "wifi/cut_copy.h"
 #include "wifi/object_path.h"
 #include "wifi/wifi_trace.h"
 
@@ -16,9 +17,8 @@ using namespace wifi;
 namespace {
 
 constexpr int kSsidsOfRadio = 8;
-constexpr size_t kTextSize = 127; // the last byte of the field stays unused
 
-// What an answer says about one SSID.
+// What the layer answers about one SSID.
 struct Ssid {
     bool enabled = false;
     bool active = false;
@@ -32,19 +32,19 @@ bool ask(MsgHeader *message, int ssid) {
                                         "AssociatedDeviceNumberOfEntries") != -1;
 }
 
-void take(const ParamNode &param, Ssid &ssid, char *lowerLayers) {
+void take(const ParamNode &param, Ssid &ssid, char (&lowerLayers)[128]) {
     if (sameName(param.name, "Enable")) {
         ssid.enabled = ConvStrToBool(param.value) != 0;
     } else if (sameName(param.name, "X_ZINTU_Active")) {
         ssid.active = ConvStrToBool(param.value) != 0;
     } else if (sameName(param.name, "LowerLayers")) {
-        copyText(lowerLayers, kTextSize, param.value);
+        copyCut(lowerLayers, param.value);
     } else if (sameName(param.name, "AssociatedDeviceNumberOfEntries")) {
-        ssid.clients = ConvInt(param.value);
+        ssid.clients = number(param.value);
     }
 }
 
-Ssid read(const MsgHeader &answer, char *lowerLayers) {
+Ssid read(const MsgHeader &answer, char (&lowerLayers)[128]) {
     Ssid ssid;
     for (ObjectNode &object : objects(answer)) {
         for (const ParamNode &param : params(object)) {
@@ -52,15 +52,6 @@ Ssid read(const MsgHeader &answer, char *lowerLayers) {
         }
     }
     return ssid;
-}
-
-// Starts over for the next SSID. A message without a list is not released here, only when it is the last.
-void restart(Message &message) {
-    if ((*message).objectList) {
-        message.reset();
-    } else {
-        *message.header() = {};
-    }
 }
 
 } // namespace
@@ -71,12 +62,14 @@ int GetAssociatedDeviceNumberOfEntries(int radioIndex) {
         return 0;
     }
     ObjectPath radio(Table::Radio, radioIndex, ".");
-    // Kept from one SSID to the next: one that does not name its radio counts as its predecessor does.
+    // Kept from one SSID to the next: one that does not name its radio counts as the SSID before it.
     char lowerLayers[128] = "";
     int total = 0;
     Message message;
     for (int i = 0; i < kSsidsOfRadio; ++i) {
-        restart(message);
+        if ((*message).objectList) { // without a list, only the last message is released
+            message.reset();
+        }
         if (!ask(message, ConvSsidIdxToFapi(radioIndex, i))) {
             traceFailedRequest();
             break;

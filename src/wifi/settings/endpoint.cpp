@@ -4,6 +4,7 @@
 #include "frame/message.h"
 #include "frame/range.h"
 #include "frame/text.h"
+#include "wifi/cut_copy.h"
 #include "wifi/object_path.h"
 #include "wifi/wifi_trace.h"
 
@@ -14,8 +15,8 @@ using namespace wifi;
 
 namespace {
 
-constexpr size_t kTextSize = 127; // the last byte of a field stays unused
 constexpr int kNoneEnabled = -1;
+constexpr size_t kNameSize = 127; // the last byte of the caller's char[128] stays unused
 
 struct EndPoint {
     char enable[128] = "";
@@ -32,9 +33,9 @@ bool askEndPoints(MsgHeader *message) {
 void take(ObjectNode &object, EndPoint &endPoint) {
     for (const ParamNode &param : params(object)) {
         if (sameName(param.name, "Enable")) {
-            copyText(endPoint.enable, kTextSize, param.value);
+            copyCut(endPoint.enable, param.value);
         } else if (sameName(param.name, "SSIDReference")) {
-            copyText(endPoint.ssidReference, kTextSize, param.value);
+            copyCut(endPoint.ssidReference, param.value);
         }
     }
 }
@@ -66,7 +67,7 @@ void copyName(const MsgHeader &answer, char *out) {
     for (ObjectNode &object : objects(answer)) {
         for (const ParamNode &param : params(object)) {
             if (sameName(param.name, "Name")) {
-                copyText(out, kTextSize, param.value);
+                copyText(out, kNameSize, param.value);
             }
         }
     }

@@ -3,16 +3,16 @@
 #include "frame/lookup.h"
 #include "frame/range.h"
 #include "frame/text.h"
+#include "wifi/cut_copy.h"
 #include "wifi/wifi_trace.h"
 
 #include <cstring>
 #include <iterator>
 
 using namespace frame;
+using namespace wifi;
 
 namespace {
-
-constexpr size_t kTextSize = 127; // the last byte of the fields stays unused
 
 // The instance number's text behind the table's path and its dot; "" when the name is too short to have one.
 const char *instanceText(const char *objectName, const char *prefix) {
@@ -26,10 +26,10 @@ bool fillEntry(ObjectNode &object, MacAccessEntry &entry) {
     bool hasAddress = false;
     for (const ParamNode &param : params(object)) {
         if (sameName(param.name, "name")) {
-            copyText(entry.name, kTextSize, param.value);
+            copyCut(entry.name, param.value);
             hasName = true;
         } else if (sameName(param.name, "macAddress")) {
-            copyText(entry.macAddress, kTextSize, param.value);
+            copyCut(entry.macAddress, param.value);
             hasAddress = true;
         }
     }

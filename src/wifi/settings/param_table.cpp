@@ -14,9 +14,9 @@ bool appendRow(WifiParamTable &table, std::string_view object, std::string_view 
         return false;
     }
     WifiParamRow &row = table.rows[table.count];
-    copyField(row.object, object.data(), object.size());
-    copyField(row.parameter, parameter.data(), parameter.size());
-    copyField(row.value, value.data(), value.size());
+    copyCut(row.object, object.data(), object.size());
+    copyCut(row.parameter, parameter.data(), parameter.size());
+    copyCut(row.value, value.data(), value.size());
     ++table.count;
     return true;
 }

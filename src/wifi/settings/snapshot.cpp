@@ -45,7 +45,8 @@ void keepSettings(const Snapshot &snapshot, const MsgHeader &answer, WifiParamTa
 
 namespace {
 
-// The request takes its names as variable arguments: it is handed as many as the longest step has and takes `count`.
+// Asks for `count` parameters, whose names stand one behind the other. A variable argument list has a fixed length: as
+// many names as the longest step has are passed, of which the request reads the first `count`.
 int ask(MsgHeader *message, const char *path, const char *names, int count) {
     constexpr int kMostNames = 16;
     const char *name[kMostNames] = {};
@@ -72,8 +73,11 @@ int askAll(const Snapshot &snapshot, MsgHeader *message, int own, int accessPoin
 }
 
 int take(const Snapshot &snapshot, int own, int accessPoint, WifiParamTable *table, const char *function) {
-    Message message(Message::Empty::Skip);
+    Message message;
     const int result = askAll(snapshot, message, own, accessPoint);
+    if (!(*message).objectList) {
+        message.leave(); // there is nothing to release
+    }
     if (result == -1) {
         traceFailedRequest({__LINE__, function});
     } else {
