@@ -1,21 +1,25 @@
 // SPDX-License-Identifier: MIT
 // What `iw` prints of a radio and its channels.
-#include "fuzz.h"
+#include "lines.h"
+#include "wifi/driver/channel_lines.h"
+#include "wifi/driver/radio_text.h"
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     fuzz::Bytes bytes(data, size);
-    fuzz::startOver();
-    const int radio = bytes.byte() % 4;
-    test::platform().otherwise({0, {test::object("Device.WiFi.Radio.1", {"IEEE80211hEnabled=" + bytes.text(8)})}});
-    test::shell().onPopen = [&](const std::string &command) {
-        return command.find("info") != std::string::npos ? bytes.text(400) : bytes.rest();
-    };
-    WifiChannelList list;
-    const int count = GetChannelList("wlan0", radio, &list);
-    fuzz::require(count >= 0 && count <= 100, "a wrong channel count");
-    for (int i = 0; i < count; ++i) {
-        const int32_t(&widths)[4] = list.entries[i].bandwidths;
-        fuzz::require(widths[0] == 20 || widths[0] == 0, "widths that do not begin with 20 MHz");
+    const bool only2_4GHz = bytes.byte() % 4 == 1;
+    const wifi::ChannelRules rules = {bytes.text(8) == "true", only2_4GHz};
+    fuzz::Text info(bytes.text(400));
+    wifi::parsePhyNumber(info.get());
+    WifiChannelList list = {};
+    fuzz::eachLine(bytes.rest(), [&](char *line) {
+        if (wifi::hasRoom(list)) {
+            wifi::addChannelLine(line, rules, list);
+        }
+    });
+    fuzz::require(list.count <= 100, "a wrong channel count");
+    for (uint32_t i = 0; i < list.count; ++i) {
+        fuzz::require(list.entries[i].bandwidths[0] == 20, "widths that do not begin with 20 MHz");
+        fuzz::require(!only2_4GHz || list.entries[i].frequency < 2485, "a channel above the 2.4 GHz band");
     }
     return 0;
 }

@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: MIT
-// What the fuzzers of the library share: the scripted platform and device of the unit tests, started over for each
-// input, with failed expectations ending the run.
+// For fuzzers of functions that ask the configuration layer or trace: the scripted platform and device of the unit
+// tests, started over for each input, with failed expectations ending the run.
 #pragma once
 
-#include "bytes.h"
+#include "check.h"
 #include "device.h"
 #include "platform.h"
-
-#include <cstdlib>
-#include <cstring>
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 
 namespace fuzz {
 
@@ -22,26 +17,5 @@ inline void startOver() {
     test::takeConsole();
     test::takeSyslog();
 }
-
-// Ends the run with what went wrong: a failed expectation cannot be ignored here.
-inline void require(bool holds, const char *what) {
-    if (!holds) {
-        fprintf(stderr, "%s\n", what);
-        abort();
-    }
-}
-
-// A text in memory of its very length, so that a read past its end is seen.
-class Text {
-  public:
-    explicit Text(const std::string &text) : text_(strdup(text.c_str())) {}
-    ~Text() { free(text_); }
-    Text(const Text &) = delete;
-    Text &operator=(const Text &) = delete;
-    char *get() { return text_; }
-
-  private:
-    char *text_;
-};
 
 } // namespace fuzz
