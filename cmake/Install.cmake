@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What `cmake --install` puts where, in four components: library, development, tools and sandbox. What is installed
+# What `cmake --install` puts where, in five components: library, development, tools, web and sandbox. What is installed
 # may be moved as a whole: the programs, the pkg-config file and the CMake package find the rest from where they are.
 include(CMakePackageConfigHelpers)
 
@@ -10,7 +10,7 @@ function(caltofal_relative variable from to)
   set(${variable} ${way} PARENT_SCOPE)
 endfunction()
 
-# The libraries find each other beside themselves; of the programs caltofal alone needs one of them.
+# The libraries find each other beside themselves; of the programs caltofal and caltofal-web need one of them.
 foreach(library caltofal cal helper)
   if(TARGET ${library})
     set_target_properties(${library} PROPERTIES INSTALL_RPATH "$ORIGIN")
@@ -21,10 +21,12 @@ foreach(program caltofal-sandbox caltofal-box-init caltofal-device-model)
     set_target_properties(${program} PROPERTIES INSTALL_RPATH "")
   endif()
 endforeach()
-if(TARGET caltofal_tool)
-  caltofal_relative(library_from_program ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
-  set_target_properties(caltofal_tool PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_program}")
-endif()
+caltofal_relative(library_from_program ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+foreach(program caltofal_tool caltofal-web)
+  if(TARGET ${program})
+    set_target_properties(${program} PROPERTIES INSTALL_RPATH "$ORIGIN/${library_from_program}")
+  endif()
+endforeach()
 
 install(TARGETS caltofal EXPORT caltofal-targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
         NAMELINK_COMPONENT development)
@@ -52,7 +54,7 @@ function(caltofal_install_page page component)
   string(REGEX MATCH "[0-9]$" section ${page})
   install(FILES packaging/man/${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man${section} COMPONENT ${component})
 endfunction()
-# One script serves both programs; the shell looks for it under the program's name.
+# One script serves all programs; the shell looks for it under the program's name.
 function(caltofal_install_completion program component)
   install(FILES packaging/completion/caltofal.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
           RENAME ${program} COMPONENT ${component})
@@ -62,6 +64,10 @@ caltofal_install_page(libcaltofal.3 development)
 if(TARGET caltofal_tool)
   caltofal_install_page(caltofal.1 tools)
   caltofal_install_completion(caltofal tools)
+endif()
+if(TARGET caltofal-web)
+  caltofal_install_page(caltofal-web.1 web)
+  caltofal_install_completion(caltofal-web web)
 endif()
 if(TARGET caltofal-sandbox)
   caltofal_install_page(caltofal-sandbox.1 sandbox)

@@ -31,6 +31,9 @@ caltofal_package(development libcaltofal-dev libdevel
 caltofal_package(tools caltofal net
                  "command line for a residential gateway's TR-181 configuration"
                  "Shows the pages of a gateway, reads and changes any object, readable or as JSON.")
+caltofal_package(web caltofal-web net
+                 "web back end for a residential gateway's TR-181 configuration"
+                 "Serves the pages of a gateway as JSON over HTTP, with a page for the browser.")
 caltofal_package(sandbox caltofal-sandbox devel
                  "a residential gateway on a laptop"
                  "Stand-ins of the platform libraries libcal and libhelper on SQLite, demo
@@ -43,6 +46,8 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library_package} ${same_version}
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF) # no programs in it
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${library_package} ${same_version}")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "bash-completion")
+set(CPACK_DEBIAN_WEB_PACKAGE_DEPENDS "${library_package} ${same_version}")
+set(CPACK_DEBIAN_WEB_PACKAGE_SUGGESTS "bash-completion, caltofal")
 set(CPACK_DEBIAN_SANDBOX_PACKAGE_PROVIDES "caltofal-platform")
 set(CPACK_DEBIAN_SANDBOX_PACKAGE_RECOMMENDS "bubblewrap, busybox-static")
 set(CPACK_DEBIAN_SANDBOX_PACKAGE_SUGGESTS "bash-completion, caltofal")
@@ -58,6 +63,9 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has its own
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT "${CALTOFAL_MAINTAINER}")
 set(CPACK_COMPONENTS_ALL library development tools sandbox)
+if(CALTOFAL_WEB)
+  list(APPEND CPACK_COMPONENTS_ALL web)
+endif()
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

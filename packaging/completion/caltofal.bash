@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Bash completion of caltofal(1) and caltofal-sandbox(1). Nouns, verbs, options and their words come from the programs'
+# Bash completion of caltofal(1), caltofal-web(1) and caltofal-sandbox(1). Nouns, verbs, options and their words come from the programs'
 # own help, gateways and objects from the sandbox or the device: nothing here needs to follow them.
 # shellcheck shell=bash
 
@@ -86,6 +86,7 @@ _caltofal_option_values() {
         *:DEMO*) words="$(_caltofal_gateways "$4") $(compgen -f -- "$1")" ;;
         *:[a-z]*\|*) words=${3//|/ } ;;
         *:DIRECTORY*) _caltofal_files "$1" -d && return ;;
+        *:FILE*) _caltofal_files "$1" -f && return ;;
         *) return ;;
     esac
     # shellcheck disable=SC2086 # words it is
@@ -186,4 +187,4 @@ _caltofal() {
     fi
 }
 
-complete -F _caltofal caltofal caltofal-sandbox
+complete -F _caltofal caltofal caltofal-web caltofal-sandbox

@@ -62,6 +62,7 @@ def check_fields(debs):
         "libcaltofal1": r"caltofal-sandbox \(= (\S+)\) \| caltofal-platform, libc6 \(.*\)$",  # no C++ run-time library
         "libcaltofal-dev": r"libcaltofal1 \(= (\S+)\)$",
         "caltofal": r"libcaltofal1 \(= (\S+)\), .*libsmartcols1 .*libstdc\+\+6 ",
+        "caltofal-web": r"libcaltofal1 \(= (\S+)\), .*libmicrohttpd12 .*libstdc\+\+6 ",
         "caltofal-sandbox": r"(?=.*libsqlite3-0 )(?!.*libcaltofal)",
     }
     for name, pattern in wanted.items():
