@@ -5,11 +5,13 @@
 #include "pages/text.h"
 
 #include <nlohmann/json.hpp>
+#include <set>
 
 namespace pages {
 namespace {
 
 using Json = nlohmann::ordered_json;
+using Event = Json::parse_event_t;
 
 Json jsonOf(const Value &value);
 
@@ -41,6 +43,30 @@ struct Visitor {
 Json jsonOf(const Value &value) {
     return value.visit(Visitor());
 }
+
+// Watches a text being parsed: the parser itself takes any depth, and the last of two equal members.
+class Watch {
+  public:
+    explicit Watch(int depthMax) : depthMax_(depthMax) {}
+
+    bool operator()(int depth, Event event, const Json &parsed) {
+        if (depth >= depthMax_ && (event == Event::object_start || event == Event::array_start)) {
+            throw Usage("the JSON is nested deeper than " + std::to_string(depthMax_) + " levels");
+        }
+        if (event == Event::object_start) {
+            names_.emplace_back();
+        } else if (event == Event::object_end) {
+            names_.pop_back();
+        } else if (event == Event::key && !names_.back().insert(parsed.get<std::string>()).second) {
+            throw Usage(pages::quoted(parsed.get<std::string>()) + " is given twice");
+        }
+        return true;
+    }
+
+  private:
+    int depthMax_;
+    std::vector<std::set<std::string>> names_;
+};
 
 Value valueOf(const Json &json) {
     switch (json.type()) {
@@ -80,14 +106,11 @@ std::string toJson(const Value &value, int indent) {
 }
 
 Value fromJson(std::string_view text, int depthMax) {
-    const auto shallow = [&](int depth, Json::parse_event_t /*event*/, const Json & /*parsed*/) {
-        if (depth > depthMax) {
-            throw Usage("the JSON is nested deeper than " + std::to_string(depthMax) + " levels");
-        }
-        return true;
-    };
+    Watch watch(depthMax);
     try {
-        return valueOf(Json::parse(text.begin(), text.end(), shallow));
+        return valueOf(Json::parse(text.begin(), text.end(), [&](int depth, Event event, const Json &parsed) {
+            return watch(depth, event, parsed);
+        }));
     } catch (const Json::parse_error &error) {
         const std::string where = error.byte > text.size() ? "the end" : "byte " + std::to_string(error.byte);
         throw Usage("the text is not JSON: mistake at " + where);

@@ -2,6 +2,7 @@
 #include "pages/text.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 
 namespace pages {
@@ -98,6 +99,20 @@ Value typed(std::string_view parameter, std::string_view value) {
         return number;
     }
     return readNumber(value, large) ? Value(large) : Value(value);
+}
+
+std::string spelledLike(const Value &now, const std::string &value) {
+    if (now.isFlag()) {
+        std::string lower = value;
+        std::transform(lower.begin(), lower.end(), lower.begin(), [](unsigned char c) { return tolower(c); });
+        return lower == "1" || lower == "true" ? "true" : lower == "0" || lower == "false" ? "false" : value;
+    }
+    const size_t sign = value.starts_with('+') ? 1 : 0;
+    const bool digits = value.size() > sign && value.find_first_not_of("0123456789", sign) == std::string::npos;
+    if (!now.isNumber() || !digits) {
+        return value;
+    }
+    return value.substr(std::min(value.find_first_not_of('0', sign), value.size() - 1));
 }
 
 } // namespace pages

@@ -41,6 +41,9 @@ inline std::string_view withoutDot(std::string_view path) {
 // descriptions, SSIDs, keys) is always text.
 Value typed(std::string_view parameter, std::string_view value);
 
+// Another spelling of a flag or a number (TRUE, 1, +07) as the layer writes it, where the present value is one.
+std::string spelledLike(const Value &now, const std::string &value);
+
 // A fixed-size field, with or without a terminator.
 template <size_t size>
 std::string text(const char (&field)[size]) {

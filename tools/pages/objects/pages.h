@@ -24,6 +24,9 @@ Report read(const Query &query);
 
 // All objects of a change go in one message, which is done whole or not at all. `storeOnly`: not applied.
 Report set(const std::vector<Object> &objects, bool storeOnly);
+// Writes only what differs from what the gateway holds, as "changes" with "object", "parameter", "from" and "to"; with
+// `storeOnly` all that is wanted, as what is stored cannot be read. `dryRun`: tells what would be written, and no more.
+Report setDiffering(const std::vector<Object> &wanted, bool dryRun, bool storeOnly);
 Report add(const std::vector<Object> &tables, bool storeOnly);
 Report remove(const std::vector<std::string> &instances, bool storeOnly);
 

@@ -9,7 +9,6 @@
 #include "pages/wifi/settings.h"
 
 #include <algorithm>
-#include <cctype>
 #include <utility>
 
 namespace pages::wifi {
@@ -53,22 +52,6 @@ const WifiParamRow &rowNamed(const WifiParamTable &current, const std::string &n
     return *found;
 }
 
-// Other spellings of a flag or a number as the layer writes them, so that they compare equal.
-std::string normalized(const WifiParamRow &row, const std::string &value) {
-    const Value now = typed(text(row.parameter), text(row.value));
-    if (now.isFlag()) {
-        std::string lower = value;
-        std::transform(lower.begin(), lower.end(), lower.begin(), [](unsigned char c) { return tolower(c); });
-        return lower == "1" || lower == "true" ? "true" : lower == "0" || lower == "false" ? "false" : value;
-    }
-    const size_t sign = value.starts_with('+') ? 1 : 0;
-    const bool digits = value.size() > sign && value.find_first_not_of("0123456789", sign) == std::string::npos;
-    if (!now.isNumber() || !digits) {
-        return value;
-    }
-    return value.substr(std::min(value.find_first_not_of('0', sign), value.size() - 1));
-}
-
 void checkLength(const Parameter &parameter) {
     if (parameter.value.size() > kValueMax) {
         throw Usage(parameter.name + ": the value has " + std::to_string(parameter.value.size()) +
@@ -86,7 +69,7 @@ Settings requested(const SettingsChange &change, const WifiParamTable &current) 
             throw Usage(text(row.parameter) + " is given twice");
         }
         const std::string given = change.uiWords ? fapiWord(text(row.parameter), parameter.value) : parameter.value;
-        const std::string value = normalized(row, given);
+        const std::string value = spelledLike(typed(text(row.parameter), text(row.value)), given);
         if (SetParam(table.get(), row.object, row.parameter, value.c_str()) != 0) {
             throw Usage("too many settings: the most is 100");
         }
