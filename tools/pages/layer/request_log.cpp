@@ -6,6 +6,7 @@
 
 #include "caltofal.h"
 #include "pages/layer/code.h"
+#include "pages/layer/left_messages.h"
 #include "pages/process/output.h"
 #include "pages/text.h"
 
@@ -52,6 +53,7 @@ int passOn(const char *function, const char *verb, MsgHeader *message) {
     }
     Request request{verb, objectsOf(message), 0, {}};
     request.code = call(message);
+    LeftMessages::note(*message);
     static const auto reason = findReason();
     if (request.code != 0 && reason) {
         request.reason = reason();

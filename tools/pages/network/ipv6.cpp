@@ -4,6 +4,7 @@
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
+#include "pages/layer/left_messages.h"
 #include "pages/network/current.h"
 
 #include <charconv>
@@ -29,6 +30,7 @@ Page ipv6() {
     const std::string interface = gatewayInterface();
     interface.copy(info.sWanIpInterface, sizeof info.sWanIpInterface - 1);
     info.nWanIpIfIndex = indexOf(interface);
+    const LeftMessages left;
     const int forwarding = ask([&] { return ZintuGet_WanIPv6(&info); },
                                {"no IPv6 forwarding", {"Device.Routing."}, CALTOFAL_ABSENT_OBJECT});
     const int delegation = ask(ZintuGet_IPv6PD, {"no prefix delegation"});

@@ -4,6 +4,7 @@
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
+#include "pages/layer/left_messages.h"
 #include "pages/network/current.h"
 
 namespace pages {
@@ -86,6 +87,7 @@ Page noted(const ZintuWanInfo &info) {
 
 Page wan() {
     ZintuWanInfo info = untouchedInfo();
+    const LeftMessages left;
     ask([&] { return ZintuGet_DefWanInfo(&info); },
         {kNoDefaultWan,
          {"Device.X_ZINTU_CurrentNetwork", "Device.Routing.Router.1.IPv4Forwarding", "Device.Ethernet.VLANTermination"},

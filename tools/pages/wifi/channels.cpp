@@ -4,6 +4,7 @@
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
+#include "pages/layer/left_messages.h"
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
 #include "pages/wifi/interface.h"
@@ -59,6 +60,7 @@ Report channels(const InterfaceName &name) {
     WifiChannelList list{};
     ShellOutput output;
     const int phy = GetPhyNumber(name.c_str());
+    const LeftMessages left;
     const int count = askEvery([&] { return GetChannelList(name.c_str(), interface.radio, &list); });
     const std::string complaint = output.end();
     if (count == 0) {
