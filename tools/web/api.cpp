@@ -1,12 +1,42 @@
 // SPDX-License-Identifier: MIT
 #include "api.h"
 
-#include "call.h"
+#include "answers.h"
+#include "change_log.h"
+#include "errors.h"
 #include "page_file.h"
+#include "secret.h"
+
+#include "pages/failure.h"
+#include "pages/json.h"
 
 #include <algorithm>
 
 namespace web {
+namespace {
+
+// What goes wrong is an answer too.
+template <class Work>
+Response answered(const Work &work) {
+    try {
+        return work();
+    } catch (const Refusal &refusal) {
+        return errorResponse(refusal);
+    } catch (const pages::Failure &failure) {
+        return errorResponse(failure);
+    } catch (const std::exception &error) {
+        return errorResponse(Refusal(Status::InternalError, error.what()));
+    }
+}
+
+pages::Value found(pages::Value job, const Call &call) {
+    if (job.isNull()) {
+        throw Refusal(Status::NotFound, "there is no job " + call.argument);
+    }
+    return job;
+}
+
+} // namespace
 
 bool Api::isSlow(const Request &request) {
     try {
@@ -18,23 +48,52 @@ bool Api::isSlow(const Request &request) {
 }
 
 Response Api::answer(const Request &request) {
-    try {
+    return answered([&] {
         const Target target = parseTarget(request.target);
         return isApi(target.path) ? answerCall(request, target) : answerFile(request, target);
-    } catch (const Refusal &refusal) {
-        return errorResponse(refusal);
-    } catch (const std::exception &error) {
-        return errorResponse(Refusal(Status::InternalError, error.what()));
-    }
+    });
 }
 
 Response Api::answerCall(const Request &request, const Target &target) {
     Call call = parseCall(request.method, target);
     takeBody(call, request.body);
-    if (call.resource->subject == Subject::Index) {
-        return tagged(index(), request.ifNoneMatch);
+    if (call.method == kGet) {
+        return tagged(answerRead(call), request.ifNoneMatch);
     }
-    throw Refusal(Status::NotFound, target.path + ": there is no such resource");
+    const Response response = answered([&] { return answerChange(call); });
+    if (!call.flag("dry_run")) {
+        logChange(changeText(call, request), request, response.status);
+    }
+    return response;
+}
+
+Response Api::answerRead(const Call &call) {
+    switch (call.resource->subject) {
+    case Subject::Index:
+        return index();
+    case Subject::WifiSecret:
+        return jsonResponse(secretOf(call));
+    case Subject::Jobs:
+        return jsonResponse(jobs_.all());
+    case Subject::Job:
+        return jsonResponse(found(jobs_.find(call.argument), call));
+    default:
+        return jsonResponse(read(call).json);
+    }
+}
+
+Response Api::answerChange(const Call &call) {
+    switch (call.method) {
+    case kPatch:
+        return jsonResponse(change(call).json);
+    case kDelete:
+        return jsonResponse(found(jobs_.cancel(call.argument), call));
+    default:
+        const pages::Value job = jobs_.start(std::string(call.resource->path.substr(1)), workOf(call));
+        Response response = jsonResponse(job, Status::Accepted);
+        response.headers.push_back({"Location", std::string(kApi) + "/jobs/" + job["id"].text()});
+        return response;
+    }
 }
 
 // A line for each resource.

@@ -2,9 +2,10 @@
 // Answers requests that have passed the gate.
 #pragma once
 
+#include "call.h"
 #include "gate.h"
+#include "jobs.h"
 #include "response.h"
-#include "target.h"
 
 namespace web {
 
@@ -16,16 +17,23 @@ class Api {
     // Whether an answer takes long: see Resource::slow.
     [[nodiscard]] static bool isSlow(const Request &request);
 
+    // Asks what runs to end.
+    void cancelJobs() { jobs_.cancelAll(); }
+
     // Throws nothing: what goes wrong is an answer too.
     Response answer(const Request &request);
 
   private:
     Response answerCall(const Request &request, const Target &target);
     Response answerFile(const Request &request, const Target &target);
+    Response answerRead(const Call &call);
+    Response answerChange(const Call &call);
+    Response answerJob(const Call &call);
     [[nodiscard]] Response index() const;
 
     Session &session_;
     const Gate &gate_;
+    Jobs jobs_;
 };
 
 } // namespace web

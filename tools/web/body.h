@@ -1,41 +1,32 @@
 // SPDX-License-Identifier: MIT
-// The JSON bodies of changes, taken apart into what the pages understand.
+// The JSON bodies of changes, taken apart into what the pages understand. Throws pages::Usage for what they do not.
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include "pages/layer/query.h"
+#include "pages/value.h"
+
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace web {
 
-using Json = nlohmann::ordered_json;
+// The object that a body holds; an empty body is an empty object. Refuses what is no JSON, no object, deeper than
+// kDepthMax, or has a member twice.
+pages::Value parseBody(std::string_view body);
 
-// One value that is to be written, as the text that the configuration layer takes.
-struct Assignment {
-    std::string name, value;
-};
+// {"NAME": VALUE, ...}, at least one. Texts stay, numbers and flags become texts; other values are refused, and texts
+// with a NUL.
+std::vector<pages::Parameter> parametersOf(const pages::Value &object);
 
-struct ObjectChange {
-    std::string path;
-    std::vector<Assignment> values;
-};
+// {"Device.A.": {"NAME": VALUE, ...}, ...}.
+std::vector<pages::Object> objectsOf(const pages::Value &object);
 
-// The object that a body holds; an empty body is an empty object. Throws Refusal (400) where it is no JSON, no object,
-// deeper than kDepthMax, or has a member twice.
-Json parseBody(std::string_view body);
+// A text member, "" where it is not there.
+std::string textOf(const pages::Value &object, std::string_view name);
 
-// {"NAME": VALUE, ...}, at least one. Texts stay, numbers and flags become texts. Throws Refusal (400) for other values
-// and for texts with a NUL.
-std::vector<Assignment> assignmentsOf(const Json &object);
-
-// {"Device.A.": {"NAME": VALUE, ...}, ...}. Throws Refusal (400).
-std::vector<ObjectChange> objectChangesOf(const Json &object);
-
-// A text member, "" where it is not there. Throws Refusal (400) where it is another type.
-std::string textOf(const Json &object, const char *name);
-
-// Throws Refusal (400) when the object has a member besides those.
-void allowMembers(const Json &object, std::initializer_list<std::string_view> names);
+// Refuses an object with a member besides those.
+void allowMembers(const pages::Value &object, std::initializer_list<std::string_view> names);
 
 } // namespace web

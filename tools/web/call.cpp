@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "call.h"
 
+#include "body.h"
 #include "refusal.h"
+
+#include "pages/failure.h"
 
 #include <algorithm>
 
@@ -44,7 +47,7 @@ Call parseCall(std::string_view method, const Target &target) {
     if (!route.resource) {
         throw Refusal(Status::NotFound, target.path + ": there is no such resource; GET /api/v1 lists them");
     }
-    Call call{route.resource, methodOf(method), std::move(route.argument), target.query, Json::object()};
+    Call call{route.resource, methodOf(method), std::move(route.argument), target.query};
     if ((call.method & route.resource->methods) == 0) {
         throw Refusal(Status::MethodNotAllowed,
                       std::string(method) + " is not possible here: " + methodNames(*route.resource, false) + " is",
@@ -57,7 +60,7 @@ Call parseCall(std::string_view method, const Target &target) {
 void takeBody(Call &call, std::string_view body) {
     if (call.method == kGet || call.method == kDelete) {
         if (!body.empty()) {
-            throw Refusal(Status::BadRequest, "a body is not understood here");
+            throw pages::Usage("a body is not understood here");
         }
         return;
     }

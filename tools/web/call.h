@@ -3,9 +3,10 @@
 // the gateway or knows of connections.
 #pragma once
 
-#include "body.h"
 #include "resource.h"
 #include "target.h"
+
+#include "pages/value.h"
 
 #include <string>
 #include <string_view>
@@ -18,7 +19,7 @@ struct Call {
     unsigned method = 0; // one of Method
     std::string argument;
     std::vector<QueryItem> query;
-    Json body = Json::object();
+    pages::Value body = pages::Value::object();
 
     // The query's last value of that name; "" where it is not there.
     [[nodiscard]] std::string text(std::string_view name) const;
@@ -29,7 +30,7 @@ struct Call {
 // Finds the resource. Throws Refusal: 400, 404, or 405 where it does not know the method.
 Call parseCall(std::string_view method, const Target &target);
 
-// Adds a change's body. Throws Refusal (400).
+// Adds a change's body. Throws pages::Usage.
 void takeBody(Call &call, std::string_view body);
 
 } // namespace web

@@ -90,7 +90,7 @@ void Exchange::takeBody(std::string_view bytes) {
 }
 
 bool Exchange::skipsBody() const {
-    return awaitsContinue_ || request.contentLength.value_or(0) > kDrainMax;
+    return awaitsContinue_ || request.chunked || request.contentLength.value_or(0) > kDrainMax;
 }
 
 } // namespace web

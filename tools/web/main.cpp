@@ -5,11 +5,17 @@
 #include "server.h"
 #include "token.h"
 
+#include "pages/layer/request_log.h"
+#include "pages/process/console.h"
+#include "pages/process/streams.h"
+
 #include <array>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <cstdint>
 #include <cstdlib>
+#include <fcntl.h>
 #include <iostream>
 #include <sys/eventfd.h>
 #include <sys/time.h>
@@ -38,6 +44,15 @@ void watchSignals() {
     action.sa_flags = SA_RESTART;
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         sigaction(signal, &action, nullptr);
+    }
+}
+
+// On a device, and in the sandbox's box, the console has the library's trace. A laptop's console is none of its
+// business.
+void keepConsole() {
+    const char *box = getenv("CALTOFAL_BOX");
+    if (pages::isSandbox() && !box) {
+        pages::redirectConsole(open("/dev/null", O_WRONLY | O_CLOEXEC));
     }
 }
 
@@ -78,6 +93,7 @@ void serve(const Options &options) {
     printUrl(options, listener, session.token());
     waitForEnd();
     endSoon();
+    api.cancelJobs();
     server.drain(std::chrono::steady_clock::now() + kEndTime);
 }
 
@@ -92,6 +108,8 @@ int main(int argc, char **argv) {
         setenv("CALTOFAL_GATEWAY", options.gateway.c_str(), 1);
     }
     watchSignals();
+    keepConsole();
+    const pages::StreamCapture library; // what it prints is for programs that end
     try {
         serve(options);
     } catch (const std::exception &error) {

@@ -4,6 +4,8 @@
 #include "etag.h"
 #include "page_file.h"
 
+#include "pages/json.h"
+
 namespace web {
 namespace {
 
@@ -13,14 +15,14 @@ const char *phraseOf(Status status) {
 
 } // namespace
 
-Response jsonResponse(const Json &json, Status status) {
-    return {status, json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n"};
+Response jsonResponse(const pages::Value &value, Status status) {
+    return {status, pages::toJson(value, 2) + "\n"};
 }
 
 Response errorResponse(const Refusal &refusal) {
-    Response response = jsonResponse(
-        {{"error", {{"code", nullptr}, {"exit", nullptr}, {"message", refusal.what()}, {"object", nullptr}}}},
-        refusal.status());
+    pages::Value error =
+        pages::Value::object({{"code", {}}, {"exit", {}}, {"message", refusal.what()}, {"object", {}}});
+    Response response = jsonResponse(pages::Value::object({{"error", std::move(error)}}), refusal.status());
     response.headers = refusal.headers();
     return response;
 }

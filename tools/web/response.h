@@ -2,8 +2,9 @@
 // An answer before it goes over a connection.
 #pragma once
 
-#include "body.h"
 #include "refusal.h"
+
+#include "pages/value.h"
 
 #include <string>
 #include <string_view>
@@ -23,7 +24,7 @@ struct Response {
 };
 
 // JSON as the command line prints it.
-Response jsonResponse(const Json &json, Status status = Status::Ok);
+Response jsonResponse(const pages::Value &value, Status status = Status::Ok);
 
 // {"error": {"code", "exit", "message", "object"}}, null where there is none.
 Response errorResponse(const Refusal &refusal);

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "answers.h"
+
+#include "body.h"
+#include "device_tools.h"
+
+#include "pages/checked.h"
+#include "pages/failure.h"
+#include "pages/mesh/pages.h"
+#include "pages/network/pages.h"
+#include "pages/objects/pages.h"
+#include "pages/wifi/pages.h"
+
+#include <stdexcept>
+
+namespace web {
+namespace {
+
+using pages::Report;
+using pages::Usage;
+using pages::Value;
+using pages::wifi::Subject;
+
+int numberOf(const Call &call, const char *what) {
+    return pages::checkedInstance(call.argument, what);
+}
+
+template <Subject subject>
+int instanceOf(const Call &call) {
+    return numberOf(call, subject == Subject::Ssid ? "SSID" : "radio");
+}
+
+template <auto page>
+Report show(const Call & /*call*/) {
+    return page();
+}
+
+template <Subject subject>
+Report showSettings(const Call &call) {
+    return pages::wifi::settings(subject, instanceOf<subject>(call));
+}
+
+Report showDns(const Call & /*call*/) {
+    return pages::dns({});
+}
+
+Report showMesh(const Call & /*call*/) {
+    needDeviceTools();
+    return pages::mesh::status();
+}
+
+Report showObjects(const Call &call) {
+    pages::objects::Query query{.objects = {}, .where = {}, .leaf = call.flag("leaf")};
+    for (const QueryItem &item : call.query) {
+        if (item.name == "path") {
+            query.objects.push_back({pages::checkedPath(item.value)});
+        } else if (item.name == "where") {
+            query.where.push_back(pages::assignment(item.value));
+        }
+    }
+    if (query.objects.empty()) {
+        throw Usage("which object? GET /api/v1/objects?path=Device.OBJECT");
+    }
+    pages::objects::check(query);
+    return pages::objects::read(query);
+}
+
+Report showChannels(const Call &call) {
+    const pages::InterfaceName interface(call.argument);
+    needDeviceTools();
+    return pages::wifi::channels(interface);
+}
+
+Report showStations(const Call &call) {
+    const pages::InterfaceName interface(call.argument);
+    needDeviceTools();
+    return pages::wifi::stations(interface, {});
+}
+
+Report showSurvey(const Call & /*call*/) {
+    needDeviceTools();
+    return pages::wifi::survey({}, {});
+}
+
+Report showEndpoint(const Call & /*call*/) {
+    needDeviceTools();
+    return pages::wifi::endPoint();
+}
+
+template <Subject subject>
+Report changeSettings(const Call &call) {
+    return pages::wifi::changeSettings({.subject = subject,
+                                        .instance = instanceOf<subject>(call),
+                                        .wanted = parametersOf(call.body),
+                                        .uiWords = true,
+                                        .dryRun = call.flag("dry_run"),
+                                        .storeOnly = call.flag("db_only")});
+}
+
+Report changeObjects(const Call &call) {
+    return pages::objects::setDiffering(objectsOf(call.body), call.flag("dry_run"), call.flag("db_only"));
+}
+
+Report changeMesh(const Call &call) {
+    allowMembers(call.body, {"enabled"});
+    if (!call.body["enabled"].isFlag()) {
+        throw Usage("give {\"enabled\": true} or {\"enabled\": false}");
+    }
+    const std::string wanted = call.body["enabled"].flag() ? "true" : "false";
+    return pages::objects::setDiffering({{"Device.WiFi.X_ZINTU_RoamingMesh.", {{"Enable", wanted}}}},
+                                        call.flag("dry_run"), false);
+}
+
+struct Row {
+    web::Subject subject;
+    Report (*read)(const Call &);
+    Report (*change)(const Call &) = nullptr;
+};
+
+constexpr Row kRows[] = {
+    {web::Subject::Status, show<pages::status>},
+    {web::Subject::Mode, show<pages::mode>},
+    {web::Subject::Gateway, show<pages::gateway>},
+    {web::Subject::Wan, show<pages::wan>},
+    {web::Subject::Dns, showDns},
+    {web::Subject::Ipv6, show<pages::ipv6>},
+    {web::Subject::Dsl, show<pages::dsl>},
+    {web::Subject::Atm, show<pages::atm>},
+    {web::Subject::Lan, show<pages::wholeLan>},
+    {web::Subject::MultiWan, show<pages::multiWan>},
+    {web::Subject::Iptv, show<pages::iptv>},
+    {web::Subject::Mesh, showMesh, changeMesh},
+    {web::Subject::Objects, showObjects, changeObjects},
+    {web::Subject::WifiRadios, show<pages::wifi::radios>},
+    {web::Subject::WifiRadio, showSettings<Subject::Radio>, changeSettings<Subject::Radio>},
+    {web::Subject::WifiSsids, show<pages::wifi::ssids>},
+    {web::Subject::WifiSsid, showSettings<Subject::Ssid>, changeSettings<Subject::Ssid>},
+    {web::Subject::WifiChannels, showChannels},
+    {web::Subject::WifiStations, showStations},
+    {web::Subject::WifiSurvey, showSurvey},
+    {web::Subject::WifiEndpoint, showEndpoint},
+};
+
+const Row &rowOf(const Call &call) {
+    for (const Row &row : kRows) {
+        if (row.subject == call.resource->subject) {
+            return row;
+        }
+    }
+    throw std::logic_error("a resource without a page");
+}
+
+// Milliseconds, as the command line's --pace.
+std::chrono::milliseconds paceOf(const Value &body) {
+    constexpr int64_t kMost = 60'000;
+    const Value &pace = body["pace"];
+    if (pace.isNull()) {
+        return std::chrono::seconds(1);
+    }
+    if (!pace.isNumber() || pace.whole() < 1 || pace.whole() > kMost) {
+        throw Usage("pace is not a number of milliseconds, 1 to " + std::to_string(kMost));
+    }
+    return std::chrono::milliseconds(pace.whole());
+}
+
+Jobs::Work scanWork(const Call &call) {
+    allowMembers(call.body, {"interface", "ssid", "pace"});
+    pages::wifi::ScanRequest request =
+        pages::wifi::checkedScan(textOf(call.body, "interface"), textOf(call.body, "ssid"));
+    request.unit = paceOf(call.body);
+    return [request = std::move(request)](pages::Wait &wait) { return pages::wifi::scan(request, wait); };
+}
+
+Jobs::Work wpsWork(const Call &call) {
+    allowMembers(call.body, {"pace"});
+    return [unit = paceOf(call.body)](pages::Wait &wait) { return pages::wifi::startWps(unit, wait); };
+}
+
+Jobs::Work syncWork(const Call &call) {
+    allowMembers(call.body, {});
+    return [](pages::Wait &wait) { return pages::mesh::sync(wait); };
+}
+
+} // namespace
+
+Report read(const Call &call) {
+    return rowOf(call).read(call);
+}
+
+Report change(const Call &call) {
+    return rowOf(call).change(call);
+}
+
+Jobs::Work workOf(const Call &call) {
+    needDeviceTools();
+    switch (call.resource->subject) {
+    case web::Subject::WifiScans:
+        return scanWork(call);
+    case web::Subject::WifiWps:
+        return wpsWork(call);
+    default:
+        return syncWork(call);
+    }
+}
+
+} // namespace web
