@@ -1,0 +1,124 @@
+# SPDX-License-Identifier: MIT
+"""What PATCH writes, shows before, refuses and logs."""
+import json
+import re
+import subprocess
+import unittest
+
+from server import SANDBOX, Server, environment
+
+CHANNEL = "Device.WiFi.Radio.1.Channel"
+
+
+def change(path, before, after):
+    *objects, parameter = path.split(".")
+    return {"object": ".".join(objects), "parameter": parameter, "from": before, "to": after}
+
+
+class Changes(unittest.TestCase):
+    maxDiff = None
+
+    def setUp(self):
+        self.server = Server(words=True).__enter__()
+        self.addCleanup(self.server.end)
+
+    def test_a_dry_run_shows_what_the_change_then_writes(self):
+        cases = [  # resource, body, changes
+            ("/objects", {"Device.WiFi.Radio.1.": {"Channel": 11}}, [change(CHANNEL, 6, 11)]),
+            ("/objects", {"Device.WiFi.Radio.1": {"Channel": "+012", "Enable": "TRUE"},
+                          "Device.WiFi.SSID.1.": {"SSID": "007"}},
+             [change(CHANNEL, 11, 12), change("Device.WiFi.SSID.1.SSID", "VOLA Home", "007")]),
+            ("/objects", {"Device.WiFi.Radio.1.": {"Channel": 12}}, []),
+            ("/wifi/ssids/1", {"SSID": "<b>Attic</b> \u202e\"'", "IsolationEnable": False},
+             [change("Device.WiFi.SSID.1.SSID", "007", "<b>Attic</b> \u202e\"'")]),
+            ("/wifi/ssids/1", {"SSID": "<b>Attic</b> \u202e\"'"}, []),
+            ("/wifi/radios/1", {"OperatingChannelBandwidth": 40, "ExtensionChannel": "upper"},
+             [change("Device.WiFi.Radio.1.OperatingChannelBandwidth", "20MHz", "40MHz"),
+              change("Device.WiFi.Radio.1.ExtensionChannel", "Auto", "AboveControlChannel")]),
+            ("/mesh", {"enabled": True}, [change("Device.WiFi.X_ZINTU_RoamingMesh.Enable", False, True)]),
+            ("/mesh", {"enabled": True}, []),
+        ]
+        for resource, body, changes in cases:
+            with self.subTest(resource=resource, body=body):
+                dry = self.server.patch(resource + "?dry_run=1", body)
+                self.assertEqual((dry.status, dry.json), (200, {"changes": changes, "written": False, "applied": False}))
+                for one in changes:
+                    now = self.server.get(f"/objects?path={one['object']}.{one['parameter']}").json[one["object"]]
+                    self.assertEqual(now[one["parameter"]], one["from"])
+                done = self.server.patch(resource, body)
+                self.assertEqual(done.json, {"changes": changes, "written": bool(changes), "applied": bool(changes)})
+                for one in changes:
+                    now = self.server.get(f"/objects?path={one['object']}.{one['parameter']}").json[one["object"]]
+                    self.assertEqual(now[one["parameter"]], one["to"])
+
+    def test_settings_dry_run_is_the_command_lines(self):
+        body = {"OperatingChannelBandwidth": "40", "ExtensionChannel": "upper"}
+        dry = self.server.patch("/wifi/radios/1?dry_run=1", body)
+        printed = self.server.tool("wifi", "set", "radio", "1", "--ui", *(f"{name}={value}" for name, value in body.items()),
+                                   "--dry-run", "--json")
+        self.assertEqual(dry.body, printed.stdout)
+
+    def test_stored_only_waits_for_the_next_start(self):
+        for resource, body in (("/objects", {"Device.WiFi.Radio.1.": {"Channel": 3}}), ("/wifi/radios/1", {"Channel": 3})):
+            with self.subTest(resource=resource):
+                answer = self.server.patch(resource + "?db_only=1", body)
+                self.assertEqual((answer.json["written"], answer.json["applied"]), (True, False))
+                self.assertEqual(self.server.stored(CHANNEL), "6")
+        subprocess.run([SANDBOX, "boot", "home"], env=environment(self.server.folder), check=True, capture_output=True)
+        self.assertEqual(self.server.stored(CHANNEL), "3")
+
+    def test_refusals_name_the_culprit_and_change_nothing(self):
+        cases = [  # resource, body, status, code, word
+            ("/objects", {"Device.WiFi.Radio.1.": {"Channel": "abc"}}, 422, -205, "Channel"),
+            ("/objects", {"Device.WiFi.Radio.1.": {"Channel": 11}, "Device.WiFi.Radio.2.": {"Channel": 999}}, 422, -206,
+             "Device.WiFi.Radio.2.Channel"),
+            ("/objects", {"Device.WiFi.Radio.1.": {"Channel": 11, "Status": "Down"}}, 422, -204, "Status"),
+            ("/objects", {"Device.WiFi.Radio.1.": {"Nonsense": 11}}, 404, None, "Nonsense"),
+            ("/objects", {"Device.Nonsense.": {"Channel": 11}}, 404, -202, "Device.Nonsense"),
+            ("/objects", {"Device." + "x" * 300: {"Channel": 11}}, 400, None, "path"),
+            ("/wifi/ssids/1", {"Nonsense": 1}, 404, None, "Nonsense"),
+            ("/wifi/ssids/1", {"SSID": "x" * 33}, 422, -206, "SSID"),
+            ("/wifi/ssids/1", {"SSID": "x" * 200}, 400, None, "SSID"),
+            ("/wifi/ssids/77", {"SSID": "x"}, 404, None, ""),
+            ("/wifi/radios/1", {"ExtensionChannel": "sideways"}, 422, None, "sideways"),
+            ("/mesh", {"enabled": "yes"}, 400, None, "enabled"),
+            ("/mesh", {"on": True}, 400, None, "on"),
+            ("/objects?dry_run=maybe", {"Device.WiFi.Radio.1.": {"Channel": 11}}, 400, None, "dry_run"),
+            ("/wifi/ssids/1?db_only", {"SSID": "y" * 33}, 422, None, ""),
+        ]
+        for resource, body, status, code, word in cases:
+            with self.subTest(resource=resource, body=body):
+                answer = self.server.patch(resource, body)
+                self.assertEqual(answer.status, status, answer.body)
+                self.assertIn(word, answer.message)
+                if code:
+                    self.assertEqual(answer.json["error"]["code"], code)
+                self.assertEqual(self.server.stored(CHANNEL), "6")
+
+    def test_each_change_is_logged_without_values(self):
+        self.server.patch("/wifi/ssids/1", {"KeyPassphrase": "a-secret-of-mine"})
+        self.server.patch("/objects", {"Device.WiFi.Radio.1.": {"Channel": 11, "Name\n2026": 1}})
+        self.server.patch("/objects?dry_run=1", {"Device.WiFi.Radio.1.": {"Channel": 9}})
+        lines = self.server.end().splitlines()
+        pattern = r"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ 127\.0\.0\.1 PATCH (/api/v1/\S+) (\S+) -> (\d+)"
+        self.assertEqual([re.fullmatch(pattern, line).groups() for line in lines],
+                         [("/api/v1/wifi/ssids/1", "KeyPassphrase", "200"),
+                          ("/api/v1/objects", "Device.WiFi.Radio.1.Channel,Device.WiFi.Radio.1.Name?2026", "404")])
+
+    def test_a_change_killed_in_the_middle_is_whole_or_not_there(self):
+        pair = ("Device.WiFi.SSID.1.SSID", "Device.WiFi.SSID.2.SSID")
+        for number in range(8):
+            with Server(folder=self.server.folder, words=True) as server:
+                connection = server.connect()
+                for turn in range(1 + number):
+                    body = json.dumps({f"{path.rsplit('.', 1)[0]}.": {"SSID": f"n{number}t{turn}"} for path in pair})
+                    connection.request("PATCH", "/api/v1/objects", body,
+                                       {"Authorization": f"Bearer {server.token}", "Origin": f"http://{server.host}",
+                                        "Content-Type": "application/json"})
+                    if turn < number:
+                        connection.getresponse().read()
+                server.process.kill()
+                server.process.wait()
+                server.process.returncode = 0
+                connection.close()
+            self.assertEqual(*(self.server.stored(path) for path in pair))

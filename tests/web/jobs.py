@@ -1,0 +1,94 @@
+# SPDX-License-Identifier: MIT
+"""What takes long: scans, WPS and the mesh, in the device box."""
+import time
+import unittest
+
+from server import Server, has_box
+
+QUICK = {"CALTOFAL_BOX_SCAN_MS": "300", "CALTOFAL_BOX_WPS_MS": "600"}
+
+
+@unittest.skipUnless(has_box(), "there can be no device box here")
+class Jobs(unittest.TestCase):
+    def start(self, gateway="home", **variables):
+        server = Server(gateway=gateway, box=True, words=True, **{**QUICK, **variables}).__enter__()
+        self.addCleanup(server.end)
+        return server
+
+    def begin(self, server, resource, body):
+        answer = server.post(resource, body)
+        self.assertEqual(answer.status, 202, answer.body)
+        job = answer.json
+        self.assertEqual((job["state"], job["kind"], answer.headers["Location"]),
+                         ("running", resource[1:], f"/api/v1/jobs/{job['id']}"))
+        return job["id"]
+
+    def wait(self, server, number, limit=10):
+        end = time.monotonic() + limit
+        while (job := server.get(f"/jobs/{number}").json)["state"] == "running" and time.monotonic() < end:
+            time.sleep(0.05)
+        return job
+
+    def test_two_scans_and_wps_at_once(self):
+        server = self.start()
+        self.assertEqual(server.get("/wifi/survey").status, 404)
+        numbers = [self.begin(server, "/wifi/scans", {"interface": "wlan0", "pace": 20}),
+                   self.begin(server, "/wifi/scans", {"interface": "wlan2", "pace": 20}),
+                   self.begin(server, "/wifi/wps", {"pace": 50})]
+        seen = server.get(f"/jobs/{numbers[0]}").json
+        self.assertLess(seen["elapsed"], 5)
+        self.assertEqual(server.get("/wan").status, 200)
+        jobs = [self.wait(server, number) for number in numbers]
+        self.assertEqual([job["state"] for job in jobs], ["done"] * 3, jobs)
+        self.assertTrue(all(job["error"] is None and job["of"] > 0 for job in jobs))
+        self.assertTrue(all(network["channel"] <= 14 for network in jobs[0]["result"]["networks"]))
+        self.assertTrue(all(network["channel"] > 14 for network in jobs[1]["result"]["networks"]))
+        self.assertEqual(jobs[2]["result"], {"wps": "Success"})
+        self.assertEqual(server.get("/wifi/survey").status, 200)
+        self.assertEqual([job["id"] for job in server.get("/jobs").json["jobs"]], numbers)
+
+    def test_a_second_scan_on_an_interface_fails(self):
+        server = self.start(CALTOFAL_BOX_SCAN_MS="1500")
+        first = self.begin(server, "/wifi/scans", {"interface": "wlan0", "pace": 100})
+        time.sleep(0.3)
+        second = self.wait(server, self.begin(server, "/wifi/scans", {"interface": "wlan0", "pace": 100}))
+        self.assertEqual((second["state"], second["error"]["exit"]), ("failed", 1))
+        self.assertIn("under way", second["error"]["message"])
+        self.assertEqual(self.wait(server, first)["state"], "done")
+
+    def test_jobs_are_cancelled(self):
+        server = self.start(CALTOFAL_BOX_SCAN_MS="20000", CALTOFAL_BOX_WPS_MS="20000")
+        for resource, body in (("/wifi/scans", {"interface": "wlan0"}), ("/wifi/wps", {})):
+            with self.subTest(resource=resource):
+                number = self.begin(server, resource, body)
+                time.sleep(0.4)
+                start = time.monotonic()
+                self.assertEqual(server.ask("DELETE", f"/api/v1/jobs/{number}").status, 200)
+                job = self.wait(server, number)
+                self.assertEqual(job["state"], "cancelled", job)
+                self.assertIn("interrupted", job["error"]["message"])
+                self.assertLess(time.monotonic() - start, 2)
+        again = server.ask("DELETE", f"/api/v1/jobs/{number}")
+        self.assertEqual((again.status, again.json["state"]), (200, "cancelled"))
+        self.begin(server, "/wifi/wps", {})  # the end of the server ends it as well
+
+    def test_time_out_and_refusals(self):
+        server = self.start(CALTOFAL_BOX_WPS="timeout")
+        job = self.wait(server, self.begin(server, "/wifi/wps", {"pace": 50}))
+        self.assertEqual((job["state"], job["error"]["exit"]), ("failed", 3))
+        for resource, body, status in (
+                ("/wifi/scans", {}, 400), ("/wifi/scans", {"interface": "wlan0; reboot"}, 400),
+                ("/wifi/scans", {"interface": "wlan0", "ssid": "it's"}, 400), ("/wifi/scans", {"interface": 1}, 400),
+                ("/wifi/scans", {"interface": "wlan0", "pace": 0}, 400), ("/wifi/scans", {"interface": "wlan0", "x": 1}, 400),
+                ("/wifi/wps", {"interface": "wlan0"}, 400), ("/mesh/sync", {"a": 1}, 400)):
+            self.assertEqual(server.post(resource, body).status, status, (resource, body))
+        self.assertEqual(self.wait(server, self.begin(server, "/wifi/scans", {"interface": "wlan9"}))["error"]["exit"], 10)
+        numbers = [server.post("/wifi/wps", {}) for _ in range(9)]
+        self.assertEqual([answer.status for answer in numbers], [202] * 8 + [503])
+
+    def test_the_mesh_is_synchronised(self):
+        server = self.start(gateway="mesh")
+        job = self.wait(server, self.begin(server, "/mesh/sync", {}), limit=20)
+        self.assertEqual((job["state"], job["result"]["synced"]), ("done", True), job)
+        home = self.start()
+        self.assertEqual(self.wait(home, self.begin(home, "/mesh/sync", {}))["result"]["reason"], "the mesh is off")

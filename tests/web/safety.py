@@ -1,0 +1,278 @@
+# SPDX-License-Identifier: MIT
+"""What the server refuses, and what every answer carries."""
+import http.client
+import os
+import socket
+import stat
+import subprocess
+import tempfile
+import time
+import unittest
+
+from server import JSON, WEB, Server, environment, read_all
+
+POLICY = "default-src 'self'; frame-ancestors 'none'; base-uri 'none'; form-action 'self'"
+CHANGE = {"Device.WiFi.Radio.1.": {"Channel": 11}}
+
+
+class Refusals(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.server = cls.enterClassContext(Server("--host", "gateway.example", words=True))
+
+    @classmethod
+    def enterClassContext(cls, manager):  # Python 3.11 and later have it
+        entered = manager.__enter__()
+        cls.addClassCleanup(manager.__exit__, None, None, None)
+        return entered
+
+    def test_requests_are_judged_by_their_headers(self):
+        own, port = f"http://{self.server.host}", self.server.port
+        cases = [  # method, resource, headers, status
+            ("GET", "/api/v1", {}, 200),
+            ("GET", "/api/v1", {"Authorization": None}, 401),
+            ("GET", "/api/v1", {"Authorization": "Bearer " + "0" * 32}, 401),
+            ("GET", "/api/v1", {"Authorization": "Bearer " + self.server.token[:-1]}, 401),
+            ("GET", "/api/v1", {"Authorization": None, "Cookie": f"caltofal-{port}={self.server.token}"}, 401),
+            ("GET", "/api/v1", {"Authorization": None, "Cookie": f"caltofal-{port}="}, 401),
+            ("GET", "/api/v1/nonsense", {"Authorization": None}, 401),
+            ("GET", "/api/v1", {"Host": "gateway.example"}, 200),
+            ("GET", "/api/v1", {"Host": "Gateway.Example:443"}, 200),
+            ("GET", "/api/v1", {"Host": "evil.example"}, 421),
+            ("GET", "/api/v1", {"Host": "gateway.example.evil.example"}, 421),
+            ("GET", "/api/v1", {"Host": f"127.0.0.1:{port + 1}"}, 421),
+            ("GET", "/api/v1", {"Host": f"localhost:{port}"}, 421),
+            ("GET", "/", {"Host": "evil.example"}, 421),
+            ("GET", f"/?token={self.server.token}", {"Host": "evil.example"}, 421),
+            ("GET", "/api/v1/nonsense", {}, 404),
+            ("GET", "/api", {}, 404),
+            ("GET", "/api/v2/wan", {}, 404),
+            ("GET", "/api/v1/wan?nonsense=1", {}, 400),
+            ("GET", "/api/v1/wan%zz", {}, 400),
+            ("GET", "/api/v1/wan%00", {}, 400),
+            ("PUT", "/api/v1/wan", {}, 405),
+            ("PATCH", "/api/v1/wan", {}, 405),
+            ("POST", "/", {}, 405),
+            ("OPTIONS", "/api/v1/objects", {"Origin": "http://evil.example"}, 405),
+            ("PATCH", "/api/v1/objects", {"Origin": None}, 403),
+            ("PATCH", "/api/v1/objects", {"Origin": "null"}, 403),
+            ("PATCH", "/api/v1/objects", {"Origin": "http://evil.example"}, 403),
+            ("PATCH", "/api/v1/objects", {"Origin": f"http://127.0.0.1:{port + 1}"}, 403),
+            ("PATCH", "/api/v1/objects", {"Origin": f"{own}.evil.example"}, 403),
+            ("PATCH", "/api/v1/objects", {"Origin": own, "Sec-Fetch-Site": "cross-site"}, 403),
+            ("PATCH", "/api/v1/objects", {"Origin": None, "Sec-Fetch-Site": "same-site"}, 403),
+            ("PATCH", "/api/v1/objects", {"Origin": None, "Sec-Fetch-Site": "same-origin"}, 400),
+            ("PATCH", "/api/v1/objects", {"Host": "gateway.example", "Origin": "https://gateway.example"}, 400),
+            ("PATCH", "/api/v1/objects", {"Content-Type": None}, 415),
+            ("PATCH", "/api/v1/objects", {"Content-Type": "text/plain"}, 415),
+            ("PATCH", "/api/v1/objects", {"Content-Type": "application/json; charset=utf-8"}, 400),
+            ("PATCH", "/api/v1/objects", {"Transfer-Encoding": "chunked", "Content-Length": None}, 411),
+            ("DELETE", "/api/v1/jobs/1", {"Origin": None}, 403),
+            ("DELETE", "/api/v1/jobs/1", {}, 404),
+        ]
+        for method, target, headers, status in cases:
+            with self.subTest(method=method, target=target, headers=headers):
+                body = "" if method == "PATCH" and "Transfer-Encoding" not in headers else None
+                answer = self.server.ask(method, target, body, **headers)
+                self.assertEqual(answer.status, status, answer.body)
+                self.assertEqual(answer.headers["Content-Security-Policy"], POLICY)
+                self.assertEqual(answer.headers["X-Content-Type-Options"], "nosniff")
+                self.assertEqual(answer.headers["Referrer-Policy"], "no-referrer")
+                if status >= 400:
+                    self.assertEqual(answer.headers["Cache-Control"], "no-store")
+                    self.assertTrue(answer.message)
+                self.assertEqual("Allow" in answer.headers, status == 405)
+                self.assertNotIn("Access-Control-Allow-Origin", answer.headers)
+
+    def test_only_embedded_files_are_served(self):
+        for path in ("/../../etc/passwd", "/%2e%2e/%2e%2e/etc/passwd", "//etc/passwd", "/..%2fetc%2fpasswd", "/etc/passwd",
+                     "/page/", "/chart.js/", "/chart.js%00.html", "/.", "/CMakeLists.txt", "/chart.js\\..", "http://x/"):
+            with self.subTest(path=path):
+                head = self.server.raw(f"GET {path} HTTP/1.1\r\nHost: {self.server.host}\r\nConnection: close\r\n\r\n"
+                                       .encode()).split(b"\r\n")[0]
+                self.assertRegex(head, rb"HTTP/1.1 40[04] ")
+
+    def test_files_come_with_type_and_tag(self):
+        chart = self.server.ask("GET", "/chart.js", Authorization=None)
+        self.assertEqual((chart.status, chart.headers["Content-Type"]), (200, "text/javascript; charset=utf-8"))
+        self.assertIn(b"Chart.js", chart.body[:100])
+        again = self.server.ask("GET", "/chart.js", If_None_Match=chart.headers["ETag"])
+        self.assertEqual((again.status, again.body), (304, b""))
+        head = self.server.ask("HEAD", "/chart.js")
+        self.assertEqual((head.headers["Content-Length"], head.body), (str(len(chart.body)), b""))
+
+    def test_bodies_have_limits(self):
+        filler = '{"Device.WiFi.Radio.1.": {"Channel": "%s"}}'
+        deep = '{"a":' * 10000 + "1" + "}" * 10000
+        cases = [  # body, status, word of the message
+            (filler % ("x" * 70000), 413, "65536"),
+            (filler % ("x" * 3000000), 413, "65536"),
+            (deep[:60000], 400, "deeper"),
+            ("[" * 10000, 400, "deeper"),
+            ('{"a":' * 16 + "1" + "}" * 16, 400, "Device"),
+            ('{"a":' * 17 + "1" + "}" * 17, 400, "deeper"),
+            ("", 400, "nothing to set"),
+            ("{", 400, "JSON"),
+            ("[1]", 400, "object"),
+            ('{"Device.WiFi.Radio.1.": {"Channel": 1, "Channel": 2}}', 400, "twice"),
+            ('{"Device.WiFi.Radio.1.": {"Channel": null}}', 400, "Channel"),
+            ('{"Device.WiFi.Radio.1.": {"Channel": "a\\u0000b"}}', 400, "NUL"),
+            ('{"Device.WiFi.Radio.1.": {"Channel": "\xff"}}'.encode("latin-1"), 400, "JSON"),
+            ('{"Device.WiFi.Radio.1.": {}}', 400, "nothing to set"),
+            ('{"Device.WiFi.Radio.1.": 3}', 400, "Device.WiFi.Radio.1."),
+            ('{"Nonsense.": {"a": 1}}', 400, "Nonsense"),
+        ]
+        for body, status, word in cases:
+            with self.subTest(body=body[:60], length=len(body)):
+                try:
+                    answer = self.server.patch("/objects", body, Content_Type=JSON)
+                except ConnectionError:  # far beyond the limit the server need not read on
+                    self.assertGreater(len(body), 1000000)
+                    continue
+                self.assertEqual(answer.status, status, answer.body)
+                self.assertIn(word, answer.message)
+
+    def test_what_is_not_http_is_refused(self):
+        head = f"GET /api/v1 HTTP/1.1\r\nHost: {self.server.host}\r\nAuthorization: Bearer {self.server.token}\r\n"
+        cases = [  # bytes, status
+            (head + "X: " + "y" * 17000 + "\r\n\r\n", b"431"),
+            (head + "".join(f"X{i}: y\r\n" for i in range(9000)) + "\r\n", b"431"),
+            (head + f"Host: {self.server.host}\r\n\r\n", b"400"),
+            (head + "Content-Length: 99999999999999999999\r\n\r\n", b"4"),
+            (head + "Content-Length: -1\r\n\r\n", b"400"),
+            ("GET / HTTP/1.0\r\n\r\n", b"421"),
+            ("GET / HTTP/1.1\r\n\r\n", b"4"),
+            ("GET " + "/" * 70000 + " HTTP/1.1\r\n\r\n", b"4"),
+        ]
+        for data, status in cases:
+            with self.subTest(data=data[:40] + data[-40:]):
+                answer = self.server.raw(data.encode(), timeout=3)
+                self.assertTrue(answer.startswith(b"HTTP/1.1 " + status), answer[:80])
+        self.assertEqual(self.server.get("").status, 200)
+
+
+class Sessions(unittest.TestCase):
+    def test_the_token_opens_a_session(self):
+        with Server() as server, Server() as other:
+            answer = server.ask("GET", f"/?token={server.token}", Authorization=None)
+            self.assertEqual((answer.status, answer.headers["Location"]), (303, "/"))
+            cookie, *attributes = answer.headers["Set-Cookie"].split("; ")
+            self.assertEqual(set(attributes), {"Path=/", "HttpOnly", "SameSite=Strict"})
+            self.assertNotIn(server.token, cookie)
+            self.assertEqual(server.get("", Authorization=None, Cookie=f"a=b; {cookie}; c=d").status, 200)
+            elsewhere = cookie.replace(str(server.port), str(other.port))
+            self.assertEqual(other.get("", Authorization=None, Cookie=elsewhere).status, 401)
+            self.assertEqual(other.get("", Authorization=f"Bearer {server.token}").status, 401)
+
+    def test_five_wrong_tokens_make_wait(self):
+        with Server() as server:
+            wrong = {"Authorization": "Bearer " + "f" * 32}
+            self.assertEqual([server.get("", **wrong).status for _ in range(5)], [401] * 5)
+            for answer in (server.get(""), server.ask("GET", f"/?token={server.token}", Authorization=None)):
+                self.assertEqual((answer.status, answer.headers["Retry-After"]), (503, "10"))
+            stale = [server.get("", Authorization=None, Cookie=f"caltofal-{server.port}=x").status for _ in range(9)]
+            self.assertEqual(stale, [401] * 9)
+            time.sleep(10.5)
+            self.assertEqual([server.get("", **wrong).status, server.get("").status], [401, 503])
+
+    def test_the_token_file_is_the_owners(self):
+        file = os.path.join(tempfile.mkdtemp(), "token")
+        with open(file, "w", encoding="ascii") as old:
+            os.chmod(old.name, 0o644)
+        with Server("--token-file", file) as server:
+            with open(file, encoding="ascii") as written:
+                self.assertEqual(written.read(), server.token + "\n")
+            self.assertEqual(stat.S_IMODE(os.stat(file).st_mode), 0o600)
+
+    def test_read_only_refuses_every_change(self):
+        with Server("--read-only") as server:
+            for method, resource in (("PATCH", "/objects"), ("PATCH", "/objects?dry_run=1"), ("PATCH", "/wifi/ssids/1"),
+                                     ("POST", "/wifi/scans"), ("POST", "/wifi/wps"), ("POST", "/mesh/sync"),
+                                     ("DELETE", "/jobs/1")):
+                answer = server.ask(method, "/api/v1" + resource, None if method == "DELETE" else CHANGE)
+                self.assertEqual((answer.status, "--read-only" in answer.message), (403, True), resource)
+            self.assertNotIn("PATCH", str(server.get("").json))
+
+    def test_command_line(self):
+        cases = [  # options, exit code, what it says
+            (["--help"], 0, "--read-only"),
+            (["--version"], 0, "caltofal-web 1"),
+            (["--listen", "0.0.0.0:0"], 2, "--host"),
+            (["--listen", "[::]:0"], 2, "--host"),
+            (["--listen", "127.0.0.1"], 2, "ADDRESS:PORT"),
+            (["--listen", "127.0.0.1:70000"], 2, "port"),
+            (["--listen", "example.org:80"], 2, "IP address"),
+            (["--connections", "0"], 2, "connections"),
+            (["--host", ""], 2, "host"),
+            (["-g", ""], 2, "gateway"),
+            (["nonsense"], 2, "nonsense"),
+            (["--listen", "127.0.0.1:0", "--token-file", "/nonsense/token"], 1, "/nonsense/token"),
+        ]
+        for options, code, word in cases:
+            with self.subTest(options=options):
+                done = subprocess.run([WEB, *options], env=environment(tempfile.mkdtemp()), capture_output=True, text=True,
+                                      timeout=10, check=False)
+                self.assertEqual(done.returncode, code, done.stderr)
+                self.assertIn(word, done.stdout + done.stderr)
+        with Server() as server:
+            done = subprocess.run([WEB, "--listen", server.host], env=environment(server.folder), capture_output=True,
+                                  text=True, timeout=10, check=False)
+            self.assertEqual((done.returncode, "in use" in done.stderr), (1, True))
+
+
+class Limits(unittest.TestCase):
+    def test_connections_beyond_the_limit_are_told_so(self):
+        for options, most in (((), 16), (("--connections", "5"), 5), (("--connections-per-address", "3"), 3)):
+            with self.subTest(options=options), Server(*options) as server:
+                held = [socket.create_connection(("127.0.0.1", server.port)) for _ in range(most)]
+                time.sleep(0.2)
+                for _ in range(3):
+                    answer = server.raw(f"GET / HTTP/1.1\r\nHost: {server.host}\r\n\r\n".encode())
+                    self.assertTrue(answer.startswith(b"HTTP/1.1 503 "), answer)
+                    self.assertIn(b"too many connections", answer)
+                held.pop().close()
+                time.sleep(0.2)
+                self.assertEqual(server.get("").status, 200)
+                for connection in held:
+                    connection.close()
+
+    def test_slow_requests_are_ended(self):
+        with Server("--connections-per-address", "40") as server:
+            head = f"PATCH /api/v1/objects HTTP/1.1\r\nHost: {server.host}\r\nAuthorization: Bearer {server.token}\r\n" \
+                   f"Origin: http://{server.host}\r\nContent-Type: {JSON}\r\nContent-Length: 100\r\n\r\n"
+            cases = {"nothing": "", "a line": "GET / HTTP/1.1\r\n", "no body": head, "a drop of it": head + "{"}
+            slow = {}
+            for name, data in cases.items():
+                slow[name] = socket.create_connection(("127.0.0.1", server.port), timeout=5)
+                slow[name].sendall(data.encode())
+            kept = server.connect()
+            self.assertEqual(server.ask("GET", "/api/v1", connection=kept).status, 200)
+            start = time.monotonic()
+            while time.monotonic() < start + 9:
+                time.sleep(1)
+                slow["a drop of it"].sendall(b" ")  # a request has ten seconds in all, not between two bytes
+                self.assertEqual(server.get("").status, 200)
+            time.sleep(2.5)
+            for name, connection in slow.items():
+                with self.subTest(name=name):
+                    self.assertTrue(read_all(connection).startswith(b"HTTP/1.1 408 "))
+                    connection.close()
+            self.assertEqual(kept.sock.recv(10), b"")  # closed without a word
+            kept.close()
+
+    def test_ending_lets_requests_finish(self):
+        for number in range(5):
+            with self.subTest(number=number), Server() as server:
+                connection = server.connect()
+                self.assertEqual(server.ask("GET", "/api/v1", connection=connection).status, 200)
+                connection.request("GET", "/api/v1/status", headers={"Authorization": f"Bearer {server.token}"})
+                time.sleep(0.002 * number)
+                start = time.monotonic()
+                server.process.terminate()
+                try:
+                    self.assertIn(connection.getresponse().status, (200, 404))
+                except http.client.RemoteDisconnected:
+                    self.assertEqual(number, 0)  # may not have come by then
+                server.process.wait(timeout=5)
+                self.assertLess(time.monotonic() - start, 1)
+                connection.close()
