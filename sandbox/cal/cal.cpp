@@ -4,6 +4,7 @@
 #include "cal/cal_sandbox.h"
 #include "cal/connection.h"
 #include "cal/message.h"
+#include "cal/trace.h"
 #include "store/cal_codes.h"
 #include "store/fault.h"
 #include "store/refusal_log.h"
@@ -24,9 +25,19 @@ namespace {
 // Longer reasons are cut.
 thread_local char reasonOfThread[1024];
 
-int refuse(const Location &location, const char *operation, int code, const char *reason) noexcept {
+// One message: what it is called, where it goes, and its line in the trace.
+struct Call {
+    const char *operation;
+    Trace trace;
+    Location location{};
+
+    Call(const char *name, const MsgHeader *message) : operation(name), trace(name, message) {}
+};
+
+int refuse(const Call &call, int code, const char *reason) noexcept {
     std::snprintf(reasonOfThread, sizeof reasonOfThread, "%s", reason);
-    logRefusal(location, operation, code, reason);
+    logRefusal(call.location, call.operation, code, reason);
+    call.trace.end(call.location.name, code, reasonOfThread);
     return code;
 }
 
@@ -36,21 +47,22 @@ int codeOf(const DatabaseError &error) {
 
 // Runs work(location) and turns what it throws into a code.
 template <typename Work>
-int answer(const char *operation, Work work) noexcept {
+int answer(const char *operation, const MsgHeader *message, Work work) noexcept {
     reasonOfThread[0] = '\0';
-    Location location;
+    Call call(operation, message);
     try {
-        location = Location::current();
-        work(location);
+        call.location = Location::current();
+        work(call.location);
+        call.trace.end(call.location.name, 0, "");
         return 0;
     } catch (const Refusal &refusal) {
-        return refuse(location, operation, refusal.code(), refusal.what());
+        return refuse(call, refusal.code(), refusal.what());
     } catch (const DatabaseError &error) {
-        return refuse(location, operation, codeOf(error), error.what());
+        return refuse(call, codeOf(error), error.what());
     } catch (const std::bad_alloc &) {
-        return refuse(location, operation, CALTOFAL_NO_MEMORY, "out of memory");
+        return refuse(call, CALTOFAL_NO_MEMORY, "out of memory");
     } catch (const std::exception &error) {
-        return refuse(location, operation, CALTOFAL_STORE_FAILED, error.what());
+        return refuse(call, CALTOFAL_STORE_FAILED, error.what());
     }
 }
 
@@ -77,7 +89,7 @@ void undergoFaults(const Location &location, const char *operation, const std::v
 }
 
 int set(MsgHeader *message, const char *operation, int layers) noexcept {
-    return answer(operation, [&](const Location &location) {
+    return answer(operation, message, [&](const Location &location) {
         std::vector<SetRequest> requests = setRequests(message);
         undergoFaults(location, "set", requests);
         Connection::instance().with(location, [&](Database &database) {
@@ -95,7 +107,7 @@ int set(MsgHeader *message, const char *operation, int layers) noexcept {
 using namespace sandbox;
 
 EXPORTED int cal_getValue(MsgHeader *message) {
-    return answer("get", [&](const Location &location) {
+    return answer("get", message, [&](const Location &location) {
         const std::vector<GetRequest> requests = getRequests(message);
         undergoFaults(location, "get", requests);
         Answer result;

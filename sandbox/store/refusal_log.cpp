@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "store/refusal_log.h"
 
-#include "store/cal_codes.h"
+#include "store/log_line.h"
 
 #include <cstdio>
-#include <ctime>
 #include <exception>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,15 +20,6 @@ void setAside(const std::string &file) {
     }
 }
 
-std::string now() {
-    const std::time_t seconds = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&seconds, &local);
-    char text[32];
-    text[std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%S%z", &local)] = '\0';
-    return text;
-}
-
 } // namespace
 
 void logRefusal(const Location &location, const char *operation, int code, const char *reason) noexcept {
@@ -39,16 +28,10 @@ void logRefusal(const Location &location, const char *operation, int code, const
     }
     try {
         const std::string file = location.logFile();
-        const CodeName *known = findCode(code);
-        const std::string line = now() + " " + std::to_string(getpid()) + " " + operation + " " + std::to_string(code) +
-                                 " " + std::string(known ? known->name : "other") + " " + reason + "\n";
         setAside(file);
-        const int log = open(file.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
-        if (log >= 0) {
-            // One call, so that lines of several processes do not mix; a lost line is no reason to fail.
-            [[maybe_unused]] const ssize_t written = write(log, line.data(), line.size());
-            close(log);
-        }
+        // A lost line is no reason to fail.
+        appendLine(file, localTime() + " " + std::to_string(getpid()) + " " + operation + " " + codeText(code) + " " +
+                             reason);
     } catch (const std::exception &) { // NOLINT(bugprone-empty-catch): done without, as promised
     }
 }

@@ -34,7 +34,7 @@ constexpr std::string_view kDraftSuffix = ".draft";
 void refuseBadName(const std::string &name) {
     if (!isGatewayName(name)) {
         throw Refusal(CALTOFAL_NO_GATEWAY,
-                      quotedShort(name) + " is no gateway name: letters, digits, '.', '_' and '-'");
+                      quotedShort(name) + " is not a gateway name: letters, digits, '.', '_' and '-'");
     }
 }
 

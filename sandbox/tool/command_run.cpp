@@ -14,6 +14,7 @@ namespace {
 
 struct Options {
     bool check = false;
+    bool trace = false;
     std::vector<std::string> shown;
 };
 
@@ -37,6 +38,9 @@ void run(Tool &tool, const Options &options) {
     } else if (tool.words.empty()) {
         throw Failure("run: which command? caltofal-sandbox run -- COMMAND [ARGUMENT...]", kUsage);
     } else {
+        if (options.trace) {
+            setenv("CALTOFAL_SANDBOX_TRACE", "-", 1);
+        }
         enterBox(tool, options, tool.words);
     }
 }
@@ -61,6 +65,7 @@ void addRun(Command &root, Tool &tool) {
     auto options = makeOptions<Options>();
     Command command = root.add("run", "Run a program where the device's paths, tools and daemons are");
     command.flag("--check", options->check, "Only tell whether it can be done here");
+    command.flag("--trace", options->trace, "Show each message to the configuration layer on standard error");
     addShown(command, *options);
     command.footer(R"(Usage: caltofal-sandbox run [-g NAME] [-b DIRECTORY]... -- COMMAND [ARGUMENT...]
 

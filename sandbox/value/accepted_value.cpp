@@ -3,6 +3,7 @@
 
 #include "value/escape.h"
 #include "value/refusal.h"
+#include "value/secret.h"
 
 #include "caltofal.h"
 
@@ -10,6 +11,7 @@ namespace sandbox {
 
 std::string acceptedValue(const ValueType &type, std::string_view parameter, std::string value) {
     const std::string subject = std::string(parameter) + ": ";
+    const std::string shown = isSecretName(parameter) ? std::string(kHidden) : quotedShort(value);
     if (value.size() >= PARAM_VALUE_SIZE) {
         throw Refusal(CALTOFAL_OUT_OF_RANGE, subject + "the value has " + std::to_string(value.size()) +
                                                  " bytes, at most " + std::to_string(PARAM_VALUE_SIZE - 1) +
@@ -17,9 +19,9 @@ std::string acceptedValue(const ValueType &type, std::string_view parameter, std
     }
     switch (type.check(value)) {
     case ValueType::Verdict::WrongType:
-        throw Refusal(CALTOFAL_WRONG_TYPE, subject + quotedShort(value) + " is not of type " + type.text());
+        throw Refusal(CALTOFAL_WRONG_TYPE, subject + shown + " is not of type " + type.text());
     case ValueType::Verdict::OutOfRange:
-        throw Refusal(CALTOFAL_OUT_OF_RANGE, subject + quotedShort(value) + " is outside " + type.text());
+        throw Refusal(CALTOFAL_OUT_OF_RANGE, subject + shown + " is outside " + type.text());
     case ValueType::Verdict::Valid:
         break;
     }

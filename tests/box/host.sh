@@ -22,6 +22,12 @@ expect 'the shell' 'ash 5' "$({
     echo $?
 } | paste -sd ' ')"
 
+# The trace of the command's messages, on standard error and in a file that the box does not have of itself
+expect 'messages on standard error' 'home caltofal[PID] get 0 ok US Device.IPv6' "$(
+    run --trace -- caltofal get Device.IPv6 2>&1 >/dev/null | cut -d ' ' -f 2- | sed -E 's/\[[0-9]+\]/[PID]/; s/[0-9]+us/US/')"
+expect 'messages in a file' 'Device.IPv6' "$(
+    CALTOFAL_SANDBOX_TRACE=../trace run -- caltofal get Device.IPv6 >/dev/null && cut -d ' ' -f 8- ../trace)"
+
 # What is writable, what is kept
 expect 'the current directory is the host'\''s' 'kept' "$(run -- sh -c 'echo kept >file' && cat file)"
 expect 'the store, by the library'\''s road' 'Device.WiFi.Radio.1.Channel = 9' "$(

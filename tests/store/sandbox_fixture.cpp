@@ -81,8 +81,8 @@ int setOne(const std::string &path, const Pairs &values) {
 std::string valueOf(const std::string &path, const std::string &name) {
     const auto message = Message::get(kLeafGet, path, {name});
     const int code = cal_getValue(&message->header);
-    return code == 0 ? caltofal_nextParam(caltofal_nextObject(&message->header, nullptr), nullptr)->value
-                     : "?" + std::to_string(code);
+    const ObjectNode *object = code == 0 ? caltofal_nextObject(&message->header, nullptr) : nullptr;
+    return object ? caltofal_nextParam(object, nullptr)->value : "?" + std::to_string(code);
 }
 
 void SandboxTest::SetUp() {

@@ -56,7 +56,7 @@ constexpr uint32_t kSet = CALTOFAL_SUBOPER_SET;
 // One object set through cal_setValue; its code.
 int setOne(const std::string &path, const Pairs &values);
 
-// The value of one parameter; "?" and the code when it can not be got.
+// The value of one parameter; "?" and the code when there is none.
 std::string valueOf(const std::string &path, const std::string &name);
 
 // A temporary directory, chosen by the environment, with the gateway "lab" in it.

@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <sstream>
 #include <stdexcept>
 #include <unistd.h>
@@ -64,6 +65,20 @@ void showLibraries(Shown &shown) {
     }
 }
 
+// The file that takes the trace of messages, at its own path.
+void showTrace(Shown &shown) {
+    const std::string named = environment("CALTOFAL_SANDBOX_TRACE", "");
+    if (named.empty() || named == "-") {
+        return;
+    }
+    const std::string file = fs::absolute(named).lexically_normal().string();
+    std::ofstream(file, std::ios::app); // what a box shows must be there
+    if (fs::exists(file)) {
+        shown.add(file, true);
+        setenv("CALTOFAL_SANDBOX_TRACE", file.c_str(), 1);
+    }
+}
+
 Shown shownFor(const Request &request, const Places &places, const std::string &storeDirectory) {
     Shown shown;
     shown.add(fs::current_path().string(), true);
@@ -74,6 +89,7 @@ Shown shownFor(const Request &request, const Places &places, const std::string &
     shown.add(places.prefix, false);
     showProgram(shown, request.command.front());
     showLibraries(shown);
+    showTrace(shown);
     return shown;
 }
 
