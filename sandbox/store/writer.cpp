@@ -2,6 +2,7 @@
 #include "store/writer.h"
 
 #include "store/model.h"
+#include "store/possible.h"
 #include "store/reader.h"
 #include "value/accepted_value.h"
 #include "value/escape.h"
@@ -39,7 +40,21 @@ class Writer {
         }
     }
 
+    // Once all of a message is done, so that its settings may depend on each other in any order.
+    void refuseImpossibleSettings() {
+        for (const Changed &setting : changed_) {
+            refuseImpossible(database_, setting.key, setting.name, setting.type, setting.value);
+        }
+    }
+
   private:
+    // A setting that is no longer what it was.
+    struct Changed {
+        std::string key, name;
+        ValueType type;
+        std::string value;
+    };
+
     // The layer whose objects are there to be changed.
     int seen() const { return layers_ == kEverywhere ? kRunning : kStored; }
 
@@ -83,6 +98,9 @@ class Writer {
                 throw Refusal(CALTOFAL_READ_ONLY, path_ + "." + name + ": read-only");
             }
             const std::string stored = acceptedValue(definition.type, path_ + "." + name, value);
+            if (stored != (layers_ == kStored ? row->pending.value_or(row->running) : row->running)) {
+                changed_.push_back({key, name, definition.type, stored});
+            }
             Model(database_, definitions_, noTemplates_)
                 .setValue(object, *row, layers_ == kStored ? row->running : stored, stored);
         }
@@ -93,6 +111,7 @@ class Writer {
     Definitions definitions_;
     const Templates noTemplates_; // for changes that make no objects
     std::string path_;
+    std::vector<Changed> changed_;
 };
 
 } // namespace
@@ -102,6 +121,7 @@ void applyRequests(Database &database, std::vector<SetRequest> &requests, int la
     for (SetRequest &request : requests) {
         writer.apply(request);
     }
+    writer.refuseImpossibleSettings();
 }
 
 } // namespace sandbox

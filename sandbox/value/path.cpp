@@ -124,6 +124,15 @@ bool componentMatches(std::string_view component, std::string_view actual) {
     return number ? number == instanceOf(actual) : component == actual;
 }
 
+std::string patternOf(std::string_view key) {
+    std::string pattern;
+    for (const std::string_view component : components(key)) {
+        pattern += instanceOf(component) ? kAnyInstance : component;
+        pattern += '.';
+    }
+    return pattern;
+}
+
 bool isPattern(std::string_view text) {
     if (!text.ends_with('.') || text.size() > kPathMax) {
         return false;

@@ -49,6 +49,9 @@ bool isName(std::string_view text);
 // The components of a path, key or pattern.
 std::vector<std::string_view> components(std::string_view path);
 
+// The pattern that stands for the key: "{i}." for each instance number.
+std::string patternOf(std::string_view key);
+
 // Whether the text is a pattern: at least one "{i}", and a final dot.
 bool isPattern(std::string_view text);
 

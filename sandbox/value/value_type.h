@@ -28,6 +28,10 @@ class ValueType {
     // Whether values are single integers or decimals, or single booleans.
     bool isNumber() const;
     bool isFlag() const;
+    bool isList() const { return list_; }
+
+    // Whether the type has a range of its own, or words.
+    bool isLimited() const { return !ranges_.empty() || !words_.empty(); }
 
     bool operator==(const ValueType &) const = default;
 

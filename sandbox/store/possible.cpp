@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "store/possible.h"
+
+#include "store/model.h"
+#include "value/accepted_value.h"
+#include "value/escape.h"
+#include "value/path.h"
+#include "value/refusal.h"
+#include "value/standard_type.h"
+
+#include "caltofal.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <vector>
+
+namespace sandbox {
+namespace {
+
+enum class Takes { One, Several };
+
+// A setting, and the parameter of the same object that lists what it can be.
+struct Listed {
+    std::string_view object, setting, list;
+    Takes takes = Takes::One;
+    std::string_view always = ""; // a value that needs no mention
+};
+
+constexpr Listed kListed[] = {
+    {"Device.WiFi.Radio.{i}.", "Channel", "PossibleChannels"},
+    {"Device.WiFi.Radio.{i}.", "OperatingFrequencyBand", "SupportedFrequencyBands"},
+    {"Device.WiFi.Radio.{i}.", "OperatingStandards", "SupportedStandards", Takes::Several},
+    {"Device.WiFi.Radio.{i}.", "OperatingChannelBandwidth", "SupportedOperatingChannelBandwidths"},
+    {"Device.WiFi.Radio.{i}.", "TransmitPower", "TransmitPowerSupported", Takes::One, "-1"},
+    {"Device.WiFi.Radio.{i}.", "BasicDataTransmitRates", "SupportedDataTransmitRates", Takes::Several},
+    {"Device.WiFi.Radio.{i}.", "OperationalDataTransmitRates", "SupportedDataTransmitRates", Takes::Several},
+    {"Device.WiFi.AccessPoint.{i}.Security.", "ModeEnabled", "ModesSupported"},
+    {"Device.WiFi.AccessPoint.{i}.WPS.", "ConfigMethodsEnabled", "ConfigMethodsSupported", Takes::Several},
+    {"Device.WiFi.EndPoint.{i}.WPS.", "ConfigMethodsEnabled", "ConfigMethodsSupported", Takes::Several},
+};
+
+// What channels a band has, for radios that do not list theirs.
+struct Band {
+    std::string_view name, channels;
+};
+constexpr Band kBands[] = {{"2.4GHz", "1-14"}, {"5GHz", "32-177"}, {"6GHz", "1-233"}};
+
+std::vector<std::string_view> items(std::string_view list) {
+    std::vector<std::string_view> result;
+    while (!list.empty()) {
+        const size_t end = std::min(list.find(','), list.size());
+        std::string_view item = list.substr(0, end);
+        list.remove_prefix(std::min(end + 1, list.size()));
+        item.remove_prefix(std::min(item.find_first_not_of(' '), item.size()));
+        item = item.substr(0, item.find_last_not_of(' ') + 1);
+        if (!item.empty()) {
+            result.push_back(item);
+        }
+    }
+    return result;
+}
+
+bool isNumber(std::string_view text, int &number) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size();
+}
+
+// An item of a list may be a range of numbers, "36-64".
+bool includes(std::string_view item, std::string_view value) {
+    const size_t dash = item.find('-', 1);
+    int number = 0;
+    int least = 0;
+    int most = 0;
+    const bool range = dash != std::string_view::npos && isNumber(value, number) &&
+                       isNumber(item.substr(0, dash), least) && isNumber(item.substr(dash + 1), most);
+    return item == value || (range && number >= least && number <= most);
+}
+
+bool allows(std::string_view list, std::string_view value) {
+    const std::vector<std::string_view> possible = items(list);
+    return std::any_of(possible.begin(), possible.end(), [value](auto item) { return includes(item, value); });
+}
+
+// The running value of another parameter of the object; "" where there is none.
+std::string valueBeside(Database &database, const std::string &key, std::string_view name) {
+    const std::optional<ObjectRow> object = findObject(database, key);
+    const std::optional<ParameterRow> row = object ? findParameter(database, object->id, name) : std::nullopt;
+    return row ? row->running : "";
+}
+
+[[noreturn]] void refuse(const std::string &parameter, std::string_view value, const std::string &possible) {
+    throw Refusal(CALTOFAL_OUT_OF_RANGE, parameter + ": " + quotedShort(value) + " is not possible, " + possible);
+}
+
+void holdAgainst(const Listed &rule, const std::string &list, const std::string &parameter, std::string_view value) {
+    const std::vector<std::string_view> wanted =
+        rule.takes == Takes::Several ? items(value) : std::vector<std::string_view>{value};
+    for (const std::string_view item : wanted) {
+        if (item != rule.always && !allows(list, item)) {
+            refuse(parameter, item, std::string(rule.list) + " has " + list);
+        }
+    }
+}
+
+void holdAgainstBand(Database &database, const std::string &key, const std::string &parameter, std::string_view value) {
+    const std::string band = valueBeside(database, key, "OperatingFrequencyBand");
+    const auto *row = std::find_if(std::begin(kBands), std::end(kBands), [&](const Band &b) { return b.name == band; });
+    if (row != std::end(kBands) && !allows(row->channels, value)) {
+        refuse(parameter, value, band + " has the channels " + std::string(row->channels));
+    }
+}
+
+} // namespace
+
+void refuseImpossible(Database &database, const std::string &key, std::string_view name, const ValueType &type,
+                      const std::string &value) {
+    const std::string pattern = patternOf(key);
+    const std::string parameter = pathOf(key) + "." + std::string(name);
+    const auto *rule = std::find_if(std::begin(kListed), std::end(kListed),
+                                    [&](const Listed &row) { return row.object == pattern && row.setting == name; });
+    if (rule != std::end(kListed)) {
+        if (const std::string list = valueBeside(database, key, rule->list); !list.empty()) {
+            holdAgainst(*rule, list, parameter, value);
+            return;
+        }
+        if (name == "Channel") {
+            holdAgainstBand(database, key, parameter, value);
+        }
+    }
+    const std::string_view standard = standardType(pattern + std::string(name));
+    const bool ownWord = value.starts_with("X_"); // makers may add words to the standard's
+    if (!standard.empty() && !type.isLimited() && !ownWord) {
+        acceptedValue(ValueType::parse(standard), parameter, value);
+    }
+}
+
+} // namespace sandbox
