@@ -5,8 +5,8 @@ import {changesOf, changeTable, isSecret, noteWritten} from "./written.js";
 
 const PREVIEW_DELAY_MS = 300;
 
-// {name, label, value, options, hint, reveal(), write(value), more}: options are values or [value, label]; reveal() reads
-// a secret; write() says what to ask for, by default {name: value}; `more` puts the field under a disclosure.
+// {name, label, value, options, hint, reveal(), write(value)}: options are values or [value, label]; reveal() reads a
+// secret; write() says what to ask for, by default {name: value}.
 class Field {
   constructor(spec, index) {
     this.spec = {write: value => ({[spec.name]: value}), ...spec};
@@ -61,24 +61,21 @@ class Field {
   }
 }
 
-// {title, path, fields, body(asked), before(parameter), done()}: `path` takes the change, whose body is what the fields
-// ask for unless body() makes something else of it; before() tells a value that the answer to a change does not.
-export function openForm({title, path, fields: specs, body = asked => asked, before, done}) {
+// `path` takes the change, whose body is what the fields ask for unless body() makes something else of it.
+export function openForm({title, path, fields: specs, body = asked => asked, done}) {
   const fields = specs.map((spec, index) => new Field(spec, index));
-  const part = more => fields.filter(field => !!field.spec.more === more).map(field => field.element());
   const preview = el("div", {role: "status"}), refusal = el("p.refused", {role: "alert"});
-  const save = el("button.main", {type: "submit"}, "Save"), rest = part(true);
+  const save = el("button.main", {type: "submit"}, "Save");
   let timer, turn = 0;
 
   const ask = async query => changesOf(await send("PATCH", path + query,
-    body(Object.assign({}, ...fields.filter(field => field.changed).map(field => field.asked)))), before);
+    body(Object.assign({}, ...fields.filter(field => field.changed).map(field => field.asked)))));
 
   // The refused field, undefined where the words name none.
   function refuse(error) {
     if (!(error instanceof ApiError)) throw error;
     const field = [...fields.filter(one => one.changed), ...fields].find(one => one.concerns(error));
     (field ?? {say: text => { refusal.textContent = text; }}).say(visible(error.message));
-    field?.input.closest("details")?.setAttribute("open", "");
     return field;
   }
 
@@ -124,8 +121,7 @@ export function openForm({title, path, fields: specs, body = asked => asked, bef
       clearTimeout(timer);
       save.disabled = true;
       timer = setTimeout(foresee, PREVIEW_DELAY_MS);
-    }}, part(false), rest.length > 0 && el("details", el("summary", "More settings"), rest),
-    el("h3", "What will change"), preview, refusal, el("div.actions", save, button("Cancel", () => dialog.close()))));
+    }}, fields.map(field => field.element()), el("h3", "What will change"), preview, refusal, el("div.actions", save, button("Cancel", () => dialog.close()))));
   dialog.onclose = () => {
     clearTimeout(timer);
     dialog.remove();

@@ -40,7 +40,7 @@ export const jobButton = (text, label, path, body, ended) =>
 export function progress(label) {
   const job = running.get(label);
   if (!job) return null;
-  const {elapsed_s: elapsed = 0, of_s: of} = job;
+  const {elapsed = 0, of} = job;
   return el("p.progress", el("progress", {"aria-label": label, max: of, value: of && elapsed}),
     of ? figure(Math.max(0, of - elapsed), "s left") : figure(elapsed, "s"),
     job.id && button("Cancel", () => send("DELETE", `jobs/${job.id}`), label));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What every view is made of: asking the gateway, elements, figures with their units, tables. Text from the gateway only
-// ever becomes text: nothing here parses markup. One file, as the first view is to need few.
+// What every view is made of: asking the gateway, elements, figures with units, tables. Text from the gateway only ever
+// becomes text: nothing here parses markup. One file, as the first view is to need few.
 
 export class ApiError extends Error {
   constructor(status, error) {
@@ -49,10 +49,12 @@ export async function getAll(paths) {
   })));
 }
 
-// The pages of `status` in the same form.
-export async function getStatus() {
-  return Object.fromEntries(Object.entries(await get("status")).map(([name, value]) =>
-    [name, value?.error ? {error: new ApiError(value.error.exit === 10 ? 404 : 500, value.error)} : {value}]));
+// The pages of `status` in the same form, with more that getAll() asks for.
+export async function getStatus(more) {
+  const [status, others] = await Promise.all([get("status"), getAll(more)]);
+  const pages = Object.entries(status).map(([name, value]) =>
+    [name, value?.error ? {error: new ApiError(value.error.exit === 10 ? 404 : 500, value.error)} : {value}]);
+  return {...Object.fromEntries(pages), ...others};
 }
 
 // A change: its answer, null when there is none.
@@ -63,7 +65,7 @@ export async function send(method, path, body = {}) {
 }
 
 const HANDLERS = ["onclick", "oninput", "onsubmit"];
-const given = value => value !== null && value !== undefined && value !== false;
+const given = value => value !== false && (value ?? null) !== null;
 
 // el("p.note", {id: "x", onclick: f}, "text", child, [more]): what is null or false is left out.
 export function el(kind, ...rest) {
@@ -79,7 +81,7 @@ export function el(kind, ...rest) {
   return node;
 }
 
-function morphOne(old, next) {
+function morphNode(old, next) {
   if (old.nodeName !== next.nodeName || old.dataset?.key !== next.dataset?.key) return old.replaceWith(next);
   if (old.nodeType === Node.TEXT_NODE) {
     if (old.data !== next.data) old.data = next.data;
@@ -97,7 +99,7 @@ function morphOne(old, next) {
 // open disclosures survive. An element with data-own keeps what it has.
 export function morph(parent, fresh) {
   const wanted = [...fresh], present = [...parent.childNodes];
-  wanted.forEach((next, index) => (present[index] ? morphOne(present[index], next) : parent.append(next)));
+  wanted.forEach((next, index) => (present[index] ? morphNode(present[index], next) : parent.append(next)));
   present.slice(wanted.length).forEach(old => old.remove());
 }
 
@@ -107,8 +109,7 @@ export const visible = text => String(text).replace(UNSEEN, c => `\\u${c.charCod
 
 export const quiet = (...text) => el("span.quiet", text);
 export const note = (...text) => el("p.quiet", text);
-const shown = value => value === null || value === undefined || value === "" ? quiet("–") : value === true ? "yes"
-  : value === false ? "no" : typeof value === "object" ? value : visible(value);
+const shown = value => (value ?? "") === "" ? quiet("–") : typeof value === "object" ? value : visible(value);
 
 // A name that came from the air or from a client.
 export const name = (text, hex, empty = "(no name)") => text
@@ -120,9 +121,9 @@ export const rate = kbit => kbit < 1000 ? figure(kbit, "kbit/s") : figure(kbit /
 export const bandName = band => ({"2.4g": "2.4 GHz", "5g": "5 GHz"})[band] ?? band;
 
 // A state in words; `kind` (good, bad, off) adds a mark of its own shape and colour.
-export const state = (word, kind) => el(`span.state.${kind}`, word);
+export const state = (word, kind) => el(`span.state.${kind}`, visible(word));
 export const onOff = on => on ? state("On", "good") : state("Off", "off");
-export const upDown = (word, good) => word === good ? state("Connected", "good") : state(word ? visible(word) : "Unknown", "bad");
+export const connected = (is, otherwise, kind = "off") => is ? state("Connected", "good") : state(otherwise, kind);
 
 // How much of a whole there is; `text` is what a screen reader says.
 export function bar(label, part, whole, text, weak) {
@@ -133,34 +134,36 @@ export function bar(label, part, whole, text, weak) {
     "aria-valuenow": share, "aria-valuetext": text}, fill);
 }
 
-export const facts = rows => el("dl.facts", rows.filter(Boolean).map(([term, value]) =>
-  el("div", el("dt", term), el("dd", shown(value)))));
+export const facts = (...rows) => el("dl", rows.filter(Boolean).map(([term, value]) => el("div", el("dt", term), el("dd", shown(value)))));
 
-// Columns of [head, cell(row), kind], kind "count" for figures and "act" for buttons. On a narrow screen a row becomes a
-// list of heads and cells, which is why the roles are spelled out. `key` gives a row its identity over refreshes.
+// Columns of [head, content, kind]: content is a member's name or content(row), kind "count" for figures and "act" for
+// buttons. On a narrow screen a row becomes a list of heads and cells, which is why the roles are spelled out. `key` is
+// the content that gives a row its identity over refreshes.
 export function table(label, columns, rows, key, empty) {
   if (!rows.length) return note(empty);
-  const role = (kind, ...rest) => el(kind[0], {role: kind[1], ...rest[0]}, ...rest.slice(1));
-  const cell = ([head, content, kind], row, index) => role([`${index ? "td" : "th"}${kind ? `.${kind}` : ""}`,
-    index ? "cell" : "rowheader"], {"data-head": kind !== "act" && head}, shown(content(row)));
-  return role(["table", "table"], {"aria-label": label},
-    role(["thead", "rowgroup"], {}, role(["tr", "row"], {}, columns.map(([head, , kind]) =>
-      role([kind ? `th.${kind}` : "th", "columnheader"], {}, kind === "act" ? el("span.unseen", head) : head)))),
-    role(["tbody", "rowgroup"], {}, rows.map(row => role(["tr", "row"], {"data-key": key?.(row)},
-      columns.map((column, index) => cell(column, row, index))))));
+  const of = (content, row) => typeof content === "function" ? content(row) : row[content];
+  const row = (cells, attributes) => el("tr", {role: "row", ...attributes}, columns.map(cells));
+  return el("table", {role: "table", "aria-label": label},
+    el("thead", {role: "rowgroup"}, row(([head, , kind = "text"]) => el(`th.${kind}`, {role: "columnheader"}, el("span", head)))),
+    el("tbody", {role: "rowgroup"}, rows.map(one => row(([head, content, kind = "text"], index) => el(`${index ? "td" : "th"}.${kind}`,
+      {role: index ? "cell" : "rowheader", "data-head": head}, shown(of(content, one))), {"data-key": of(key, one)}))));
 }
 
-export const section = (title, buttons, ...content) => el("section", {"aria-label": title, "data-key": title},
-  el("div.head", el("h2", title), el("div.actions", buttons)), content);
+// `title` may go with buttons: [title, ...buttons].
+export function section(title, ...content) {
+  const [text, ...buttons] = [title].flat(9);
+  return el("section", {"aria-label": text, "data-key": text}, el("div.head", el("h2", text), el("div.actions", buttons)), content);
+}
 export const pair = (...parts) => el("div.pair", parts);
 
 // `subject` completes the name for those who do not see what stands around it.
 export const button = (label, onclick, subject) =>
   el("button", {type: "button", onclick, "aria-label": subject && `${label} ${subject}`}, label);
 
-// What a view makes of an answer; `absence` says so where the gateway has no such thing.
-export const answered = ({value, error}, show, absence) => !error ? show(value) : error.status === 404 && absence
-  ? note(absence) : el("p", el("strong.refused", "Not available. "), visible(error.message));
+// What a view makes of an answer; `thing` is what is missing where there is none.
+export const answered = ({value, error}, show, thing) => !error ? show(value) : error.status === 404 && thing
+  ? note(`This gateway has no ${thing}.`) : el("p", el("strong.refused", "Not available. "), visible(error.message));
+export const part = (title, answer, show, thing) => section(title, answered(answer, show, thing));
 
 // For a screen reader and the corner of the eye: something was done.
 let saidTimer;

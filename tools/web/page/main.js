@@ -1,32 +1,21 @@
 // SPDX-License-Identifier: MIT
-// The page: its views, the way between them, and values that refresh by themselves. The overview is here, as the page
-// begins with it; the other views are loaded when they are first shown.
-import {answered, bandName, bar, el, facts, figure, getAll, getStatus, link, morph, note, onOff, pair, quiet, rate, section,
-  state, table, upDown} from "./kit.js";
+// The page: its views, the way between them, values that refresh by themselves. The overview is here, as the page begins
+// with it; the other views are loaded when they are first shown.
+import {answered, bandName, connected, el, facts, getStatus, link, morph, note, onOff, pair, part, rate, table} from "./kit.js";
 
 const REFRESH_MS = 5000;
 
-const lineRate = (label, {rate_kbit_s: now, max_rate_kbit_s: most}) =>
-  [label, [rate(now), quiet(" of ", rate(most)), bar(label, now, most, `${now} of ${most} kbit/s`)]];
-
 const overview = {
-  load: async () => Object.assign(...await Promise.all([getStatus(), getAll({radios: "wifi/radios"})])),
-  render: ({mode, wan, dsl, lan, multiwan, radios}) => pair(
-    section("Internet", null, answered(wan, value => facts([["State", upDown(value.status, "Up")],
-      ["Connection", value.description || value.type], ["Address", value.ip_address], ["Gateway", value.gateway],
-      ["IPv6 address", value.ipv6?.address], ["Name servers", [value.dns?.dns1, value.dns?.dns2].filter(Boolean).join(", ")]]))),
-    section("Home network", null, answered(lan, ({ipv4, ipv6}) => facts([["Address", ipv4?.address], ["IPv6 address", ipv6?.address],
-      ["DHCP server", onOff(ipv4?.dhcp_active)],
-      ["Role", mode.value && `${mode.value.router ? "router" : "bridge"}, uplink by ${mode.value.wifi_wan ? "Wi-Fi" : "cable"}`],
-      ["Second WAN", multiwan.value && onOff(multiwan.value.enabled)]]))),
-    section("DSL line", null, answered(dsl, ({status, downstream, upstream}) => facts(status === "connected" ? [
-      ["State", state("Connected", "good")], lineRate("Downstream", downstream), lineRate("Upstream", upstream),
-      ["Noise margin", [figure(downstream.noise_margin_db, "dB", 1), " down, ", figure(upstream.noise_margin_db, "dB", 1), " up"]]]
-      : [["State", state("No signal", "off")]]), "This gateway has no DSL line.")),
-    section("Wi-Fi", null, answered(radios, value => table("Radios", [
-      ["Radio", radio => bandName(radio.band)], ["State", radio => onOff(radio.enabled)],
-      ["Channel", radio => radio.channel, "count"], ["Clients", radio => radio.clients, "count"]],
-    value.radios, radio => radio.radio, "This gateway has no radio."), "This gateway has no Wi-Fi."))),
+  load: () => getStatus({radios: "wifi/radios"}),
+  render: ({mode, wan, dsl, lan, radios}) => pair(
+    part("Internet", wan, value => facts(["State", connected(value.status === "Up", value.status || "Unknown", "bad")],
+      ["Connection", value.description || value.type], dsl.value?.status === "connected" && ["DSL line",
+        [rate(dsl.value.downstream.rate_kbit_s), " down, ", rate(dsl.value.upstream.rate_kbit_s), " up"]],
+      ["Address", value.ip_address], ["IPv6 address", value.ipv6?.address], ["Gateway", value.gateway])),
+    part("Home network", lan, ({ipv4, ipv6}) => facts(["Role", mode.value && (mode.value.router ? "router" : "bridge")],
+      ["Address", ipv4?.address], ["IPv6 address", ipv6?.address], ["DHCP server", onOff(ipv4?.dhcp_active)])),
+    part("Wi-Fi", radios, value => table("Radios", [["Radio", radio => bandName(radio.band)], ["State", radio => onOff(radio.enabled)],
+      ["Channel", "channel", "count"], ["Clients", "clients", "count"]], value.radios, "radio", "No radio."), "Wi-Fi")),
 };
 
 // A view: load() asks for what it shows, render(data) makes elements of it, shown(data) is told when they stand there.

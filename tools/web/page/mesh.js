@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The roaming mesh with its satellites, and the uplink of a repeater.
-import {answered, button, el, facts, figure, getAll, name, onOff, section, state, table, upDown} from "./kit.js";
+import {button, connected, el, facts, figure, getAll, name, onOff, part, table} from "./kit.js";
 import {openForm} from "./edit.js";
 import {jobButton, progress} from "./jobs.js";
 import {refresh} from "./main.js";
@@ -10,30 +10,30 @@ const change = mesh => openForm({title: "Mesh", path: "mesh", done: refresh,
 
 const SATELLITES = [
   ["Satellite", one => name(one.name, one.name_hex)],
-  ["State", one => one.active ? state("Connected", "good") : state("Away", "off")],
-  ["Address", one => one.ip],
-  ["MAC address", one => one.mac]];
+  ["State", one => connected(one.active, "Away")],
+  ["Address", "ip"],
+  ["MAC address", "mac"]];
 
 const satellites = mesh => [progress("Synchronisation"),
-  facts([["State", onOff(mesh.enabled)], ["This gateway is the", mesh.master ? "master" : "satellite"],
-    ["Connected satellites", mesh.connected]]),
-  table("Satellites", SATELLITES, mesh.satellites, one => one.mac, mesh.enabled ? "No satellite has joined yet." : "The mesh is off.")];
+  facts(["State", onOff(mesh.enabled)], ["This gateway is the", mesh.master ? "master" : "satellite"],
+    ["Connected satellites", mesh.connected]),
+  table("Satellites", SATELLITES, mesh.satellites, "mac", mesh.enabled ? "No satellite has joined yet." : "The mesh is off.")];
 
-const uplink = point => facts([["State", upDown(point.connected ? "Up" : "Not connected", "Up")],
+const uplink = point => facts(["State", connected(point.connected, "Not connected", "bad")],
   ["Interface", el("code", point.interface)], ["To", point.peer], ["Channel", point.channel],
-  ["Width", figure(point.bandwidth_mhz, "MHz")]]);
+  ["Width", figure(point.bandwidth_mhz, "MHz")]);
 
 export default {
   // There is an end point to ask for where an uplink is on.
   async load() {
     const answers = await getAll({mesh: "mesh", ssids: "wifi/ssids"});
     const on = answers.ssids.value?.ssids.some(ssid => ssid.network === "uplink" && ssid.enabled);
-    return {...answers, endpoint: null, ...(on ? await getAll({endpoint: "wifi/endpoint"}) : {})};
+    return {...answers, endpoint: {error: {status: 404}}, ...(on ? await getAll({endpoint: "wifi/endpoint"}) : {})};
   },
   render: ({mesh, endpoint}) => [
-    section("Mesh", mesh.value && [button("Change", () => change(mesh.value), "mesh"), mesh.value.enabled && mesh.value.master
+    part(["Mesh", mesh.value && button("Change", () => change(mesh.value), "mesh"), mesh.value?.enabled && mesh.value.master
       && jobButton("Synchronise", "Synchronisation", "mesh/sync", {}, () => "the satellites have the settings.")],
-    answered(mesh, satellites, "This gateway knows no mesh.")),
-    section("Repeater uplink", null, answered(endpoint ?? {error: {status: 404}}, uplink, "This gateway repeats no other network.")),
+    mesh, satellites, "mesh"),
+    part("Repeater uplink", endpoint, uplink, "uplink by Wi-Fi that is on"),
   ],
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The whole data model: found by words, read, changed.
-import {answered, button, el, getAll, name, note, quiet, section, table, visible} from "./kit.js";
+import {button, el, getAll, name, note, part, quiet, table, visible} from "./kit.js";
 import {openForm} from "./edit.js";
 import {redraw, refresh} from "./main.js";
 import {isSecret} from "./written.js";
@@ -39,7 +39,7 @@ function beginnings(all) {
     ["Parameters", ([, count]) => count, "count"]], [...counts].sort(), ([path]) => path);
 }
 
-const change = row => openForm({title: row.path, path: "objects", done: refresh, before: () => row.value,
+const change = row => openForm({title: row.path, path: "objects", done: refresh,
   body: asked => ({[row.object]: asked}),
   fields: [{name: row.parameter, label: row.parameter, value: isSecret(row.parameter) ? "" : row.value}]});
 
@@ -54,7 +54,7 @@ function results(all) {
   const hits = all.filter(row => wanted.every(word => row.text.includes(word)));
   return [el("p.quiet", {role: "status"}, `${hits.length} of ${all.length} parameters`,
     hits.length > MOST ? `; the first ${MOST} are shown: add a word.` : "."),
-  table("Parameters", COLUMNS, hits.slice(0, MOST), row => row.path, "None has all these words in its path or value.")];
+  table("Parameters", COLUMNS, hits.slice(0, MOST), "path", "None has all these words in its path or value.")];
 }
 
 export default {
@@ -62,6 +62,6 @@ export default {
   render: ({all}) => [
     el("p.search", el("label", {for: "search"}, "Words of a path or a value"), el("input", {id: "search", type: "search",
       autocomplete: "off", spellcheck: "false", value: words, oninput: event => search(event.target.value)})),
-    section("Parameters", null, answered(all, value => results(parametersOf(value)))),
+    part("Parameters", all, value => results(parametersOf(value))),
   ],
 };

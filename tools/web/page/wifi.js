@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Wi-Fi: radios, networks, channels with the networks around, stations, WPS.
 import {isRadar, networksOf} from "./channels.js";
-import {answered, bandName, bar, button, el, figure, get, getAll, name, note, onOff, quiet, say, section, state, table,
-  upDown} from "./kit.js";
-import {hostsOf} from "./home.js";
+import {answered, bandName, bar, button, el, figure, get, getAll, name, note, onOff, part, quiet, say, section, state,
+  table} from "./kit.js";
+import {HOSTS, hostsOf} from "./home.js";
 import {isRunning, jobButton, progress} from "./jobs.js";
 import {refresh} from "./main.js";
 import {drawSpectrum, networkColour} from "./spectrum.js";
 import {editRadio, editSsid} from "./wifi_forms.js";
 
-const NONE = "This gateway has no Wi-Fi.";
 const possible = new Map(); // interface → its channels, which do not change while they are looked at
 
 async function load() {
-  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", survey: "wifi/survey", hosts: "hosts"});
+  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", survey: "wifi/survey", hosts: HOSTS});
   const radios = base.radios.value?.radios ?? [], ssids = base.ssids.value?.ssids ?? [];
   const serving = ssids.filter(ssid => ssid.enabled && ssid.active && ssid.network !== "uplink");
   const each = (list, key, path) => getAll(Object.fromEntries(list.map(one => [one[key], path + one[key]])));
@@ -30,14 +29,14 @@ const channel = ({channel: number, auto_channel: auto}) => [String(number), auto
 
 const radioTable = (radios, settings) => table("Radios", [
   ["Radio", radio => bandName(radio.band)],
-  ["State", radio => radio.status === "Up" ? state("On the air", "good") : radio.enabled ? upDown(radio.status) : onOff(false)],
+  ["State", radio => radio.status === "Up" ? state("On the air", "good") : radio.enabled ? state(radio.status, "bad") : onOff(false)],
   ["Channel", channel, "count"],
   ["Width", radio => figure(radio.bandwidth_mhz, "MHz"), "count"],
-  ["Standards", radio => radio.standards],
-  ["Clients", radio => radio.clients, "count"],
+  ["Standards", "standards"],
+  ["Clients", "clients", "count"],
   ["Change", radio => settings[radio.radio].value && button("Change", () =>
     editRadio(radio, settings[radio.radio].value, channelsOf(radio), refresh), `radio ${bandName(radio.band)}`), "act"],
-], radios, radio => radio.radio, "This gateway has no radio.");
+], radios, "radio", "This gateway has no radio.");
 
 const changeSsid = async ssid => editSsid(ssid, await get(`wifi/ssids/${ssid.number}`), refresh);
 
@@ -46,12 +45,12 @@ function ssidTable(label, ssids, radios) {
   return table(label, [
     ["Name", ssid => name(ssid.ssid, ssid.ssid_hex)],
     ["Radio", band],
-    ["For", ssid => ssid.network],
+    ["For", "network"],
     ["State", ssid => ssid.enabled && !ssid.active ? state("Not on the air", "bad") : onOff(ssid.enabled)],
-    ["BSSID", ssid => ssid.bssid],
+    ["BSSID", "bssid"],
     ["Change", ssid => ssid.network !== "uplink" && button("Change", () => changeSsid(ssid).catch(error => say(error.message)),
       `network ${ssid.number}, ${ssid.ssid}`), "act"],
-  ], ssids, ssid => ssid.number, "None is on.");
+  ], ssids, "number", "None is on.");
 }
 
 function networkTables(ssids, radios) {
@@ -80,13 +79,12 @@ const inBand = (data, radio) => data.networks.filter(network => network.span.ban
 
 function spectrum(radio, data) {
   const band = bandName(radio.band), shown = inBand(data, radio), title = `Channels in ${band}`, label = `Scan in ${band}`;
-  return section(title, jobButton(isRunning(label) ? "Scanning…" : "Scan", label, "wifi/scans", {interface: radio.interface},
-    ({networks}) => `${networks.length} networks found.`),
+  return section([title, jobButton("Scan", label, "wifi/scans", {interface: radio.interface}, ({networks}) => `${networks.length} networks found.`)],
   progress(label),
   el("div.chart", {"data-own": "", "data-key": radio.band}),
   note(shown.some(network => network.own) ? "Dashed: own networks, at full height as their signal is not measured."
     : "No own network is on the air in this band.", shown.every(network => network.own) && " Scan to see the networks around."),
-  table(title, AROUND, shown, network => network.id, "No network is known here."));
+  table(title, AROUND, shown, "id", "No network is known here."));
 }
 
 function stationTable({serving, stations, hosts}) {
@@ -97,7 +95,7 @@ function stationTable({serving, stations, hosts}) {
     ({...station, ssid, host: known.get(station.mac.toUpperCase())}))).sort((a, b) => b.rssi_dbm - a.rssi_dbm);
   return table("Stations", [
     ["Station", ({host}) => name(host?.HostName, host?.HostName_hex, "unknown")],
-    ["MAC address", station => station.mac],
+    ["MAC address", "mac"],
     ["Network", ({ssid}) => [name(ssid.ssid, ssid.ssid_hex), quiet(" ", ssid.interface)]],
     // -90 dBm and less is no signal, -40 and more is a full one.
     ["Signal", ({rssi_dbm: dbm}) => el("span.signal", bar("Signal", dbm + 90, 50, `${dbm} dBm`, dbm < -75), " ", figure(dbm, "dBm"))],
@@ -107,11 +105,11 @@ function stationTable({serving, stations, hosts}) {
 export default {
   load,
   render: data => [
-    section("Radios", null, answered(data.radios, ({radios}) => radioTable(radios, data.settings), NONE)),
-    section("Networks", null, answered(data.ssids, ({ssids}) => networkTables(ssids, data.radios.value?.radios ?? []), NONE)),
+    part("Radios", data.radios, ({radios}) => radioTable(radios, data.settings), "Wi-Fi"),
+    part("Networks", data.ssids, ({ssids}) => networkTables(ssids, data.radios.value?.radios ?? []), "Wi-Fi"),
     ...(data.radios.value?.radios ?? []).map(radio => spectrum(radio, data)),
-    section("Stations", null, stationTable(data)),
-    section("WPS", jobButton("Start push-button", "WPS", "wifi/wps", {}, result => `${result.status}.`), progress("WPS"),
+    section("Stations", stationTable(data)),
+    section(["WPS", jobButton("Start push-button", "WPS", "wifi/wps", {}, ({wps}) => `${wps}.`)], progress("WPS"),
       note(isRunning("WPS") ? "Now press the WPS button of the device that is to join."
         : "Lets a device join without typing the pass phrase.")),
   ],

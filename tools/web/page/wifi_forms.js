@@ -3,26 +3,14 @@
 import {isRadar} from "./channels.js";
 import {bandName, get} from "./kit.js";
 import {openForm} from "./edit.js";
-import {isSecret} from "./written.js";
 
-const ON_OFF = [["true", "on"], ["false", "off"]], GUARD = [["on", "short"], ["off", "long"]];
-// The words that the user interface has for what the data model says otherwise.
-const WORDS = {ExtensionChannel: [["upper", "above"], ["lower", "below"], ["auto", "automatic"]],
-  TransmitPower: ["high", "medium", "low"], GuardInterval: GUARD, VhtGuardInterval: GUARD, Dot11nProtection: ON_OFF,
-  X_ZINTU_WMMOption: ["normal", "gaming", "streaming"],
-  ModeEnabled: [["NONE", "none: open to all"], "WEP", "WPA-PSK", "WPA2/WPA-PSK", "WPA2-PSK", "WPA2/WPA-Enterprise", "WPA2-Enterprise"]};
 const STANDARDS = {"2.4g": ["b", "g", "n", "b+g", "g+n", "b+g+n"], "5g": ["a", "n", "ac", "a+n", "n+ac", "a+n+ac"]};
-const TOLD = /_hex$|^(BSSID|AutoChannelEnable|X_ZINTU_Active|X_ZINTU_NetworkType)$/; // not fields of their own
 
-// The fields named, then all other settings of the snapshot under the data model's names.
-function fieldsOf({settings, user_interface: words}, named) {
+// The fields of those parameters that the snapshot has.
+function fieldsOf({settings, user_interface: words}, fields) {
   const values = Object.assign({}, ...Object.entries(settings).map(([object, values]) => ({...values, ...words[object]})));
-  const others = Object.keys(values).filter(parameter => !TOLD.test(parameter) && !named.some(field => field.name === parameter))
-    .map(parameter => ({name: parameter, label: parameter, more: true}));
-  return [...named, ...others].filter(field => field.name in values).map(field => ({
-    options: WORDS[field.name], ...field, ...field.from?.(values),
-    value: isSecret(field.name) ? "" : field.from?.(values).value ?? values[field.name],
-    hint: field.hint ?? (isSecret(field.name) ? "Left empty, it stays as it is." : "")}));
+  return fields.filter(field => field.name in values).map(field =>
+    ({...field, value: field.reveal ? "" : values[field.name], ...field.from?.(values)}));
 }
 
 // One choice for two parameters: the number, and whether the radio chooses it.
@@ -39,9 +27,9 @@ export function editRadio({radio, band}, snapshot, channels, done) {
     {name: "Channel", label: "Channel", from: channelChoice(channels),
       hint: band === "5g" ? "On a DFS channel the radio first listens for radar." : ""},
     {name: "OperatingChannelBandwidth", label: "Width", options: [["auto", "automatic"], ...widths.map(mhz => [String(mhz), `${mhz} MHz`])]},
-    {name: "ExtensionChannel", label: "Secondary channel"},
+    {name: "ExtensionChannel", label: "Secondary channel", options: [["upper", "above"], ["lower", "below"], ["auto", "automatic"]]},
     {name: "OperatingStandards", label: "Standards", options: STANDARDS[band].map(letters => `802.11${letters}`)},
-    {name: "TransmitPower", label: "Transmit power"}])});
+    {name: "TransmitPower", label: "Transmit power", options: ["high", "medium", "low"]}])});
 }
 
 export function editSsid({number, ssid}, snapshot, done) {
@@ -50,7 +38,8 @@ export function editSsid({number, ssid}, snapshot, done) {
     {name: "Enable", label: "On"},
     {name: "SSID", label: "Name (SSID)", hint: "At most 32 bytes."},
     {name: "SSIDAdvertisementEnabled", label: "Announce the name"},
-    {name: "ModeEnabled", label: "Security"},
+    {name: "ModeEnabled", label: "Security", options: [["NONE", "none: open to all"], "WEP", "WPA-PSK", "WPA2/WPA-PSK",
+      "WPA2-PSK", "WPA2/WPA-Enterprise", "WPA2-Enterprise"]},
     {name: "KeyPassphrase", label: "Pass phrase", reveal, hint: "8 to 63 characters. Left empty, it stays as it is."},
     {name: "IsolationEnable", label: "Keep stations apart"}])});
 }

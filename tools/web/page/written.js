@@ -8,19 +8,13 @@ let entries = JSON.parse(sessionStorage.getItem(KEPT) ?? "[]");
 
 export const isSecret = parameter => /pass(word|phrase)|secret|wepkey|presharedkey/i.test(parameter);
 
-const worded = (parameter, value) => isSecret(parameter) ? "(secret)" : value === "" ? "(empty)"
-  : value === undefined ? null : String(value);
+const worded = (parameter, value) => isSecret(parameter) ? "(secret)" : value === "" ? "(empty)" : value;
 
-// Rows of {path, from, to} of an answer to a change, whether it tells changes or, of any objects, what was set;
-// `before(parameter)` is what an answer of the second kind does not tell.
-export function changesOf(answer, before) {
-  const changes = answer?.changes ?? (answer?.set ?? []).flatMap(({object, parameters}) =>
-    Object.entries(parameters).map(([parameter, to]) => ({object, parameter, to, from: before?.(parameter)})));
-  return changes.map(({object, parameter, from, to}) => ({path: `${object.replace(/\.$/, "")}.${parameter}`,
-    from: worded(parameter, from), to: worded(parameter, to)}));
-}
+// Rows of {path, from, to} of the answer to a change.
+export const changesOf = answer => answer.changes.map(({object, parameter, from, to}) =>
+  ({path: `${object}.${parameter}`, from: worded(parameter, from), to: worded(parameter, to)}));
 
-const COLUMNS = [["Parameter", row => el("code", visible(row.path))], ["From", row => row.from], ["To", row => row.to]];
+const COLUMNS = [["Parameter", row => el("code", visible(row.path))], ["From", "from"], ["To", "to"]];
 export const changeTable = rows => table("Changes", COLUMNS, rows, null, "Nothing: these are the values in force.");
 
 function keep(rows) {
@@ -40,7 +34,7 @@ function forget() {
 
 export default {
   load: async () => ({}),
-  render: () => section("Changes", entries.length ? button("Empty the list", forget) : null,
+  render: () => section(["Changes", entries.length > 0 && button("Empty the list", forget)],
     note("What was written from this tab, the latest first, without pass phrases and passwords."),
-    table("Changes", [...COLUMNS, ["Time", row => row.time]], entries, null, "Nothing has been written yet.")),
+    table("Changes", [...COLUMNS, ["Time", "time"]], entries, null, "Nothing has been written yet.")),
 };
