@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The geometry of the channel chart: which frequencies a network takes, where they are on the axis, what shape it has
-// there, where its name goes, which colour it gets. Numbers in, numbers out: nothing here draws or asks.
+// The geometry of the channel chart: which frequencies a network takes, where they are on the axis, its shape there, the
+// place of its name, its colour. Numbers in, numbers out: nothing here draws or asks.
 
 // The 20 MHz channels of 5 GHz lie in runs without gaps, in which wider channels are formed from the first one on.
 const RUNS = [[36, 64], [100, 144], [149, 177]];
@@ -19,8 +19,8 @@ function blockOf(channel, size) {
   return block.at(-1) <= run[1] ? block : null;
 }
 
-// What a network takes: its 20 MHz channels in rising order, from `low` to `high` MHz, and whether that is sure or had
-// to be guessed (the side of the secondary channel, or a width that cannot be). Null for a channel of no band.
+// What a network takes: its 20 MHz channels in rising order, `low` to `high` MHz, and whether that is sure or had to be
+// guessed, as the side of the secondary channel is not told or not possible. Null for a channel of no band.
 export function spanOf({channel, bandwidth_mhz: width, secondary_side: side}) {
   const band = bandOf(channel);
   if (!band) return null;
@@ -61,12 +61,12 @@ export function positionOf(axis, mhz) {
 
 // A network's outline: it stands on the floor at both edges and reaches the top over its middle.
 export function humpOf(axis, {low, high}, top, floor) {
-  return series(-1, 25, 1 / 12).map(across => ({x: positionOf(axis, low) + (high - low) * (across + 1) / 2,
+  return series(-1, 49, 1 / 24).map(across => ({x: positionOf(axis, low) + (high - low) * (across + 1) / 2,
     y: floor + (top - floor) * Math.max(0, 1 - across ** 4)}));
 }
 
-// Places for names {x: middle, y: wanted lower edge, width, height}, the most important first: boxes in `area` that do
-// not cover each other, as near as possible to where they are wanted; null where there is no room within four heights.
+// Boxes in `area` for names {x: middle, y: wanted lower edge, width, height}, the most important first. They do not cover
+// each other; null where there is no room within four heights.
 export function placeLabels(labels, area) {
   const placed = [];
   const covers = (a, b) => a.left < b.left + b.width && b.left < a.left + a.width
@@ -81,8 +81,7 @@ export function placeLabels(labels, area) {
   });
 }
 
-// One of `count` colours for a network: always the same by `taken`, which maps networks to their colours and is added
-// to; a new one gets one that is free for as long as there are free ones.
+// One of `count` colours for a network. `taken` remembers those given; a new network gets a free one while there are some.
 export function colourOf(id, taken, count) {
   if (!taken.has(id)) {
     const hash = [...id].reduce((sum, letter) => (sum * 31 + letter.codePointAt(0)) % 9973, 7);
@@ -92,8 +91,8 @@ export function colourOf(id, taken, count) {
   return taken.get(id);
 }
 
-// The networks on the air: for each radio its own ones as one, then the others, strongest first. One that several
-// interfaces heard stands there once; own ones that were heard are no others. `sides`: of the secondary channel, by radio.
+// The networks on the air: the own ones of a radio as one, then the others, strongest first. One that several interfaces
+// heard stands there once; own ones that were heard are no others. `sides`: of the secondary channel, by radio.
 export function networksOf(radios, ssids, sides, heard) {
   const own = radios.filter(radio => radio.enabled && radio.status === "Up" && bandOf(radio.channel) === radio.band)
     .map(radio => ({...radio, own: true, id: radio.interface, secondary_side: sides[radio.radio], names:

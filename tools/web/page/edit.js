@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Forms in a dialog: what a change would write is shown before it is saved, a refusal stands beside its field.
-import {ApiError, button, el, morph, note, say, send, visible} from "./kit.js";
+import {ApiError, button, el, morph, say, send, visible} from "./kit.js";
 import {changesOf, changeTable, isSecret, noteWritten} from "./written.js";
 
 const PREVIEW_DELAY_MS = 300;
@@ -31,8 +31,8 @@ class Field {
   get changed() { return this.value !== this.first; }
   get asked() { return this.spec.write(this.value); }
 
-  concerns({object, message}) {
-    return Object.keys(this.asked).some(name => new RegExp(`(^|[ ."])${name}(?![.\\w])`).test(`${object} ${message}`));
+  concerns({message}) {
+    return Object.keys(this.asked).some(name => new RegExp(`(^|[ ."])${name}(?![.\\w])`).test(message));
   }
 
   say(refusal) {
@@ -42,22 +42,18 @@ class Field {
   }
 
   async reveal(shower) {
-    try {
-      this.first = await this.spec.reveal();
-      this.input.value ||= this.first;
-      this.input.type = "text";
-      shower.remove();
-      this.input.focus();
-    } catch (error) {
-      this.say(error.message);
-    }
+    this.first = await this.spec.reveal();
+    this.input.value ||= this.first;
+    this.input.type = "text";
+    shower.remove();
+    this.input.focus();
   }
 
   element() {
     const label = el("label", {for: this.id}, this.spec.label);
     if (this.input.type === "checkbox") return el("div.field.check", this.input, label, this.note);
     return el("div.field", label, el("div.entry", this.input, this.spec.reveal
-      && button("Show", event => this.reveal(event.currentTarget), this.spec.label)), this.note);
+      && button("Show", ({target}) => this.reveal(target).catch(error => this.say(error.message)), this.spec.label)), this.note);
   }
 }
 
@@ -83,20 +79,15 @@ export function openForm({title, path, fields: specs, body = asked => asked, don
     const mine = ++turn;
     refusal.textContent = "";
     fields.forEach(field => field.say(""));
-    let shown = note("Nothing yet."), any = false;
+    let rows = [];
     try {
-      if (fields.some(field => field.changed)) {
-        const rows = await ask("?dry_run=1");
-        any = rows.length > 0;
-        shown = changeTable(rows);
-      }
+      if (fields.some(field => field.changed)) rows = await ask("?dry_run=1");
     } catch (error) {
       if (mine === turn) refuse(error);
-      shown = note("Nothing, as it is refused.");
     }
     if (mine !== turn) return;
-    morph(preview, [shown]);
-    save.disabled = !any;
+    morph(preview, [changeTable(rows)]);
+    save.disabled = !rows.length;
   }
 
   async function submit(event) {
@@ -121,7 +112,8 @@ export function openForm({title, path, fields: specs, body = asked => asked, don
       clearTimeout(timer);
       save.disabled = true;
       timer = setTimeout(foresee, PREVIEW_DELAY_MS);
-    }}, fields.map(field => field.element()), el("h3", "What will change"), preview, refusal, el("div.actions", save, button("Cancel", () => dialog.close()))));
+    }}, fields.map(field => field.element()), el("h3", "What will change"), preview, refusal,
+    el("div.actions", save, button("Cancel", () => dialog.close()))));
   dialog.onclose = () => {
     clearTimeout(timer);
     dialog.remove();

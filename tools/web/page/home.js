@@ -12,14 +12,12 @@ const ipv4 = lan => facts(["Address", lan.address], ["Subnet mask", lan.subnet_m
   ["DHCP server", onOff(lan.dhcp_active)], ["Hands out", lan.dhcp_start && `${lan.dhcp_start} to ${lan.dhcp_end}`],
   ["For", figure(lan.lease_time_s / 3600, "hours")]);
 
-const MODES = {stateful: "DHCPv6", stateless: "SLAAC, DHCPv6 for name servers", slaac: "SLAAC"};
-
 const ipv6 = lan => facts(["State", onOff(lan.active)], ["Address", lan.address && `${lan.address}/${lan.prefix_length_bits}`],
-  ["Addresses by", MODES[lan.mode] ?? lan.mode], ["Hands out", lan.dhcp_start && `${lan.dhcp_start} to ${lan.dhcp_end}`],
+  ["Mode", lan.mode], ["Hands out", lan.dhcp_start && `${lan.dhcp_start} to ${lan.dhcp_end}`],
   ["Name servers", [lan.dns1, lan.dns2].filter(Boolean).join(", ")], ["Domain", lan.domain]);
 
 const COLUMNS = [
-  ["Host", host => name(host.HostName, host.HostName_hex)],
+  ["Host", host => name(host.HostName)],
   ["State", host => connected(host.Active, "Away")],
   ["Address", "IPAddress"],
   ["MAC address", "PhysAddress"],

@@ -27,9 +27,9 @@ const FULL_DB = 12, SMALL_DB = 6;
 function direction(title, {rate_kbit_s: now, max_rate_kbit_s: most, noise_margin_db: margin, attenuation_db: attenuation}) {
   const small = margin < SMALL_DB;
   return el("div", el("h3", title), facts(
-    ["Rate", [rate(now), bar(`${title} rate`, now, most, `${now} of ${most} kbit/s`)]],
+    ["Rate", [rate(now), bar(`${title} rate`, now, most)]],
     ["Attainable", rate(most)],
-    ["Noise margin", [figure(margin, "dB", 1), small && quiet(" small"), bar(`${title} noise margin`, margin, FULL_DB, `${margin} dB`, small)]],
+    ["Noise margin", [figure(margin, "dB", 1), small && quiet(" small"), bar(`${title} noise margin`, margin, FULL_DB, small)]],
     ["Attenuation", attenuation.length > 0 && attenuation.map(one => [figure(one, "dB", 1), " "])]));
 }
 

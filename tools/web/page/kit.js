@@ -5,7 +5,7 @@
 export class ApiError extends Error {
   constructor(status, error) {
     super(error.message);
-    Object.assign(this, {status, object: error.object ?? ""});
+    this.status = status;
   }
 }
 
@@ -60,8 +60,7 @@ export async function getStatus(more) {
 // A change: its answer, null when there is none.
 export async function send(method, path, body = {}) {
   const response = await ask(method, path, {"Content-Type": "application/json"}, JSON.stringify(body));
-  const text = await response.text();
-  return text ? JSON.parse(text) : null;
+  return response.json().catch(() => null);
 }
 
 const HANDLERS = ["onclick", "oninput", "onsubmit"];
@@ -72,7 +71,7 @@ export function el(kind, ...rest) {
   const [tag, ...classes] = kind.split(".");
   const node = document.createElement(tag);
   if (classes.length) node.className = classes.join(" ");
-  const attributes = Object.getPrototypeOf(rest[0] ?? "") === Object.prototype ? rest.shift() : {};
+  const attributes = rest[0]?.constructor === Object ? rest.shift() : {};
   for (const [key, value] of Object.entries(attributes)) {
     if (HANDLERS.includes(key)) node[key] = value;
     else if (given(value)) node.setAttribute(key, value === true ? "" : value);
@@ -112,8 +111,7 @@ export const note = (...text) => el("p.quiet", text);
 const shown = value => (value ?? "") === "" ? quiet("–") : typeof value === "object" ? value : visible(value);
 
 // A name that came from the air or from a client.
-export const name = (text, hex, empty = "(no name)") => text
-  ? el("bdi", {title: hex && `Not UTF-8; its bytes: ${hex}`}, visible(text)) : quiet(empty);
+export const name = (text, empty = "(no name)") => text ? el("bdi", visible(text)) : quiet(empty);
 
 export const figure = (value, unit, digits = 0) => typeof value === "number"
   ? el("span.figure", value.toFixed(digits), " ", el("span.unit", unit)) : quiet("–");
@@ -125,13 +123,12 @@ export const state = (word, kind) => el(`span.state.${kind}`, visible(word));
 export const onOff = on => on ? state("On", "good") : state("Off", "off");
 export const connected = (is, otherwise, kind = "off") => is ? state("Connected", "good") : state(otherwise, kind);
 
-// How much of a whole there is; `text` is what a screen reader says.
-export function bar(label, part, whole, text, weak) {
+// How much of a whole there is.
+export function bar(label, part, whole, weak) {
   const share = Math.round(100 * Math.max(0, Math.min(1, whole ? part / whole : 0)));
   const fill = el("span.fill");
   fill.style.width = `${share}%`;
-  return el(`span.bar${weak ? ".weak" : ""}`, {role: "meter", "aria-label": label, "aria-valuemin": 0, "aria-valuemax": 100,
-    "aria-valuenow": share, "aria-valuetext": text}, fill);
+  return el(`span.bar${weak ? ".weak" : ""}`, {role: "meter", "aria-label": label, "aria-valuenow": share}, fill);
 }
 
 export const facts = (...rows) => el("dl", rows.filter(Boolean).map(([term, value]) => el("div", el("dt", term), el("dd", shown(value)))));

@@ -19,15 +19,8 @@ const overview = {
 };
 
 // A view: load() asks for what it shows, render(data) makes elements of it, shown(data) is told when they stand there.
-const VIEWS = [
-  ["", "Overview", async () => ({default: overview})],
-  ["internet", "Internet", () => import("./internet.js")],
-  ["home", "Home network", () => import("./home.js")],
-  ["wifi", "Wi-Fi", () => import("./wifi.js")],
-  ["mesh", "Mesh", () => import("./mesh.js")],
-  ["model", "Data model", () => import("./model.js")],
-  ["written", "Written", () => import("./written.js")],
-].map(([route, title, load]) => ({route, title, load}));
+const VIEWS = Object.entries({"": "Overview", internet: "Internet", home: "Home network", wifi: "Wi-Fi", mesh: "Mesh",
+  model: "Data model", written: "Written"}).map(([route, title]) => ({route, title, view: route ? null : overview}));
 
 const [content, freshness, trouble, views] = ["content", "freshness", "trouble", "views"].map(id => document.getElementById(id));
 let current, timer, turn = 0, data, lastGood = "";
@@ -85,7 +78,7 @@ async function open() {
     morph(content, [title(), note("Loading…")]);
     content.focus();
   }
-  next.view ??= (await next.load()).default;
+  next.view ??= (await import(`./${route}.js`)).default;
   if (next === current) await refresh();
 }
 

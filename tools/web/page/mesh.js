@@ -9,14 +9,13 @@ const change = mesh => openForm({title: "Mesh", path: "mesh", done: refresh,
   fields: [{name: "enabled", label: "Mesh on", value: mesh.enabled}]});
 
 const SATELLITES = [
-  ["Satellite", one => name(one.name, one.name_hex)],
+  ["Satellite", one => name(one.name)],
   ["State", one => connected(one.active, "Away")],
   ["Address", "ip"],
   ["MAC address", "mac"]];
 
 const satellites = mesh => [progress("Synchronisation"),
-  facts(["State", onOff(mesh.enabled)], ["This gateway is the", mesh.master ? "master" : "satellite"],
-    ["Connected satellites", mesh.connected]),
+  facts(["State", onOff(mesh.enabled)], ["Role", mesh.master ? "master" : "satellite"], ["Satellites", mesh.connected]),
   table("Satellites", SATELLITES, mesh.satellites, "mac", mesh.enabled ? "No satellite has joined yet." : "The mesh is off.")];
 
 const uplink = point => facts(["State", connected(point.connected, "Not connected", "bad")],
@@ -34,6 +33,6 @@ export default {
     part(["Mesh", mesh.value && button("Change", () => change(mesh.value), "mesh"), mesh.value?.enabled && mesh.value.master
       && jobButton("Synchronise", "Synchronisation", "mesh/sync", {}, () => "the satellites have the settings.")],
     mesh, satellites, "mesh"),
-    part("Repeater uplink", endpoint, uplink, "uplink by Wi-Fi that is on"),
+    part("Repeater uplink", endpoint, uplink, "repeater uplink that is on"),
   ],
 };

@@ -13,8 +13,8 @@ function parametersOf(answer) {
   if (answer === kept) return rows;
   kept = answer;
   rows = Object.entries(answer).flatMap(([object, parameters]) => Object.entries(parameters)
-    .filter(([parameter]) => !(parameter.endsWith("_hex") && parameter.slice(0, -4) in parameters))
-    .map(([parameter, value]) => ({object, parameter, value, hex: parameters[`${parameter}_hex`],
+    .filter(([parameter]) => !parameter.endsWith("_hex"))
+    .map(([parameter, value]) => ({object, parameter, value,
       path: `${object.replace(/\.$/, "")}.${parameter}`, text: `${object}.${parameter} ${value}`.toLowerCase()})));
   return rows;
 }
@@ -27,30 +27,22 @@ function search(text) {
   redraw();
 }
 
-// Where one may begin: the objects directly below Device.
-function beginnings(all) {
-  const counts = new Map();
-  for (const {path} of all) {
-    const top = path.split(".", 2).join(".");
-    counts.set(top, (counts.get(top) ?? 0) + 1);
-  }
-  return table("Objects", [
-    ["Object", ([path]) => el("button.link", {type: "button", onclick: () => search(`${path}.`)}, path)],
-    ["Parameters", ([, count]) => count, "count"]], [...counts].sort(), ([path]) => path);
-}
-
 const change = row => openForm({title: row.path, path: "objects", done: refresh,
   body: asked => ({[row.object]: asked}),
   fields: [{name: row.parameter, label: row.parameter, value: isSecret(row.parameter) ? "" : row.value}]});
 
 const COLUMNS = [
   ["Parameter", row => el("code", visible(row.path))],
-  ["Value", row => row.value === "" || row.value === null ? quiet("(empty)") : name(String(row.value), row.hex)],
+  ["Value", row => row.value === "" || row.value === null ? quiet("(empty)") : name(String(row.value))],
   ["Change", row => button("Change", () => change(row), row.path), "act"]];
 
 function results(all) {
   const wanted = words.toLowerCase().split(/\s+/).filter(Boolean);
-  if (!wanted.length) return [note(`${all.length} parameters. Search, or begin with an object:`), beginnings(all)];
+  if (!wanted.length) {
+    const tops = new Set(all.map(({path}) => path.split(".", 2).join(".")));
+    return [note(`${all.length} parameters. Search, or begin with an object:`),
+      el("p.actions", [...tops].sort().map(path => button(path, () => search(`${path}.`))))];
+  }
   const hits = all.filter(row => wanted.every(word => row.text.includes(word)));
   return [el("p.quiet", {role: "status"}, `${hits.length} of ${all.length} parameters`,
     hits.length > MOST ? `; the first ${MOST} are shown: add a word.` : "."),

@@ -5,31 +5,26 @@ import {visible} from "./kit.js";
 
 const FLOOR_DBM = -100, TOP_DBM = -20;
 const OWN_DBM = -30; // the gateway does not hear itself: its own networks stand highest
-const COLOURS = 12, KEPT = "colours";
+const COLOURS = 12;
 const LINE_PX = 15, NAME_PX = 170;
 
-const taken = new Map(JSON.parse(sessionStorage.getItem(KEPT) ?? "[]"));
+const taken = new Map(); // network → its colour
 const charts = new Map(); // band → Chart
 
 let script;
 const chartJs = () => script ??= new Promise((resolve, reject) => {
   const element = document.createElement("script");
   element.onload = () => resolve(globalThis.Chart);
-  element.onerror = () => {
-    script = null;
-    reject(new Error("The chart cannot be loaded."));
-  };
+  element.onerror = () => reject(new Error("The chart cannot be loaded."));
   element.src = "/chart.js";
   document.head.append(element);
 });
 
-const css = name => getComputedStyle(document.documentElement).getPropertyValue(name).trim();
+const css = name => getComputedStyle(document.documentElement).getPropertyValue(name);
 
-// A network's colour, in the light of the page's scheme.
 export function networkColour(network, alpha = 1) {
   if (network.own) return `oklch(${css("--own")} / ${alpha})`;
   const hue = 285 + colourOf(network.id, taken, COLOURS) * 5 % COLOURS * 25; // no blue: that is the own ones'
-  sessionStorage.setItem(KEPT, JSON.stringify([...taken]));
   return `oklch(${css("--others")} ${hue} / ${alpha})`;
 }
 
@@ -39,30 +34,28 @@ const hump = (network, axis) => ({network, showLine: true, pointRadius: 0, fill:
   data: humpOf(axis, network.span, network.own ? OWN_DBM : Math.max(FLOOR_DBM + 2, network.rssi_dbm), FLOOR_DBM)});
 
 function cut(context, text) {
-  const letters = [...text];
-  const fits = () => context.measureText(letters.join("")).width <= NAME_PX;
-  if (fits()) return text;
-  while (letters.push("…") && !fits()) letters.splice(-2);
+  const letters = [...text], fits = () => context.measureText(letters.join("")).width <= NAME_PX;
+  while (!fits()) letters.splice(-2, 2, "…");
   return letters.join("");
 }
 
 const fontOf = (network, px = 12) => `${network?.own ? "600 " : ""}${px}px ${css("--font")}`;
 
-// The names over the humps; the chart keeps where they stand.
+// The names over the humps; the chart knows where they are.
 function drawNames(chart) {
   const {ctx: context, chartArea: area, scales: {x, y}} = chart;
   context.save();
   Object.assign(context, {textAlign: "center", textBaseline: "top", direction: "ltr", lineWidth: 4, lineJoin: "round"});
   const labels = chart.data.datasets.map(({network, data}) => {
     context.font = fontOf(network);
-    const lines = network.names.map(one => cut(context, visible(one.ssid) || "(no name)")), middle = data[12];
+    const lines = network.names.map(one => cut(context, visible(one.ssid) || "(no name)")), middle = data[data.length >> 1];
     return {network, lines, x: x.getPixelForValue(middle.x), y: y.getPixelForValue(middle.y) - 3,
       width: Math.max(...lines.map(line => context.measureText(line).width)) + 6, height: lines.length * LINE_PX};
   });
   const boxes = placeLabels(labels, area);
   chart.names = labels.map(({network, lines}, index) => ({network, lines, box: boxes[index]})).filter(({box}) => box);
   for (const {network, lines, box} of chart.names) {
-    // A rim in the background's colour keeps a name readable where lines cross it.
+    // A rim in the background's colour, as lines may cross a name.
     Object.assign(context, {font: fontOf(network), strokeStyle: css("--paper"), fillStyle: css(network.own ? "--accent" : "--ink")});
     lines.forEach((line, index) => {
       const place = [line, box.left + box.width / 2, box.top + index * LINE_PX + 1];
@@ -73,7 +66,7 @@ function drawNames(chart) {
   context.restore();
 }
 
-// The channels that give way to radar are shaded, and named above.
+// The channels that give way to radar are shaded, and marked above.
 function drawRadar({ctx: context, chartArea: area, scales: {x}, data: {axis}}) {
   context.save();
   Object.assign(context, {font: fontOf(null, 11), textBaseline: "bottom"});
@@ -85,7 +78,7 @@ function drawRadar({ctx: context, chartArea: area, scales: {x}, data: {axis}}) {
     context.fillStyle = css("--shade");
     context.fillRect(left, area.top, right - left, area.bottom - area.top);
     context.fillStyle = css("--quiet");
-    context.fillText(right - left > 140 ? "DFS: gives way to radar" : "DFS", left, area.top - 3);
+    context.fillText("DFS", left, area.top - 3);
   }
   context.restore();
 }
@@ -109,7 +102,7 @@ function optionsOf(axis) {
       y: {min: FLOOR_DBM, max: TOP_DBM, title: title("Signal, dBm"), grid: {color: grid}, ticks: {color, font, stepSize: 20}}}};
 }
 
-// Shows the networks of a band in `place`, an element of the page; `possible` are the channels that its radio may use.
+// Shows networks of a band in `place`; `possible` are the channels that the radio may use.
 export async function drawSpectrum(place, band, possible, networks) {
   const Chart = await chartJs();
   if (!place.isConnected) return;

@@ -10,9 +10,11 @@ import {drawSpectrum, networkColour} from "./spectrum.js";
 import {editRadio, editSsid} from "./wifi_forms.js";
 
 const possible = new Map(); // interface → its channels, which do not change while they are looked at
+let scanned = true; // false when there is no result of a scan to ask for
 
 async function load() {
-  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", survey: "wifi/survey", hosts: HOSTS});
+  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", hosts: HOSTS, ...scanned && {survey: "wifi/survey"}});
+  scanned = base.survey?.error?.status !== 404 && scanned;
   const radios = base.radios.value?.radios ?? [], ssids = base.ssids.value?.ssids ?? [];
   const serving = ssids.filter(ssid => ssid.enabled && ssid.active && ssid.network !== "uplink");
   const each = (list, key, path) => getAll(Object.fromEntries(list.map(one => [one[key], path + one[key]])));
@@ -21,7 +23,7 @@ async function load() {
   for (const [wlan, {value}] of Object.entries(channels)) if (value) possible.set(wlan, value.channels);
   const sides = radios.map(({radio}) => [radio, settings[radio].value?.user_interface[`Device.WiFi.Radio.${radio}`]?.ExtensionChannel]);
   return {...base, serving, stations, settings,
-    networks: networksOf(radios, ssids, Object.fromEntries(sides), base.survey.value?.networks ?? [])};
+    networks: networksOf(radios, ssids, Object.fromEntries(sides), base.survey?.value?.networks ?? [])};
 }
 
 const channelsOf = radio => possible.get(radio.interface) ?? [];
@@ -38,18 +40,16 @@ const radioTable = (radios, settings) => table("Radios", [
     editRadio(radio, settings[radio.radio].value, channelsOf(radio), refresh), `radio ${bandName(radio.band)}`), "act"],
 ], radios, "radio", "This gateway has no radio.");
 
-const changeSsid = async ssid => editSsid(ssid, await get(`wifi/ssids/${ssid.number}`), refresh);
-
 function ssidTable(label, ssids, radios) {
   const band = ssid => bandName(radios.find(({radio}) => radio === ssid.radio)?.band);
   return table(label, [
-    ["Name", ssid => name(ssid.ssid, ssid.ssid_hex)],
+    ["Name", ssid => name(ssid.ssid)],
     ["Radio", band],
     ["For", "network"],
     ["State", ssid => ssid.enabled && !ssid.active ? state("Not on the air", "bad") : onOff(ssid.enabled)],
     ["BSSID", "bssid"],
-    ["Change", ssid => ssid.network !== "uplink" && button("Change", () => changeSsid(ssid).catch(error => say(error.message)),
-      `network ${ssid.number}, ${ssid.ssid}`), "act"],
+    ["Change", ssid => ssid.network !== "uplink" && button("Change", () =>
+      get(`wifi/ssids/${ssid.number}`).then(settings => editSsid(ssid, settings, refresh), error => say(error.message)), `network ${ssid.number}, ${ssid.ssid}`), "act"],
   ], ssids, "number", "None is on.");
 }
 
@@ -62,10 +62,10 @@ function networkTables(ssids, radios) {
 function swatch(network) {
   const mark = el("span.swatch");
   mark.style.background = networkColour(network);
-  return [mark, network.names.map((one, index) => [index > 0 && ", ", name(one.ssid, one.ssid_hex)])];
+  return [mark, network.names.map((one, index) => [index > 0 && ", ", name(one.ssid)])];
 }
 
-const taken = ({channels, sure}) => `${[...new Set([channels[0], channels.at(-1)])].join(channels.length > 2 ? " to " : " + ")}${sure ? "" : " perhaps"}`;
+const taken = ({channels, sure}) => [channels.length > 2 ? `${channels[0]} to ${channels.at(-1)}` : channels.join(" + "), !sure && quiet(" perhaps")];
 
 const AROUND = [
   ["Network", swatch],
@@ -79,11 +79,15 @@ const inBand = (data, radio) => data.networks.filter(network => network.span.ban
 
 function spectrum(radio, data) {
   const band = bandName(radio.band), shown = inBand(data, radio), title = `Channels in ${band}`, label = `Scan in ${band}`;
-  return section([title, jobButton("Scan", label, "wifi/scans", {interface: radio.interface}, ({networks}) => `${networks.length} networks found.`)],
+  return section([title, jobButton("Scan", label, "wifi/scans", {interface: radio.interface}, ({networks}) => {
+    scanned = true;
+    return `${networks.length} networks found.`;
+  })],
   progress(label),
   el("div.chart", {"data-own": "", "data-key": radio.band}),
   note(shown.some(network => network.own) ? "Dashed: own networks, at full height as their signal is not measured."
-    : "No own network is on the air in this band.", shown.every(network => network.own) && " Scan to see the networks around."),
+    : "No own network is on the air in this band.", radio.band === "5g" && " DFS channels give way to radar.",
+  shown.every(network => network.own) && " Scan to see the networks around."),
   table(title, AROUND, shown, "id", "No network is known here."));
 }
 
@@ -94,11 +98,11 @@ function stationTable({serving, stations, hosts}) {
   const all = serving.flatMap(ssid => stations[ssid.interface].value.stations.map(station =>
     ({...station, ssid, host: known.get(station.mac.toUpperCase())}))).sort((a, b) => b.rssi_dbm - a.rssi_dbm);
   return table("Stations", [
-    ["Station", ({host}) => name(host?.HostName, host?.HostName_hex, "unknown")],
+    ["Station", ({host}) => name(host?.HostName, "unknown")],
     ["MAC address", "mac"],
-    ["Network", ({ssid}) => [name(ssid.ssid, ssid.ssid_hex), quiet(" ", ssid.interface)]],
+    ["Network", ({ssid}) => [name(ssid.ssid), quiet(" ", ssid.interface)]],
     // -90 dBm and less is no signal, -40 and more is a full one.
-    ["Signal", ({rssi_dbm: dbm}) => el("span.signal", bar("Signal", dbm + 90, 50, `${dbm} dBm`, dbm < -75), " ", figure(dbm, "dBm"))],
+    ["Signal", ({rssi_dbm: dbm}) => el("span.signal", bar("Signal", dbm + 90, 50, dbm < -75), " ", figure(dbm, "dBm"))],
   ], all, station => station.ssid.interface + station.mac, "No station is connected.");
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What was written from this browser tab, kept for as long as it is open, without the secrets.
-import {button, el, note, section, table, visible} from "./kit.js";
-import {redraw} from "./main.js";
+import {el, note, table, visible} from "./kit.js";
 
 const KEPT = "written", MOST = 200;
 let entries = JSON.parse(sessionStorage.getItem(KEPT) ?? "[]");
@@ -15,26 +14,16 @@ export const changesOf = answer => answer.changes.map(({object, parameter, from,
   ({path: `${object}.${parameter}`, from: worded(parameter, from), to: worded(parameter, to)}));
 
 const COLUMNS = [["Parameter", row => el("code", visible(row.path))], ["From", "from"], ["To", "to"]];
-export const changeTable = rows => table("Changes", COLUMNS, rows, null, "Nothing: these are the values in force.");
-
-function keep(rows) {
-  entries = rows.slice(0, MOST);
-  sessionStorage.setItem(KEPT, JSON.stringify(entries));
-}
+export const changeTable = rows => table("Changes", COLUMNS, rows, null, "Nothing.");
 
 export function noteWritten(rows) {
   const time = new Date().toLocaleTimeString();
-  keep([...rows.map(row => ({time, ...row})), ...entries]);
-}
-
-function forget() {
-  keep([]);
-  redraw();
+  entries = [...rows.map(row => ({time, ...row})), ...entries].slice(0, MOST);
+  sessionStorage.setItem(KEPT, JSON.stringify(entries));
 }
 
 export default {
   load: async () => ({}),
-  render: () => section(["Changes", entries.length > 0 && button("Empty the list", forget)],
-    note("What was written from this tab, the latest first, without pass phrases and passwords."),
-    table("Changes", [...COLUMNS, ["Time", "time"]], entries, null, "Nothing has been written yet.")),
+  render: () => [note("What was written from this tab, the latest first, without pass phrases and passwords."),
+    table("Written", [...COLUMNS, ["Time", "time"]], entries, null, "Nothing has been written yet.")],
 };
