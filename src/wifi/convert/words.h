@@ -6,8 +6,7 @@ namespace wifi {
 
 // As isspace() in the C locale, whatever the host's locale is: the device's tools print in the C locale.
 constexpr bool isSpace(char c) {
-    // Most characters are above all of these: one comparison passes them.
-    return static_cast<unsigned char>(c) <= ' ' && (c == ' ' || (c >= '\t' && c <= '\r'));
+    return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
 // The first character of a text that is no white space, its end at the latest.

@@ -5,19 +5,12 @@
 #include "wifi/convert/words.h"
 #include "wifi/cut_copy.h"
 
+#include <cstring>
+
 using namespace frame;
 
 namespace wifi {
 namespace {
-
-// The next tab, the text's end at the latest.
-char *skipToTab(char *text) {
-    // Both are below whatever a column usually holds: one comparison passes that.
-    while (static_cast<unsigned char>(*text) > '\t' || (*text != '\t' && *text != '\0')) {
-        ++text;
-    }
-    return text;
-}
 
 template <size_t Size>
 void copyColumn(char (&field)[Size], const SurveyLine::Text &column) {
@@ -34,7 +27,7 @@ SurveyLine splitSurveyLine(char *line) {
     char *cursor = line;
     for (SurveyLine::Text &column : parts.column) {
         const char *start = cursor;
-        cursor = skipToTab(cursor);
+        cursor = strchrnul(cursor, '\t');
         column = {start, static_cast<size_t>(cursor - start)};
         if (*cursor) {
             *cursor = '\0';

@@ -21,6 +21,7 @@ std::string_view findKept(const Snapshot &snapshot, const char *name) {
     const NameIndex &index = snapshot.index;
     for (uint8_t i = index.first[length]; i < index.first[length + 1]; ++i) {
         const char *kept = snapshot.names + snapshot.nameAt[index.order[i]];
+        // The first letter spares most calls: without it, the radio snapshot misses its limit (1.253 of 1.25).
         if (*kept == *name && memcmp(kept, name, length) == 0) {
             return {kept, length};
         }
