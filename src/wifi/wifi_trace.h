@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The trace line that several Wi-Fi functions share. Line and function are those of the caller.
+// The trace line with which several Wi-Fi functions begin.
 #pragma once
 
 #include "frame/trace.h"
 
 namespace wifi {
 
-// The first line of a function that announces itself.
+// Line and function are the caller's.
 inline void traceStart(int line = __builtin_LINE(), const char *function = __builtin_FUNCTION()) {
     frame::traceVola({frame::Unit::WifiUtil, line, function}, "START_FUNCTION \n");
 }

@@ -4,7 +4,7 @@
 
 namespace wifi {
 
-// What hexValue() answers for a character that is no hexadecimal digit.
+// What hexValue() answers for a character that is not a hexadecimal digit.
 inline constexpr unsigned char kNoHexDigit = 255;
 
 // The value of a hexadecimal digit of either case.

@@ -21,7 +21,8 @@ char upperCase(char c) {
 
 } // namespace
 
-// Counts pairs at each separator. A text that breaks the pairing ends the scan: it is judged by what was counted.
+// Counts the pairs of digits at each separator. At a separator in the wrong place the scan ends, and what was counted
+// so far decides.
 int isValidMacAddress(const char *text) {
     int digits = 0;
     int recorded = 0;
@@ -44,7 +45,7 @@ int isValidMacAddress(const char *text) {
     return digits == kDigits && (recorded == kSeparators || recorded == 0) ? 1 : 0;
 }
 
-// The last difference rules, unless both texts end before position `n`: then nothing is left of it.
+// The last difference counts, but texts that both end before position `n` are equal.
 int my_strnicmp(const char *s1, const char *s2, int n) {
     if (!s1 || !s2 || n == 0) {
         return -1;

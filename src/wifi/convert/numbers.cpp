@@ -5,7 +5,6 @@
 #include "caltofal.h"
 #include "wifi/convert/wrap.h"
 
-#include <cstdlib>
 #include <cstring>
 
 using namespace frame;
@@ -39,7 +38,7 @@ constexpr PowerLevel kPowerLevels[] = {{"high", "100"}, {"medium", "50"}, {"low"
 } // namespace
 
 int ConvInt(const char *text) {
-    return atoi(text);
+    return number(text);
 }
 
 int ConvStrToBool(const char *text) {
@@ -98,7 +97,7 @@ const char *TransmitPower_ConvStr(const char *text, int direction) {
         return nullptr;
     }
     if (direction == 1) {
-        return kPowerLevels[ConvTransmitPower(atoi(text)) - 1].word;
+        return kPowerLevels[ConvTransmitPower(number(text)) - 1].word;
     }
     for (const PowerLevel &level : kPowerLevels) {
         if (beginsWith(level.word, text)) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Words of one vocabulary into words of the other, by the pair tables.
+// Turning the configuration layer's words into the user interface's and back, by the pair tables.
 #include "frame/trace.h"
 
 #include <cstring>
@@ -27,7 +27,7 @@ const char *convert(const char *text, int direction, const PairRow (&table)[Rows
     return direction == kToUi ? FapiToUi_Str(text, table, Rows) : UiToFapi_Str(text, table, Rows);
 }
 
-// What converts a setting whose absent value has a meaning.
+// What an absent value of a setting stands for.
 struct Absent {
     const char *ui;
     const char *fapi;

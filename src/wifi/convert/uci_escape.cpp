@@ -4,7 +4,8 @@
 
 namespace {
 
-// What a character becomes, or nullptr when it stays. Both quoting forms are escaped, whichever the host uses.
+// What a character becomes, or nullptr when it stays. The quotes of both forms are escaped, whichever the host
+// puts around the text.
 const char *escape(char c) {
     switch (c) {
     case '\\':

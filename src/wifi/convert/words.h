@@ -9,7 +9,7 @@ constexpr bool isSpace(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-// The first character of a text that is no white space, its end at the latest.
+// The first character of a text that is not white space; the terminator when there is none.
 inline char *skipSpace(char *text) {
     while (isSpace(*text)) {
         ++text;
@@ -17,7 +17,7 @@ inline char *skipSpace(char *text) {
     return text;
 }
 
-// The first white space of a text, its end at the latest.
+// The first white space of a text; the terminator when there is none.
 inline char *skipWord(char *text) {
     while (*text && !isSpace(*text)) {
         ++text;
@@ -25,7 +25,7 @@ inline char *skipWord(char *text) {
     return text;
 }
 
-// Cuts the next word out of a text, in place: "" at its end. The cursor moves behind the word.
+// Cuts the next word out of a text, in place: "" at its end. The cursor moves past the word.
 inline const char *nextWord(char *&cursor) {
     char *word = skipSpace(cursor);
     cursor = skipWord(word);

@@ -17,8 +17,8 @@ inline bool hasRoom(const WifiChannelList &list) {
     return list.count < sizeof(list.entries) / sizeof(list.entries[0]);
 }
 
-// Appends the channel of a line of `iw phy PHY show_channel`, if it is one to offer. The line is cut up; the list
-// has room.
+// Appends the channel of a line of `iw phy PHY show_channel` where the rules offer it. The line is cut into words; the
+// list must have room.
 void addChannelLine(char *line, const ChannelRules &rules, WifiChannelList &list);
 
 } // namespace wifi

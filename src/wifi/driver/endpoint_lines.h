@@ -15,7 +15,7 @@ class ChannelFigures {
     // `values` has room for a figure of every line, or is nullptr: then none is stored.
     explicit ChannelFigures(int32_t *values) : values_(values) {}
 
-    // Takes a line; false when it has no figure, or 0: nothing after it counts.
+    // Takes a line; false when its figure is 0 or missing: then the lines after it do not count.
     bool addLine(const char *line);
 
     // Whether a figure was stored.

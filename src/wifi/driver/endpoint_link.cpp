@@ -67,7 +67,7 @@ int ReqEPChannelInfo(const char *ifname, int32_t *values) {
               "cat /proc/net/mtlk/%s/channel | grep -e width: -e primary_channel: | sed 's/[^0-9]*//g' > %s", ifname,
               figures.path);
     File file;
-    // The pattern is that of another query's file: what is traced is fixed.
+    // The pattern of the survey's file: hosts know this trace as it is.
     if (!openOutput(command, file, figures, "/tmp/wlan_wave/%s_scan_by_User.result", __func__)) {
         return 0;
     }

@@ -31,7 +31,7 @@ class File {
     // Reads a line, its newline included, or as much of it as fits; false at the end of the file.
     bool readLine(char (&line)[kLineSize]) { return fgets(line, kLineSize, stream_) != nullptr; }
 
-    // As readLine(), and passes over what does not fit.
+    // As readLine(), and skips the rest of a line that does not fit.
     bool readStartOfLine(char (&line)[kLineSize]);
 
     // Reads at most `size` bytes; fewer at the end of the file only.

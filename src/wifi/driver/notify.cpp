@@ -9,7 +9,7 @@ using namespace wifi;
 
 namespace {
 
-// Commands are cut at these sizes, whatever their quotes.
+// Commands are cut at these sizes, even inside quotes.
 constexpr size_t kLongCommand = 1024;
 constexpr size_t kShortCommand = 256;
 

@@ -52,7 +52,7 @@ void StationParser::addLine(char *line) {
     } else if (beginsWith(parts.description, "Short-term")) {
         addAntenna(number(parts.value));
     } else {
-        station_ = nullptr; // whatever this line is, it goes with the station that it ends
+        station_ = nullptr; // the line that ends a station is not looked at again
     }
 }
 

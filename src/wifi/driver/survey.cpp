@@ -51,13 +51,13 @@ class SurveyReader {
     const char *filter_;
 };
 
-// nullptr also where so many could not be addressed.
+// nullptr when memory is short, also where so many entries could not be addressed.
 SiteSurveyEntry *allocateEntries(size_t count) {
     constexpr size_t kMost = PTRDIFF_MAX / sizeof(SiteSurveyEntry);
     return count <= kMost ? static_cast<SiteSurveyEntry *>(malloc(count * sizeof(SiteSurveyEntry))) : nullptr;
 }
 
-// A call of its own: its block of text and the line count's are never on the stack at the same time.
+// Not inlined: its block of 4 KB and that of the line count would both stand on the caller's stack.
 [[gnu::noinline]] void readLines(File &file, SurveyReader &reader) {
     LineBlocks<kLineSize> blocks(file);
     while (char *line = blocks.next()) {

@@ -35,8 +35,7 @@ struct SurveyLine {
 };
 
 // Cuts a line into columns, in place, as the scan format "%[^\t]\t%[^\t]\t..." of ten columns does: a tab ends a
-// column, white space of any kind and length in front of the next one is passed over, a column that would be empty
-// ends the line.
+// column, all white space after the tab is skipped, and a column that would be empty ends the line.
 SurveyLine splitSurveyLine(char *line);
 
 // Fills an entry from a complete line; texts are cut to 126 characters.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Finding out whether a wanted setting differs from what a table holds.
+// Comparing a wanted setting with what a table holds.
 #include "frame/lookup.h"
 #include "wifi/settings/param_table.h"
 #include "wifi/wifi_trace.h"
@@ -41,7 +41,7 @@ void traceAbsent(const char *function, const Setting &setting) {
               "db don't have paramter", setting.object, setting.parameter, setting.value);
 }
 
-// A row is traced with the value that it has.
+// Shows the value that the row has, not the wanted one.
 void traceRow(const char *function, const WifiParamTable &table, const WifiParamRow &row) {
     traceVola({Unit::WifiUtil, __builtin_LINE(), function}, "\n\n  1.%s  <%d> [%s.%s=>%s]\n\n", function,
               static_cast<int>(&row - table.rows), row.object, row.parameter, row.value);

@@ -6,12 +6,10 @@
 using namespace frame;
 
 int faltocal_create_msg(MsgHeader *header, const char *operation) {
-    constexpr uint32_t kListFlags = 0x1004;
-    constexpr uint32_t kOwner = 32;
     const uint32_t mainOper = mainOperation(operation);
     if (mainOper == 0) {
         return -1;
     }
-    HELP_CREATE_OBJ(header, mainOper, kListFlags, kOwner);
+    HELP_CREATE_OBJ(header, mainOper, CALTOFAL_LIST_GET, CALTOFAL_OWNER_SINGLE);
     return 0;
 }

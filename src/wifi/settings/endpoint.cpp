@@ -40,7 +40,7 @@ void take(ObjectNode &object, EndPoint &endPoint) {
     }
 }
 
-// Names are compared by their beginning: instance 10 stands for instance 1.
+// Names are compared by their beginning: instance 10 counts as instance 1.
 void read(const MsgHeader &answer, EndPoint (&endPoints)[2]) {
     ObjectPath first(Table::EndPoint, 1);
     ObjectPath second(Table::EndPoint, 2);

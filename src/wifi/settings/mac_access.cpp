@@ -14,7 +14,7 @@ using namespace wifi;
 
 namespace {
 
-// The instance number's text behind the table's path and its dot; "" when the name is too short to have one.
+// The instance number's text after the table's path and its dot; "" when the name is too short to have one.
 const char *instanceText(const char *objectName, const char *prefix) {
     const size_t start = strlen(prefix) + 1;
     return strlen(objectName) > start ? objectName + start : "";
@@ -45,7 +45,7 @@ int GetMacAccessList(ObjectNode *objectNode, const char *prefix, MacAccessList *
     char name[256];
     copyText(name, objectNode->name);
     const char *instance = instanceText(name, prefix);
-    const int index = ConvInt(instance);
+    const int index = number(instance);
     traceVola(Unit::WifiUtil, "\n\n>>>>>>>>>> ssid %s:%s:%s.:%d<<<<<<<<<<<<<\n\n", name, instance, prefix, index);
     if (list->count >= 0 && list->count < static_cast<int32_t>(std::size(list->entries))) {
         MacAccessEntry &entry = list->entries[list->count];

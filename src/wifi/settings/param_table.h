@@ -18,7 +18,7 @@ inline std::span<const WifiParamRow> rows(const WifiParamTable &table) {
     return {table.rows, static_cast<size_t>(count > 0 ? count : 0)};
 }
 
-// Appends a row, its texts cut as SetParam() cuts them; false when the table is full or its count is no index.
+// Appends a row, its texts cut as SetParam() cuts them; false when the table is full or its count is negative.
 bool appendRow(WifiParamTable &table, std::string_view object, std::string_view parameter, std::string_view value);
 
 } // namespace wifi

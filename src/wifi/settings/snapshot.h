@@ -29,7 +29,7 @@ struct Setting {
 // Which instance number an object path gets.
 enum class Instance : uint8_t { Own, AccessPoint };
 
-// One object of the request. It asks for the next `count` settings of its snapshot, for all it has when there are none.
+// One object of the request. It asks for the next `count` settings of its snapshot; with 0, for all that it has.
 struct Step {
     char rest[22];
     Table table;
@@ -60,7 +60,7 @@ struct Snapshot {
 extern const Snapshot kSsidSnapshot;
 extern const Snapshot kRadioSnapshot;
 
-// The name of a parameter as the snapshot keeps it; one without data when it does not.
+// A parameter's name as the snapshot holds it; without data when the parameter is not kept.
 std::string_view findKept(const Snapshot &snapshot, const char *name);
 
 // Appends the parameters of an answer that the snapshot keeps; what the table has no room for is lost.

@@ -32,13 +32,13 @@ struct Pair {
 struct Pairs {
     Pair pairs[kTableRows];
 };
-static_assert(sizeof(Pairs) == 51200);
+static_assert(sizeof(Pairs) == 51200); // 200 slots
 
 // Distinct object paths in order of first appearance.
 struct Objects {
     Slot slots[kTableRows];
 };
-static_assert(sizeof(Objects) == 25600);
+static_assert(sizeof(Objects) == 25600); // 100 slots
 
 template <class Scratch>
 using Allocated = std::unique_ptr<Scratch, Free>;
