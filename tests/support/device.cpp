@@ -4,6 +4,7 @@
 #include "device.h"
 
 #include "platform.h"
+#include "replaced.h"
 
 #include <atomic>
 #include <cstdarg>
@@ -13,7 +14,6 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <sys/mman.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -108,8 +108,7 @@ std::string vola(const std::string &unit, int line, const std::string &function)
 }
 
 std::string withoutLines(const std::string &console) {
-    static const std::regex tag("(\\(Zintu[A-Za-z]*:|\\n\\n\\t\\[[A-Za-z_0-9]* : )[0-9]+");
-    return std::regex_replace(console, tag, "$010");
+    return replaced(console, "(\\(Zintu[A-Za-z]*:|\n\n\t\\[[A-Za-z_0-9]* : )[0-9]+", "0");
 }
 
 } // namespace test

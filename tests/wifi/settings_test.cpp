@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "replaced.h"
 #include "wifi/settings/snapshot.h"
 #include "wifi_support.h"
 
-#include <regex>
 #include <span>
 
 using namespace test;
@@ -141,9 +141,7 @@ TEST_F(Settings, Compare) {
                           // A stored value is cut, a wanted one is not.
                           Case{"C", "r", kLong.substr(0, 126), 0, 0, nullptr, nullptr}}) {
         const auto traced = [&](const std::string &function) {
-            return c.row ? tag(function) + "\n\n  " + std::regex_replace(c.row, std::regex("%"), function) + "[" +
-                               c.setting + "]\n\n"
-                         : "";
+            return c.row ? tag(function) + "\n\n  " + replaced(c.row, "%", function) + "[" + c.setting + "]\n\n" : "";
         };
         const auto changes = std::make_unique<WifiParamTable>();
         EXPECT_EQ(0, ComparOrSetParam(current.get(), changes.get(), c.object, c.parameter, c.value.c_str(), c.force));
@@ -196,7 +194,7 @@ TEST_F(Settings, WriteBack) {
         EXPECT_EQ(4U, platform().calls().back().objects[1].subOper);
         expectSent((onlyDb != 0 ? "setValueToDb" : "setValue") + sets, header);
     }
-    const std::string traced = std::regex_replace(takeConsole(), std::regex("\n\n  faltocal_fromDB:[0-9]+ ==> "), "\n");
+    const std::string traced = replaced(takeConsole(), "\n\n  faltocal_fromDB:[0-9]+ ==> ", "\n");
     EXPECT_TRUE(
         traced.starts_with("\nchange object 0:A\n\n\nchange object 1:B\n\n\nchange object 2:C\n\n\n<0> A.p=>1\n\n"
                            "\n<1> A.q=>" +
