@@ -83,7 +83,7 @@ _caltofal_option_values() {
         -g:* | --gateway:*) words=$(_caltofal_gateways "$4") ;;
         *:*"{"*) words=${3#*"{"} && words=${words%"}"*} && words=${words//,/ } ;;
         --code:*) words=$("${@:4}" --help | sed -n 's/^  -[0-9]*  \([a-z-]*\):.*/\1/p') ;;
-        *:DEMO*) words="$(_caltofal_gateways "$4") $(compgen -f -- "$1")" ;;
+        *:GATEWAY*) words="$(_caltofal_gateways "$4") $(compgen -f -- "$1")" ;;
         *:[a-z]*\|*) words=${3//|/ } ;;
         *:DIRECTORY*) _caltofal_files "$1" -d && return ;;
         *:FILE*) _caltofal_files "$1" -f && return ;;
@@ -134,6 +134,12 @@ _caltofal_place() {
             caltofal-sandbox:remove:0 | caltofal-sandbox:diff:[01])
             # shellcheck disable=SC2046
             _caltofal_reply "$current" $(_caltofal_gateways "$program") ;;
+        "caltofal-sandbox:fault clear:0")
+            # shellcheck disable=SC2046
+            _caltofal_reply "$current" $("$program" "${gateway[@]}" fault list 2>/dev/null | cut -d : -f 1) ;;
+        caltofal-sandbox:help:[01])
+            # shellcheck disable=SC2046
+            _caltofal_reply "$current" $(_caltofal_commands "$program" "${given[@]}") ;;
         caltofal-sandbox:import:1) _caltofal_files "$current" -f ;;
         caltofal-sandbox:export:1) _caltofal_objects "$current" "" "" "$program" -g "${given[0]}" ;;
         "caltofal-sandbox:fault add:0")

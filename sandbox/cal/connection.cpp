@@ -23,9 +23,10 @@ Connection::~Connection() {
 }
 
 bool Connection::isCurrent(const std::string &file) const {
+    // What cannot be written may be changed by others behind its back: it is opened anew for each message.
     struct stat status {};
-    return database_ && file == file_ && stat(file.c_str(), &status) == 0 && status.st_dev == device_ &&
-           status.st_ino == inode_;
+    return database_ && database_->isWritable() && file == file_ && stat(file.c_str(), &status) == 0 &&
+           status.st_dev == device_ && status.st_ino == inode_;
 }
 
 Database &Connection::open(const Location &location) {

@@ -33,11 +33,10 @@ bool DatabaseError::noMemory() const {
     return code_ == SQLITE_NOMEM;
 }
 
-Database::Database(const std::string &file, Open how, std::chrono::milliseconds patience) : patience_(patience) {
-    int flags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_READWRITE | (how == Open::New ? SQLITE_OPEN_CREATE : 0);
-    if (how == Open::Unchanging) {
-        flags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
-    }
+Database::Database(const std::string &file, Open how, std::chrono::milliseconds patience)
+    : file_(file), writable_(how == Open::Existing || how == Open::New), patience_(patience) {
+    const int flags = SQLITE_OPEN_NOMUTEX | (writable_ ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY) |
+                      (how == Open::New ? SQLITE_OPEN_CREATE : 0) | (how == Open::Unchanging ? SQLITE_OPEN_URI : 0);
     const std::string name = how == Open::Unchanging ? unchangingUri(file) : file;
     const int result = sqlite3_open_v2(name.c_str(), &handle_, flags, nullptr);
     if (result != SQLITE_OK) {
@@ -71,7 +70,7 @@ int Database::wait(void *self, int attempt) {
 }
 
 void Database::fail(int code) const {
-    throw DatabaseError(code & 0xff, sqlite3_errmsg(handle_));
+    throw DatabaseError(code & 0xff, file_ + ": " + sqlite3_errmsg(handle_));
 }
 
 void Database::execute(const char *sql) {

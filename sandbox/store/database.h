@@ -33,14 +33,18 @@ class DatabaseError : public std::runtime_error {
 // One connection; for one thread at a time.
 class Database {
   public:
-    // Unchanging: a file that nobody can change, on a disk that is mounted for reading.
-    enum class Open { Existing, New, Unchanging };
+    // Reading: without permission to write, beside others that may. Unchanging: the same where nobody is at work, so
+    // that neither locks nor a log are needed; for a moment's use only.
+    enum class Open { Existing, New, Reading, Unchanging };
 
     // Waits up to `patience` for other processes' locks. Throws DatabaseError.
     Database(const std::string &file, Open how, std::chrono::milliseconds patience);
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
     ~Database();
+
+    // Whether it can be changed.
+    bool isWritable() const { return writable_; }
 
     // Runs statements that have no parameters and whose rows do not matter.
     void execute(const char *sql);
@@ -57,6 +61,8 @@ class Database {
     void giveBack(sqlite3_stmt *statement);
 
     sqlite3 *handle_ = nullptr;
+    std::string file_;
+    bool writable_;
     std::chrono::milliseconds patience_;
     std::chrono::steady_clock::time_point waitingSince_;
     std::unordered_multimap<std::string_view, sqlite3_stmt *> idle_; // by their own text

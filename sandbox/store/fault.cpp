@@ -26,6 +26,13 @@ bool countDown(Database &database, const Fault &fault) {
     return true;
 }
 
+void add(FaultVerdict &verdict, const Fault &fault) {
+    verdict.lateMs += fault.lateMs;
+    if (fault.code && !verdict.failing) {
+        verdict.failing = fault;
+    }
+}
+
 } // namespace
 
 int64_t addFault(Database &database, const Fault &fault) {
@@ -66,16 +73,20 @@ FaultVerdict consumeFaults(Database &database, const std::string &operation, con
     if (!Statement(database, "SELECT 1 FROM fault").step()) {
         return verdict;
     }
-    Transaction transaction(database, Transaction::Kind::Write);
+    std::optional<Transaction> transaction;
+    if (database.isWritable()) {
+        transaction.emplace(database, Transaction::Kind::Write);
+    }
     for (const Fault &fault : listFaults(database)) {
-        if (matches(fault, operation, keys) && countDown(database, fault)) {
-            verdict.lateMs += fault.lateMs;
-            if (fault.code && !verdict.failing) {
-                verdict.failing = fault;
-            }
+        const bool hits = matches(fault, operation, keys) &&
+                          (transaction ? countDown(database, fault) : !fault.remaining.has_value());
+        if (hits) {
+            add(verdict, fault);
         }
     }
-    transaction.commit();
+    if (transaction) {
+        transaction->commit();
+    }
     return verdict;
 }
 

@@ -32,7 +32,8 @@ struct FaultVerdict {
     int lateMs = 0;               // of all that hit
 };
 
-// Counts a message against the faults and takes away those that are used up, in a transaction of its own. `keys` are
+// Counts a message against the faults and takes away those that are used up, in a transaction of its own. Who
+// may only read is hit by faults of every request, and counts for none. `keys` are
 // the objects that the message names.
 FaultVerdict consumeFaults(Database &database, const std::string &operation, const std::vector<std::string> &keys);
 

@@ -2,6 +2,7 @@
 #include "store/store.h"
 
 #include "store/schema.h"
+#include "store/store_access.h"
 #include "value/escape.h"
 #include "value/refusal.h"
 
@@ -50,19 +51,9 @@ void makeDirectory(const std::string &directory) {
     if (error) {
         refuse(directory, error.value());
     }
-}
-
-// How to open a store that is there: on a disk that is mounted for reading, SQLite could not keep its log beside it.
-Database::Open howToOpen(const Location &location) {
-    if (access(location.directory.c_str(), W_OK) == 0 || errno != EROFS) {
-        return Database::Open::Existing;
+    if (access(directory.c_str(), W_OK) != 0) {
+        refuse(directory, errno);
     }
-    const std::string log = location.storeFile() + "-wal";
-    struct stat status {};
-    if (stat(log.c_str(), &status) == 0 && status.st_size > 0) {
-        throw Refusal(CALTOFAL_STORE_FAILED, log + " holds changes that can not be taken in on a read-only disk");
-    }
-    return Database::Open::Unchanging;
 }
 
 // Keeps other processes from making or removing gateways in the directory, up to scope end.

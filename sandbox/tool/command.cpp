@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tool/command.h"
 
+#include "exchange/demo.h"
 #include "exchange/gateway.h"
+#include "store/store.h"
 #include "value/path.h"
 
 #include <iostream>
@@ -15,6 +17,10 @@ Location Tool::location(const std::string &name) const {
 
 std::unique_ptr<Database> Tool::open(const std::string &name) const {
     return openGateway(location(name));
+}
+
+bool isGateway(const Location &location) {
+    return storeExists(location) || findDemo(location.name);
 }
 
 std::string keyOfArgument(const std::string &path) {

@@ -37,6 +37,9 @@ void addConsole(Command &root, Tool &tool) {
     command.flag("-m,--messages", options->messages, "The system log instead: the daemons' and libraries' lines");
     command.runs([&tool, options] {
         const Location location = tool.location();
+        if (!isGateway(location)) {
+            throw Failure("there is no gateway " + location.name + " in " + location.directory, kAbsent);
+        }
         const std::string file = options->messages ? box::messagesFile(location) : box::consoleFile(location);
         options->follow ? follow(file) : print(file);
     });

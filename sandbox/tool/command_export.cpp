@@ -19,7 +19,7 @@ struct Options {
 
 // A single argument is a path unless a gateway has that name.
 bool isPath(const std::string &argument) {
-    const bool gateway = isGatewayName(argument) && (findDemo(argument) || storeExists(Location::named(argument)));
+    const bool gateway = isGatewayName(argument) && isGateway(Location::named(argument));
     return argument.find('.') != std::string::npos && !gateway;
 }
 

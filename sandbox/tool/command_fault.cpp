@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/cal_codes.h"
 #include "store/fault.h"
+#include "store/model.h"
 #include "tool/command.h"
 #include "tool/json_rows.h"
 #include "value/path.h"
@@ -106,7 +107,12 @@ void addFaultAdd(Command &group, Tool &tool) {
         if (!options->code.empty() || fault.lateMs == 0) {
             fault.code = codeOf(options->code.empty() ? "store-failed" : options->code);
         }
-        inTransaction(tool, [&](Database &database) { fault.id = addFault(database, fault); });
+        inTransaction(tool, [&](Database &database) {
+            if (!fault.object.empty() && !findObject(database, fault.object)) {
+                throw Failure(options->object + ": no such object", kAbsent);
+            }
+            fault.id = addFault(database, fault);
+        });
         printFault(fault);
     });
 }

@@ -2,8 +2,12 @@
 #include "exchange/demo.h"
 #include "exchange/file_format.h"
 #include "exchange/gateway.h"
+#include "exchange/gateway_export.h"
 #include "exchange/gateway_file.h"
+#include "store/store.h"
 #include "tool/command.h"
+
+#include <filesystem>
 
 namespace sandbox {
 namespace {
@@ -15,9 +19,31 @@ struct Options {
     std::string from;
 };
 
-Entries sourceEntries(const std::string &from) {
+// What a gateway has now, stored and running.
+Entries entriesOf(const Location &gateway) {
+    const std::unique_ptr<Database> database = openGateway(gateway);
+    const Transaction transaction(*database, Transaction::Kind::Read);
+    return exportEntries(*database, "", View::Both);
+}
+
+Entries demoEntries(const Demo &demo) {
+    return readGatewayFile(demo.text, std::string(demo.name) + ".tr181");
+}
+
+// Without `from` the demo of the gateway's own name, else the usual one: as they come, whatever became of them.
+Entries entriesFor(const std::string &name, const std::string &from) {
+    if (from.empty()) {
+        const Demo *demo = findDemo(name);
+        return demoEntries(demo ? *demo : *findDemo(kUsualDemo));
+    }
+    if (isGatewayName(from) && storeExists(Location::named(from))) {
+        return entriesOf(Location::named(from));
+    }
     if (const Demo *demo = findDemo(from)) {
-        return readGatewayFile(demo->text, from + ".tr181");
+        return demoEntries(*demo);
+    }
+    if (from != "-" && !std::filesystem::exists(from)) {
+        throw Failure(from + " is neither a gateway nor a file", kAbsent);
     }
     return readEntries(formatOf("", from), readWhole(from), from);
 }
@@ -28,15 +54,16 @@ void addNew(Command &root, Tool &tool) {
     auto options = makeOptions<Options>();
     Command command = root.add("new", "Make a gateway");
     command.word("NAME", options->name, R"(Its name: letters, digits, ".", "_" and "-")", Need::Required);
-    command.option("--from", options->from, "DEMO|FILE",
-                   "A demo or a file; without it, the demo of that name, else home");
-    command.footer("Examples:\n  caltofal-sandbox new lab --from dhcp\n  caltofal-sandbox new lab --from lab.tr181");
+    command.option("--from", options->from, "GATEWAY|FILE",
+                   "A gateway as it is now, a demo or a file; without it, the demo of that name, else home");
+    command.footer("Examples:\n  caltofal-sandbox new lab --from dhcp\n  caltofal-sandbox new copy --from lab\n"
+                   "  caltofal-sandbox new lab --from lab.tr181");
     command.runs([&tool, options] {
         const Location location = tool.location(options->name);
         const std::string from = !options->from.empty()    ? options->from
                                  : findDemo(options->name) ? options->name
                                                            : kUsualDemo;
-        if (!createGateway(location, sourceEntries(from), from)) {
+        if (!createGateway(location, entriesFor(options->name, options->from), from)) {
             throw Failure("there is a gateway " + location.name + " already");
         }
         say("made gateway " + location.name + " of " + from);

@@ -103,7 +103,7 @@ TEST_F(ToolTest, NamesFileAndLineOfAMistake) {
 TEST_F(ToolTest, ImportsTables) {
     write("hosts.csv",
           "value,path,access\r\nnine,Device.Net.Host.9.Name,\r\n\"say \"\"hi\"\"\",Device.Info.Motto,rw\r\n");
-    EXPECT_EQ(run("import lab {}/hosts.csv").code, 0);
+    EXPECT_EQ(run("import lab {}/hosts.csv").errors, "lab: took in 2 entries\n");
     EXPECT_EQ(valueOf("Device.Net.Host.9", "Name"), "nine");
     EXPECT_EQ(valueOf("Device.Net.Host.9", "Level"), "0");
     EXPECT_EQ(setOne("Device.Info", {{"Motto", valueOf("Device.Info", "Motto") + "!"}}), 0);
@@ -127,7 +127,7 @@ TEST_F(ToolTest, ShowsDifferencesAndBoots) {
     EXPECT_EQ(run("boot").out, changes);
     EXPECT_EQ(run("diff lab").code, 0);
 
-    EXPECT_EQ(run("new other --from lab.nothing").code, 1);
+    EXPECT_EQ(run("new other --from lab.nothing").code, 10);
     EXPECT_EQ(run("export lab | " SANDBOX_TOOL " import other -").code, 0);
     setOne("Device.Info", {{"Name", "x"}});
     cal_setValue(&Message::set()->with("Device.Net.Host.10.Address", kAdd, {{"IP", "::1"}}).header);
@@ -147,6 +147,15 @@ TEST_F(ToolTest, KeepsGateways) {
     EXPECT_NE(run("list --json").out.find("\"name\": \"lab\",\n    \"exists\": true,\n    \"demo\": false"),
               std::string::npos);
     EXPECT_NE(run("-g bench export Device.Hosts.Host.1 | grep -c Address").out, "0\n");
+    setOne("Device.Info", {{"Name", "changed"}});
+    EXPECT_EQ(run("new copy --from lab").code, 0);
+    EXPECT_EQ(run("diff lab copy").out, "");
+    EXPECT_EQ(run("new more --from nosuch").errors, "caltofal-sandbox: nosuch is neither a gateway nor a file\n");
+    EXPECT_EQ(run("console -g nosuch").code, 10);
+    EXPECT_EQ(run("-g nosuch fault add any").code, 10);
+    EXPECT_EQ(run("fault add Device.Nope.").code, 10);
+    EXPECT_EQ(run("fault list").out, "");
+    EXPECT_EQ(run("list").out.find("nosuch"), std::string::npos);
     EXPECT_EQ(run("remove bench").code, 0);
     EXPECT_EQ(run("remove bench").code, 10);
     EXPECT_EQ(run("export bench").code, 10);
