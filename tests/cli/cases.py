@@ -8,7 +8,7 @@ PAGES = {
         "multiwan", "iptv", "host 192.168.1.13", "host 00:00:5e:00:53:20", "lower-layers Device.IP.Interface.3",
         "lower-layers Device.IP.Interface.3 --walk", "wan --if-name", "wan --ethernet", "lan --ipv6",
         "gateway --mode-section ADSL_ATM", "address 192.168.1.1", "address fe80::1", "address 02:00:5E:10:00:01",
-        "find Device.X_LANTIQ_COM_NwHardware.WANConnection ConnMode ETH UciSection",
+        "hosts", "find Device.X_LANTIQ_COM_NwHardware.WANConnection ConnMode ETH UciSection",
         "get Device.WiFi.Radio.1 Channel Enable Device.IP.Interface.3 Name",
         "get Device.WiFi.Radio.1.Channel", "get Device.WiFi.Radio.1 Channel --defaults",
         "get Device.Ethernet.Interface.1 --leaf",

@@ -107,6 +107,7 @@ class Changes(unittest.TestCase):
 
     def test_a_change_killed_in_the_middle_is_whole_or_not_there(self):
         pair = ("Device.WiFi.SSID.1.SSID", "Device.WiFi.SSID.2.SSID")
+        self.server.patch("/objects", {f"Device.WiFi.SSID.{number}.": {"SSID": "before"} for number in (1, 2)})
         for number in range(8):
             with Server(folder=self.server.folder, words=True) as server:
                 connection = server.connect()

@@ -75,7 +75,7 @@ class Resources(unittest.TestCase):
                     self.assertEqual((answer.status, answer.json["error"]["exit"]), (503, 77), resource)
 
     def test_the_index_is_what_there_is(self):
-        with Server() as server:
+        with Server(words=True) as server:
             index = server.get("").json
             named = {"/api/v1" + resource.split("?")[0].rsplit("/", resource.count("/") > 1)[0]
                      for resource in (*PLAIN, *IN_THE_BOX)}
@@ -88,7 +88,7 @@ class Resources(unittest.TestCase):
                     self.assertEqual(status == 405, method not in methods, (method, path))
 
     def test_a_missing_gateway_is_said(self):
-        with Server(CALTOFAL_SANDBOX_DIR="/nonsense") as server:
+        with Server(gateway="nosuch") as server:
             answer = server.get("/wan")
             self.assertEqual((answer.status, answer.json["error"]["exit"]), (503, 4), answer.body)
 

@@ -4,6 +4,8 @@
 import sys
 import unittest
 
+sys.dont_write_bytecode = True
+
 # pylint: disable=wildcard-import,unused-wildcard-import,unused-import
 import changes
 import jobs

@@ -31,6 +31,7 @@ std::string notEmpty(const std::string &value) {
 void addCommonOptions(CLI::App &app, Options &options) {
     app.add_flag("--json", options.json, "Print JSON, errors too");
     app.add_flag("--trace", options.trace, "Show what the library prints, and its requests, on standard error");
+    app.add_flag("--show-secrets", options.secrets, "Show pass phrases, passwords and keys");
     app.add_option("-g,--gateway", options.gateway, "The sandbox's gateway to talk to")
         ->type_name("NAME")
         ->check(notEmpty);

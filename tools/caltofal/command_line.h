@@ -11,7 +11,8 @@ namespace cli {
 struct Options {
     bool json = false;
     bool trace = false;
-    std::string gateway; // "": the environment's, else the sandbox's own choice
+    bool secrets = false; // are shown
+    std::string gateway;  // "": the environment's, else the sandbox's own choice
 };
 
 struct Task {

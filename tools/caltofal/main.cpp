@@ -9,6 +9,7 @@
 #include "caltofal/trace.h"
 #include "pages/layer/request_log.h"
 #include "pages/process/streams.h"
+#include "pages/secret.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -74,6 +75,7 @@ void runCommand(int argc, char **argv) {
     }
     arrangeTrace(options);
     const pages::StreamCapture capture;
+    const pages::ShowSecrets secrets(options.secrets);
     const pages::Report report = answerOf(task);
     collectConsole();
     print(report, options.json);

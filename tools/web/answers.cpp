@@ -129,6 +129,7 @@ constexpr Row kRows[] = {
     {web::Subject::Lan, show<pages::wholeLan>},
     {web::Subject::MultiWan, show<pages::multiWan>},
     {web::Subject::Iptv, show<pages::iptv>},
+    {web::Subject::Hosts, show<pages::hosts>},
     {web::Subject::Mesh, showMesh, changeMesh},
     {web::Subject::Objects, showObjects, changeObjects},
     {web::Subject::WifiRadios, show<pages::wifi::radios>},

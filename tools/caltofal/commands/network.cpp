@@ -85,6 +85,7 @@ const Command kCommands[] = {
      {{"--ipv4", Take::Flag, "Only IPv4"}, {"--ipv6", Take::Flag, "Only IPv6"}}},
     {"multiwan", "Fail-over and load balancing between two WANs", "", just<multiWan>},
     {"iptv", "Whether an IPTV set-top box port is bridged", "", just<iptv>},
+    {"hosts", "The clients of the LAN", "", just<hosts>},
     {"host",
      "Find a host of the LAN by its address",
      "00:00:5e:00:53:10\n192.168.1.10",

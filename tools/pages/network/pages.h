@@ -26,6 +26,8 @@ Page wholeLan();
 Page multiWan();
 Page iptv();
 
+Report hosts(); // all of the LAN
+
 // By MAC or IPv4 address. Throws Usage for what is neither.
 Page host(const std::string &address);
 

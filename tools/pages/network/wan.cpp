@@ -6,6 +6,7 @@
 #include "pages/layer/call.h"
 #include "pages/layer/left_messages.h"
 #include "pages/network/current.h"
+#include "pages/secret.h"
 
 namespace pages {
 namespace {
@@ -43,7 +44,7 @@ Page sectionsOf(const ZintuWanInfo &info) {
              {"interface", "Interface", text(info.sPppInterface)},
              {"static_address", "Static address", text(info.sPppStaticAddress)},
              {"username", "User name", text(info.sUsername)},
-             {"password", "Password", text(info.sPassword)},
+             {"password", "Password", shownValue("Password", text(info.sPassword))},
              {"connection_trigger", "Connection trigger", text(info.sConnectionTrigger)},
              {"idle_disconnect_time_s", "Idle disconnect time", number(info.nIdleDisconnectTime), "s"},
              {"max_mru_bytes", "Maximum receive unit", number(info.nMaxMRUSize), "bytes"},

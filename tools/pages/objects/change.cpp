@@ -3,7 +3,7 @@
 
 #include "pages/checked.h"
 #include "pages/failure.h"
-#include "pages/text.h"
+#include "pages/secret.h"
 
 namespace pages::objects {
 namespace {
@@ -13,7 +13,7 @@ Value listOf(const std::vector<Object> &objects) {
     for (const Object &object : objects) {
         Value entry = Value::object({{"object", object.name}});
         for (const Parameter &parameter : object.parameters) {
-            entry["parameters"][parameter.name] = typed(parameter.name, parameter.value);
+            entry["parameters"][parameter.name] = shownValue(parameter.name, parameter.value);
         }
         list.push(entry);
     }

@@ -5,6 +5,7 @@
 #include "pages/checked.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
+#include "pages/secret.h"
 
 namespace pages::objects {
 namespace {
@@ -24,7 +25,7 @@ Report find(const Search &search) {
                search.wanted});
     return pageOf({
         {"object", "Object", text(object)},
-        {"value", search.wanted, typed(search.wanted, text(value))},
+        {"value", search.wanted, shownValue(search.wanted, text(value))},
     });
 }
 

@@ -2,6 +2,7 @@
 #include "pages/objects/pages.h"
 
 #include "pages/failure.h"
+#include "pages/secret.h"
 #include "pages/text.h"
 
 #include <algorithm>
@@ -143,10 +144,11 @@ Report read(const Query &query) {
             result.table.rows.push_back({{withDot(object.name)}, {}});
         }
         for (const Parameter &parameter : object.parameters) {
-            parameters[parameter.name] = typed(parameter.name, parameter.value);
-            result.table.rows.push_back({{withDot(object.name) + parameter.name}, {parameter.value}});
+            parameters[parameter.name] = shownValue(parameter.name, parameter.value);
+            result.table.rows.push_back(
+                {{withDot(object.name) + parameter.name}, {shownText(parameter.name, parameter.value)}});
             if (query.valuesOnly) {
-                result.raw += parameter.value + "\n";
+                result.raw += shownText(parameter.name, parameter.value) + "\n";
             }
         }
     }

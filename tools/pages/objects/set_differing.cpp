@@ -4,29 +4,22 @@
 
 #include "pages/checked.h"
 #include "pages/failure.h"
+#include "pages/secret.h"
 #include "pages/text.h"
-
-#include <algorithm>
 
 namespace pages::objects {
 namespace {
 
-const Object &objectNamed(const std::vector<Object> &answer, const std::string &name) {
-    const auto found = std::find_if(answer.begin(), answer.end(),
-                                    [&](const Object &object) { return withoutDot(object.name) == withoutDot(name); });
-    if (found == answer.end()) {
-        throw Failure(Category::Absent, name + ": no such object", name);
-    }
-    return *found;
-}
-
-const std::string &valueNow(const Object &object, const std::string &parameter) {
-    for (const Parameter &candidate : object.parameters) {
-        if (candidate.name == parameter) {
-            return candidate.value;
+// The layer refuses an object that is not there, and leaves out a parameter that is not.
+const std::string &valueNow(const std::vector<Object> &answer, const std::string &object, const std::string &name) {
+    for (const Object &candidate : answer) {
+        for (const Parameter &parameter : candidate.parameters) {
+            if (parameter.name == name && withoutDot(candidate.name) == withoutDot(object)) {
+                return parameter.value;
+            }
         }
     }
-    throw Failure(Category::Absent, object.name + "." + parameter + ": no such parameter", object.name);
+    throw Failure(Category::Absent, std::string(withoutDot(object)) + "." + name + ": no such parameter", object);
 }
 
 // What the gateway holds of the parameters.
@@ -48,10 +41,10 @@ Report setDiffering(const std::vector<Object> &wanted, bool dryRun, bool storeOn
     Report result;
     result.json["changes"] = Value::list();
     for (const Object &object : wanted) {
-        const Object &held = objectNamed(now, object.name);
         Object differing{object.name};
         for (const Parameter &parameter : object.parameters) {
-            const std::string &from = valueNow(held, parameter.name);
+            refuseHidden(parameter.name, parameter.value);
+            const std::string &from = valueNow(now, object.name, parameter.name);
             const std::string to = spelledLike(typed(parameter.name, from), parameter.value);
             if (from == to && !storeOnly) {
                 continue;
@@ -59,8 +52,8 @@ Report setDiffering(const std::vector<Object> &wanted, bool dryRun, bool storeOn
             differing.parameters.push_back({parameter.name, to});
             result.json["changes"].push(Value::object({{"object", withoutDot(object.name)},
                                                        {"parameter", parameter.name},
-                                                       {"from", typed(parameter.name, from)},
-                                                       {"to", typed(parameter.name, to)}}));
+                                                       {"from", shownValue(parameter.name, from)},
+                                                       {"to", shownValue(parameter.name, to)}}));
         }
         if (!differing.parameters.empty()) {
             changes.push_back(differing);

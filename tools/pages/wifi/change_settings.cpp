@@ -5,6 +5,7 @@
 #include "pages/failure.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
+#include "pages/secret.h"
 #include "pages/wifi/interface.h"
 #include "pages/wifi/settings.h"
 
@@ -64,6 +65,7 @@ Settings requested(const SettingsChange &change, const WifiParamTable &current) 
     auto table = std::make_unique<WifiParamTable>();
     for (const Parameter &parameter : change.wanted) {
         const WifiParamRow &row = rowNamed(current, parameter.name);
+        refuseHidden(text(row.parameter), parameter.value);
         if (std::any_of(rows(*table).begin(), rows(*table).end(),
                         [&](const WifiParamRow &one) { return text(one.parameter) == text(row.parameter); })) {
             throw Usage(text(row.parameter) + " is given twice");
@@ -100,7 +102,7 @@ void noteReadBack(WifiParamTable &now, const WifiParamTable &changes, std::vecto
     for (const WifiParamRow &row : rows(changes)) {
         if (CheckGetParam(&now, row.object, row.parameter, row.value) != 0) {
             notes.push_back(text(row.object) + "." + text(row.parameter) + " does not read back as \"" +
-                            text(row.value) + "\"");
+                            shownText(text(row.parameter), text(row.value)) + "\"");
         }
     }
 }
@@ -110,9 +112,14 @@ void addChanges(Report &result, const WifiParamTable &current, const WifiParamTa
         const std::string name = text(row.parameter);
         const std::string from = text(rowNamed(current, name).value);
         const std::string to = text(row.value);
-        result.json["changes"].push(Value::object(
-            {{"object", text(row.object)}, {"parameter", name}, {"from", typed(name, from)}, {"to", typed(name, to)}}));
-        result.table.rows.push_back({{text(row.object) + "." + name}, {readable(from)}, {"->"}, {readable(to)}});
+        result.json["changes"].push(Value::object({{"object", text(row.object)},
+                                                   {"parameter", name},
+                                                   {"from", shownValue(name, from)},
+                                                   {"to", shownValue(name, to)}}));
+        result.table.rows.push_back({{text(row.object) + "." + name},
+                                     {readable(shownText(name, from))},
+                                     {"->"},
+                                     {readable(shownText(name, to))}});
     }
 }
 

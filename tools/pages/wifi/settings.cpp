@@ -5,6 +5,7 @@
 #include "pages/failure.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
+#include "pages/secret.h"
 #include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
 
@@ -120,11 +121,12 @@ Report settings(Subject subject, int instance) {
         const std::string name = text(row.parameter);
         const std::string value = text(row.value);
         const std::string ui = uiWord(name, value);
-        result.json["settings"][object][name] = typed(name, value);
-        if (ui != value) {
+        result.json["settings"][object][name] = shownValue(name, value);
+        if (ui != value) { // never a secret
             result.json["user_interface"][object][name] = ui;
         }
-        result.table.rows.push_back({{lastPart(object) + "." + name}, {readable(value)}, {ui == value ? "" : ui}});
+        result.table.rows.push_back(
+            {{lastPart(object) + "." + name}, {readable(shownText(name, value))}, {ui == value ? "" : ui}});
     }
     return result;
 }

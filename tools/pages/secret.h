@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// Pass phrases, passwords and keys: shown only where they were asked for.
+#pragma once
+
+#include "pages/value.h"
+
+#include <string>
+#include <string_view>
+
+namespace pages {
+
+// What stands in place of a secret.
+constexpr std::string_view kHidden = "(hidden)";
+
+// Whether a parameter of that name holds one.
+bool isSecret(std::string_view parameter);
+
+// While it lives, the pages of its thread show secrets.
+class ShowSecrets {
+  public:
+    explicit ShowSecrets(bool show = true);
+    ShowSecrets(const ShowSecrets &) = delete;
+    ShowSecrets &operator=(const ShowSecrets &) = delete;
+    ~ShowSecrets();
+
+  private:
+    bool before_;
+};
+
+// A parameter's value as a page shows it: kHidden for a secret that is not empty.
+std::string shownText(std::string_view parameter, std::string_view value);
+
+// The same with the type that it looks like: typed() of text.h.
+Value shownValue(std::string_view parameter, std::string_view value);
+
+// Throws Usage for a secret that is to become kHidden: somebody writes back what was shown.
+void refuseHidden(std::string_view parameter, std::string_view value);
+
+} // namespace pages
