@@ -10,33 +10,33 @@ namespace sandbox {
 namespace {
 
 // Instances that come and go; what is below them goes without saying.
-void addObjectChanges(Database &database, std::vector<Change> &changes) {
+void addObjectDifferences(Database &database, std::vector<Difference> &differences) {
     Statement objects(database, "SELECT o.key, o.presence FROM object o LEFT JOIN object h ON h.id = o.parent "
                                 "WHERE o.presence <> 3 AND coalesce(h.presence, 3) = 3 ORDER BY o.key");
     while (objects.step()) {
         const bool added = objects.integer(1) == kStored;
-        changes.push_back(
-            {added ? Change::Kind::Added : Change::Kind::Removed, pathOf(objects.text(0)), std::nullopt, std::nullopt});
+        differences.push_back({added ? Difference::Kind::Added : Difference::Kind::Removed, pathOf(objects.text(0)),
+                               std::nullopt, std::nullopt});
     }
 }
 
-void addValueChanges(Database &database, std::vector<Change> &changes) {
+void addValueDifferences(Database &database, std::vector<Difference> &differences) {
     Statement values(database, "SELECT o.key, p.name, p.running, p.pending FROM parameter p CROSS JOIN object o "
                                "WHERE p.pending IS NOT NULL AND o.id = p.object AND o.presence = 3 "
                                "ORDER BY o.key, p.position");
     while (values.step()) {
-        changes.push_back({Change::Kind::Changed, pathOf(values.text(0)) + "." + std::string(values.text(1)),
-                           std::string(values.text(2)), std::string(values.text(3))});
+        differences.push_back({Difference::Kind::Changed, pathOf(values.text(0)) + "." + std::string(values.text(1)),
+                               std::string(values.text(2)), std::string(values.text(3))});
     }
 }
 
 } // namespace
 
-std::vector<Change> pendingChanges(Database &database) {
-    std::vector<Change> changes;
-    addObjectChanges(database, changes);
-    addValueChanges(database, changes);
-    return changes;
+std::vector<Difference> pendingDifferences(Database &database) {
+    std::vector<Difference> differences;
+    addObjectDifferences(database, differences);
+    addValueDifferences(database, differences);
+    return differences;
 }
 
 void boot(Database &database) {

@@ -10,7 +10,7 @@
 namespace sandbox {
 
 // One thing that differs between two models.
-struct Change {
+struct Difference {
     enum class Kind { Added, Removed, Changed };
 
     Kind kind;
@@ -19,7 +19,7 @@ struct Change {
 };
 
 // What a boot would change: the stored model against the running one.
-std::vector<Change> pendingChanges(Database &database);
+std::vector<Difference> pendingDifferences(Database &database);
 
 // Makes the running model follow the stored one, within the caller's write transaction.
 void boot(Database &database);

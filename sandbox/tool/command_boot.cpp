@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/boot.h"
 
-#include "tool/changes.h"
 #include "tool/command.h"
+#include "tool/differences.h"
 
 #include <iostream>
 
@@ -16,10 +16,10 @@ void addBoot(Command &root, Tool &tool) {
     command.runs([&tool, name] {
         const std::unique_ptr<Database> database = tool.open(*name);
         Transaction transaction(*database, Transaction::Kind::Write);
-        const std::vector<Change> changes = pendingChanges(*database);
+        const std::vector<Difference> differences = pendingDifferences(*database);
         boot(*database);
         transaction.commit();
-        printChanges(changes, std::cout);
+        printDifferences(differences, std::cout);
     });
 }
 

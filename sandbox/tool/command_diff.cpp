@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/gateway_export.h"
-#include "tool/changes.h"
 #include "tool/command.h"
+#include "tool/differences.h"
 #include "value/path.h"
 
 #include <iostream>
@@ -34,32 +34,32 @@ Shape runningShape(Database &database) {
     return shape;
 }
 
-std::vector<Change> compare(const Shape &first, const Shape &second) {
-    std::vector<Change> changes;
+std::vector<Difference> compare(const Shape &first, const Shape &second) {
+    std::vector<Difference> differences;
     auto before = first.begin();
     auto after = second.begin();
     while (before != first.end() || after != second.end()) {
         if (after == second.end() || (before != first.end() && before->first < after->first)) {
-            changes.push_back({Change::Kind::Removed, before->second.path, before->second.value, std::nullopt});
+            differences.push_back({Difference::Kind::Removed, before->second.path, before->second.value, std::nullopt});
             ++before;
         } else if (before == first.end() || after->first < before->first) {
-            changes.push_back({Change::Kind::Added, after->second.path, std::nullopt, after->second.value});
+            differences.push_back({Difference::Kind::Added, after->second.path, std::nullopt, after->second.value});
             ++after;
         } else {
             if (!(before->second == after->second)) {
-                changes.push_back(
-                    {Change::Kind::Changed, before->second.path, before->second.value, after->second.value});
+                differences.push_back(
+                    {Difference::Kind::Changed, before->second.path, before->second.value, after->second.value});
             }
             ++before;
             ++after;
         }
     }
-    return changes;
+    return differences;
 }
 
-std::vector<Change> pending(Database &database) {
+std::vector<Difference> pending(Database &database) {
     const Transaction transaction(database, Transaction::Kind::Read);
-    return pendingChanges(database);
+    return pendingDifferences(database);
 }
 
 struct Options {
@@ -79,11 +79,11 @@ void addDiff(Command &root, Tool &tool) {
         "Examples:\n  caltofal-sandbox diff home lab\n  caltofal-sandbox diff home     what a boot would change");
     command.runs([&tool, options] {
         const std::unique_ptr<Database> first = tool.open(options->first);
-        const std::vector<Change> changes =
+        const std::vector<Difference> differences =
             options->second.empty() ? pending(*first)
                                     : compare(runningShape(*first), runningShape(*tool.open(options->second)));
-        printChanges(changes, std::cout);
-        tool.exitCode = changes.empty() ? kDone : kFailed;
+        printDifferences(differences, std::cout);
+        tool.exitCode = differences.empty() ? kDone : kFailed;
     });
 }
 

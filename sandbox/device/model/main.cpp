@@ -2,7 +2,7 @@
 //
 // caltofal-device-model: what the device's programs, most of them shell scripts, ask of the gateway's model. It works
 // on the store itself, so that faults ordered for the configuration layer do not hit the device's own programs.
-#include "device/model/change.h"
+#include "device/model/update.h"
 #include "device/model/channel_plan.h"
 #include "device/model/driver.h"
 #include "device/model/neighbours.h"

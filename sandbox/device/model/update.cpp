@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "device/model/change.h"
+#include "device/model/update.h"
 
 #include "device/model/rows.h"
 #include "store/model.h"
