@@ -67,7 +67,7 @@ void writeFiles(const fs::path &directory, const std::vector<Interface> &interfa
 class View {
   public:
     View(sandbox::Location location, fs::path directory)
-        : location_(std::move(location)), directory_(std::move(directory)), neighbours_(readNeighbours()) {
+        : location_(std::move(location)), directory_(std::move(directory)) {
         open();
     }
 
@@ -81,7 +81,7 @@ class View {
         const int64_t version = dataVersion();
         if (version != version_) {
             const sandbox::Transaction transaction(*database_, sandbox::Transaction::Kind::Read);
-            writeFiles(directory_, readInterfaces(*database_), neighbours_);
+            writeFiles(directory_, readInterfaces(*database_), readSurroundings(*database_).networks);
             version_ = version;
         }
     }
@@ -94,7 +94,6 @@ class View {
 
     sandbox::Location location_;
     fs::path directory_;
-    std::vector<Neighbour> neighbours_;
     std::unique_ptr<Database> database_;
     int64_t version_ = -1;
 };

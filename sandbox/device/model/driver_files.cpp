@@ -11,7 +11,6 @@ namespace {
 
 constexpr int kAntennas = 4; // that the driver reports
 constexpr int kAbsent = -128;
-constexpr int kUsualNoise = -95; // dBm
 
 // How the antennas differ from the station's signal. The mean of a radio's antennas is the signal itself.
 constexpr int kOffsets24GHz[] = {1, -1};

@@ -2,12 +2,12 @@
 //
 // caltofal-device-model: what the device's programs, most of them shell scripts, ask of the gateway's model. It works
 // on the store itself, so that faults ordered for the configuration layer do not hit the device's own programs.
-#include "device/model/update.h"
 #include "device/model/channel_plan.h"
 #include "device/model/driver.h"
 #include "device/model/neighbours.h"
 #include "device/model/notification.h"
 #include "device/model/rows.h"
+#include "device/model/update.h"
 #include "device/model/wifi.h"
 #include "exchange/gateway.h"
 
@@ -45,10 +45,17 @@ void assign(const char *variable, int number) {
     std::cout << variable << '=' << number << '\n';
 }
 
-// The interface and its number in `interfaces`, from 1; NULL when there is none of that name.
+// The interface of that name; NULL when there is none.
 const Interface *findInterface(const std::vector<Interface> &interfaces, const std::string &name) {
     const auto found =
         std::find_if(interfaces.begin(), interfaces.end(), [&](const Interface &one) { return one.name == name; });
+    return found == interfaces.end() ? nullptr : &*found;
+}
+
+// The first interface of a wireless device such as "phy2"; NULL when there is none.
+const Interface *findPhy(const std::vector<Interface> &interfaces, const std::string &name) {
+    const auto found = std::find_if(interfaces.begin(), interfaces.end(),
+                                    [&](const Interface &one) { return "phy" + std::to_string(one.phy) == name; });
     return found == interfaces.end() ? nullptr : &*found;
 }
 
@@ -88,6 +95,7 @@ int interface(Arguments arguments) {
         return kFailed;
     }
     assign("index", static_cast<int>(one - interfaces.data()) + 1);
+    assign("phy", one->phy);
     assign("type", one->uplink ? "managed" : "AP");
     assign("ssid", one->ssid);
     assign("bssid", one->bssid);
@@ -104,6 +112,7 @@ int channels(Arguments arguments) {
     const auto database = openGateway();
     const std::vector<Interface> interfaces = readInterfaces(*database);
     const Interface *one = findInterface(interfaces, arguments[0]);
+    one = one == nullptr ? findPhy(interfaces, arguments[0]) : one;
     if (one == nullptr) {
         return kFailed;
     }
@@ -119,11 +128,16 @@ int survey(Arguments arguments) {
     if (one == nullptr || !one->radio.enabled) {
         return kFailed;
     }
-    for (const Neighbour &neighbour : within(readNeighbours(), *one, interfaces)) {
+    for (const Neighbour &neighbour : within(readSurroundings(*database).networks, *one, interfaces)) {
         if (wanted.empty() || neighbour.ssid == wanted) {
             std::cout << neighbour.line << '\n';
         }
     }
+    return kDone;
+}
+
+int origin(Arguments /*none*/) {
+    std::cout << nameOf(readSurroundings(*openGateway()).origin) << '\n';
     return kDone;
 }
 
@@ -164,8 +178,9 @@ constexpr Command kCommands[] = {
     {"set", "PARAMETER VALUE", 2, 2, set, "set a parameter as the device itself does, read-only or not"},
     {"join", "ACCESSPOINT MAC", 2, 2, join, "associate a station until the next boot"},
     {"interface", "NAME", 1, 1, interface, "a wireless interface's figures, as assignments of a shell"},
-    {"channels", "INTERFACE", 1, 1, channels, "the channels that its radio may use"},
+    {"channels", "INTERFACE|PHY", 1, 1, channels, "the channels that its radio may use"},
     {"survey", "INTERFACE SSID", 2, 2, survey, "the networks that it hears; \"\" for all"},
+    {"origin", "", 0, 0, origin, "where these networks are known from: file, gateway or made-up"},
     {"notification", "JSON", 1, 1, notification, "a request to the service daemon, as assignments of a shell"},
     {"driver", "DIRECTORY", 1, 1, driver, "write the wireless driver's files, and stay to keep them true"},
 };

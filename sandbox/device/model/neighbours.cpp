@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "device/model/neighbours.h"
 
+#include "device/model/diagnostic_results.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -40,16 +42,7 @@ Neighbour neighbourOf(const std::string &line) {
             line.substr(columns[kBand].size() + 1)};
 }
 
-} // namespace
-
-std::vector<Neighbour> readNeighbours() {
-    std::ifstream file(kOwnFile);
-    if (!file) {
-        file.open(kFile);
-    }
-    if (!file) {
-        throw std::runtime_error(std::string(kFile) + " can not be read");
-    }
+std::vector<Neighbour> readList(std::ifstream &file) {
     std::vector<Neighbour> neighbours;
     for (std::string line; std::getline(file, line);) {
         if (!line.empty() && line.front() != '#') {
@@ -57,6 +50,34 @@ std::vector<Neighbour> readNeighbours() {
         }
     }
     return neighbours;
+}
+
+} // namespace
+
+const char *nameOf(Origin origin) {
+    switch (origin) {
+    case Origin::File:
+        return "file";
+    case Origin::Gateway:
+        return "gateway";
+    case Origin::MadeUp:
+        break;
+    }
+    return "made-up";
+}
+
+Surroundings readSurroundings(sandbox::Database &database) {
+    if (std::ifstream own(kOwnFile); own) {
+        return {Origin::File, readList(own)};
+    }
+    if (std::vector<Neighbour> results = diagnosticResults(database); !results.empty()) {
+        return {Origin::Gateway, std::move(results)};
+    }
+    std::ifstream file(kFile);
+    if (!file) {
+        throw std::runtime_error(std::string(kFile) + " cannot be read");
+    }
+    return {Origin::MadeUp, readList(file)};
 }
 
 std::vector<Neighbour> within(const std::vector<Neighbour> &neighbours, const Interface &interface,

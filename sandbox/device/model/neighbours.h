@@ -17,10 +17,25 @@ struct Neighbour {
     std::string line; // ten columns, as a survey's result has them, without a newline
 };
 
-// The gateway's own list where it has one, else the one that comes with the box. A line has the band and then the ten
-// columns of a survey's result, separated by tabs; lines that begin with '#' are comments. Throws std::runtime_error
-// for a file that can not be read or a line with too few columns.
-std::vector<Neighbour> readNeighbours();
+// Where the networks are known from.
+enum class Origin {
+    File,    // a list that was put beside the gateway
+    Gateway, // its Device.WiFi.NeighboringWiFiDiagnostic.Result.
+    MadeUp,  // the list that comes with the box
+};
+
+struct Surroundings {
+    Origin origin = Origin::MadeUp;
+    std::vector<Neighbour> networks;
+};
+
+// "file", "gateway" or "made-up".
+const char *nameOf(Origin origin);
+
+// The first of the three origins that there is. A line of a list has the band and then the ten columns of a survey's
+// result, separated by tabs; lines that begin with '#' are comments. Throws std::runtime_error for a list that cannot
+// be read or a line with another number of columns.
+Surroundings readSurroundings(sandbox::Database &database);
 
 // What an interface hears: the networks of its band but for those of `interfaces`, the gateway's own.
 std::vector<Neighbour> within(const std::vector<Neighbour> &neighbours, const Interface &interface,

@@ -8,6 +8,7 @@
 #include "caltofal.h"
 
 #include <charconv>
+#include <strings.h>
 
 namespace device {
 
@@ -15,6 +16,11 @@ const std::string &Row::text(std::string_view name) const {
     static const std::string none;
     const auto found = values.find(name);
     return found == values.end() ? none : found->second;
+}
+
+bool Row::flag(std::string_view name, bool absent) const {
+    const std::string &word = text(name);
+    return has(name) ? word == "1" || strcasecmp(word.c_str(), "true") == 0 : absent;
 }
 
 int Row::number(std::string_view name) const {

@@ -17,7 +17,9 @@ struct Row {
 
     // "" when there is no such parameter.
     [[nodiscard]] const std::string &text(std::string_view name) const;
-    [[nodiscard]] bool flag(std::string_view name) const { return text(name) == "true"; }
+    [[nodiscard]] bool has(std::string_view name) const { return values.contains(name); }
+    // A flag, which gateways write as true, True or 1; `absent` where there is no such parameter.
+    [[nodiscard]] bool flag(std::string_view name, bool absent = false) const;
     // 0 for what is no number.
     [[nodiscard]] int number(std::string_view name) const;
 };

@@ -2,6 +2,7 @@
 #include "device/model/wifi.h"
 
 #include "device/model/rows.h"
+#include "device/model/words.h"
 
 #include <algorithm>
 #include <cctype>
@@ -12,23 +13,6 @@ namespace {
 
 using Rows = std::vector<Row>;
 
-std::vector<std::string> commaSeparated(const std::string &text) {
-    std::vector<std::string> parts;
-    for (size_t start = 0; start < text.size();) {
-        const size_t end = std::min(text.find(',', start), text.size());
-        parts.push_back(text.substr(start, end - start));
-        start = end + 1;
-    }
-    return parts;
-}
-
-// The leading number of a text; 0 when there is none.
-int leadingNumber(const std::string &text) {
-    int value = 0;
-    std::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
-}
-
 int widthOf(const Row &radio, bool wide) {
     if (const int fixed = leadingNumber(radio.text("OperatingChannelBandwidth")); fixed > 0) {
         return fixed;
@@ -36,12 +20,22 @@ int widthOf(const Row &radio, bool wide) {
     return wide ? 80 : 20; // what "Auto" settles for
 }
 
+// The device's own names say their number; others' are counted by their radios.
+int phyOf(const std::string &interface, const Radio &radio) {
+    constexpr std::string_view kOwn = "wlan";
+    int number = 0;
+    const char *const end = interface.data() + interface.size();
+    const bool own =
+        interface.starts_with(kOwn) && std::from_chars(interface.data() + kOwn.size(), end, number).ec == std::errc();
+    return own ? number : radio.place;
+}
+
 Radio radioOf(const Row &row) {
     Radio radio;
     radio.path = row.path;
-    radio.enabled = row.flag("Enable");
-    radio.band = row.text("OperatingFrequencyBand");
+    radio.enabled = row.flag("Enable", true);
     radio.channel = row.number("Channel");
+    radio.band = bandOf(row.text("OperatingFrequencyBand"), radio.channel);
     radio.width = widthOf(row, radio.band == "5GHz");
     radio.widths = commaSeparated(row.text("SupportedOperatingChannelBandwidths"));
     for (const std::string &channel : commaSeparated(row.text("PossibleChannels"))) {
@@ -67,8 +61,9 @@ const Row *findReferring(const Rows &rows, const std::string &ssidPath) {
 std::vector<Station> stationsOf(sandbox::Database &database, const Row &accessPoint) {
     std::vector<Station> stations;
     for (const Row &row : rowsOf(database, accessPoint.path + "AssociatedDevice.")) {
-        if (row.flag("Active") && !row.text("MACAddress").empty()) {
-            stations.push_back({row.text("MACAddress"), row.number("SignalStrength"), row.number("Noise")});
+        if (row.flag("Active", true) && !row.text("MACAddress").empty()) {
+            const int noise = row.has("Noise") ? row.number("Noise") : kUsualNoise;
+            stations.push_back({row.text("MACAddress"), row.number("SignalStrength"), noise});
         }
     }
     return stations;
@@ -77,7 +72,7 @@ std::vector<Station> stationsOf(sandbox::Database &database, const Row &accessPo
 // The profile that the end point refers to, else its first one.
 Uplink uplinkOf(sandbox::Database &database, const Row &endPoint) {
     Uplink uplink;
-    uplink.enabled = endPoint.flag("Enable");
+    uplink.enabled = endPoint.flag("Enable", true);
     std::string profile = endPoint.text("ProfileReference");
     if (profile.empty()) {
         profile = endPoint.path + "Profile.";
@@ -103,6 +98,7 @@ std::vector<Radio> readRadios(sandbox::Database &database) {
     std::vector<Radio> radios;
     for (const Row &row : rowsOf(database, "Device.WiFi.Radio.")) {
         radios.push_back(radioOf(row));
+        radios.back().place = static_cast<int>(radios.size()) - 1;
     }
     return radios;
 }
@@ -119,14 +115,17 @@ std::vector<Interface> readInterfaces(sandbox::Database &database) {
         if (!isInterfaceName(row.text("Name")) || radio == radios.end()) {
             continue;
         }
-        Interface interface {
-            row.text("Name"), row.text("SSID"), row.text("BSSID"), *radio, false, {}, {}
-        };
+        Interface interface;
+        interface.name = row.text("Name");
+        interface.phy = phyOf(interface.name, *radio);
+        interface.ssid = row.text("SSID");
+        interface.bssid = row.text("BSSID");
+        interface.radio = *radio;
         if (const Row *endPoint = findReferring(endPoints, row.path)) {
             interface.uplink = uplinkOf(database, *endPoint);
             interface.up = radio->enabled && interface.uplink->enabled;
         } else if (const Row *accessPoint = findReferring(accessPoints, row.path)) {
-            interface.up = radio->enabled && row.flag("Enable") && accessPoint->flag("Enable");
+            interface.up = radio->enabled && row.flag("Enable", true) && accessPoint->flag("Enable", true);
             interface.stations = interface.up ? stationsOf(database, *accessPoint) : std::vector<Station>();
         }
         interfaces.push_back(std::move(interface));

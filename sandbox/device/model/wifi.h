@@ -11,8 +11,11 @@
 
 namespace device {
 
+constexpr int kUsualNoise = -95; // dBm, where nothing is said
+
 struct Radio {
     std::string path; // of its object, with a final dot
+    int place = 0;    // among the gateway's radios, from 0
     bool enabled = false;
     std::string band; // "2.4GHz" or "5GHz"
     int channel = 0;
@@ -35,7 +38,8 @@ struct Uplink {
 };
 
 struct Interface {
-    std::string name; // such as "wlan0"
+    std::string name; // as Device.WiFi.SSID says, such as "wlan0"
+    int phy = 0;      // the number of its wireless device: of wlan2 and wlan2.1 it is 2, else that of the radio
     std::string ssid, bssid;
     Radio radio;
     bool up = false;

@@ -13,7 +13,7 @@ device_model() {
 # A wireless interface's figures as variables. 1 when there is no such interface.
 load_interface() {
     figures=$(device_model interface "$1") || return
-    index='' type='' ssid='' bssid='' up='' radio_on='' band='' channel='' frequency='' width=''
+    index='' phy='' type='' ssid='' bssid='' up='' radio_on='' band='' channel='' frequency='' width=''
     eval "$figures"
 }
 

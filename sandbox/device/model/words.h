@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+//
+// How the model writes what the device's tools want: lists, numbers, bands.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace device {
+
+// The parts of a list, without blanks around them.
+std::vector<std::string> commaSeparated(const std::string &text);
+
+// The leading number of a text; 0 when there is none.
+int leadingNumber(const std::string &text);
+
+// "2.4GHz", "5GHz" or "6GHz": as the gateway says, or by the channel where it does not.
+std::string bandOf(const std::string &said, int channel);
+
+} // namespace device
