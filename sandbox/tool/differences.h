@@ -7,8 +7,8 @@
 
 namespace sandbox {
 
-// One line a difference: `+ PATH = "value"`, `- PATH = "value"`, or `~ PATH: "before" -> "after"`; an object that comes or
-// goes has no value.
+// One line a difference: `+ PATH = "value"`, `- PATH = "value"`, or `~ PATH: "before" -> "after"`; an object that comes
+// or goes has no value.
 void printDifferences(const std::vector<Difference> &differences, std::ostream &out);
 
 } // namespace sandbox
