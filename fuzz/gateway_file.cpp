@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The importers of gateways: whatever they take, they write and read back alike.
+// The importers of gateways and of dumps: whatever they take, they write and read back alike.
 #include "exchange/gateway_file.h"
 #include "bytes.h"
-#include "exchange/csv_file.h"
-#include "exchange/json_file.h"
-#include "value/entry.h"
+#include "exchange/file_format.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -26,12 +24,10 @@ std::string written(const Entries &entries) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     fuzz::Bytes bytes(data, size);
-    const uint8_t format = bytes.byte() % 3;
-    const std::string text = bytes.rest();
+    constexpr FileFormat kFormats[] = {FileFormat::Gateway, FileFormat::Csv, FileFormat::Json};
+    const FileFormat format = kFormats[bytes.byte() % std::size(kFormats)];
     try {
-        const Entries entries = format == 0   ? readGatewayFile(text, "fuzz")
-                                : format == 1 ? readCsv(text, "fuzz")
-                                              : readJson(text, "fuzz");
+        const Entries entries = contentOf(bytes.rest(), "fuzz", format).entries;
         const std::string once = written(entries);
         if (written(readGatewayFile(once, "written")) != once) {
             fprintf(stderr, "what was written reads back otherwise:\n%s", once.c_str());

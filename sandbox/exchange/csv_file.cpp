@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/csv_file.h"
 
+#include "exchange/csv_records.h"
+#include "exchange/dump/words.h"
+#include "exchange/gateway_file.h"
 #include "value/escape.h"
 
 #include <algorithm>
@@ -9,94 +12,14 @@
 namespace sandbox {
 namespace {
 
-// An empty field says nothing; one in quotes says "".
-using Field = std::optional<std::string>;
-using Record = std::vector<Field>;
-
-// Takes records off the text, counting lines.
-class CsvReader {
-  public:
-    CsvReader(std::string_view text, const std::string &file) : rest_(text), file_(file) {}
-
-    bool next(Record &record) {
-        while (rest_.starts_with('\n') || rest_.starts_with("\r\n")) {
-            endLine();
-        }
-        line_ = nextLine_;
-        record.clear();
-        if (rest_.empty()) {
-            return false;
-        }
-        do {
-            record.push_back(rest_.starts_with('"') ? Field(quotedField()) : plainField());
-        } while (takeComma());
-        return true;
-    }
-
-    size_t line() const { return line_; }
-
-    [[noreturn]] void refuse(const std::string &message) const { throw FileError(file_, line_, message); }
-
-  private:
-    Field plainField() {
-        const size_t end = std::min(rest_.find_first_of(",\n"), rest_.size());
-        std::string field(rest_.substr(0, end));
-        rest_.remove_prefix(end);
-        if (field.ends_with('\r') && !rest_.starts_with(',')) {
-            field.pop_back();
-        }
-        return field.empty() ? Field() : field;
-    }
-
-    std::string quotedField() {
-        std::string field;
-        rest_.remove_prefix(1);
-        for (;;) {
-            const size_t quote = rest_.find('"');
-            if (quote == std::string_view::npos) {
-                refuse("a quoted field does not end");
-            }
-            field += rest_.substr(0, quote);
-            rest_.remove_prefix(quote + 1);
-            if (!rest_.starts_with('"')) {
-                nextLine_ += static_cast<size_t>(std::count(field.begin(), field.end(), '\n'));
-                return field;
-            }
-            field += '"';
-            rest_.remove_prefix(1);
-        }
-    }
-
-    // Whether another field follows; otherwise the line is ended.
-    bool takeComma() {
-        if (rest_.starts_with(',')) {
-            rest_.remove_prefix(1);
-            return true;
-        }
-        if (!rest_.empty() && !rest_.starts_with('\n') && !rest_.starts_with("\r\n")) {
-            refuse("expected a comma behind a quoted field");
-        }
-        endLine();
-        return false;
-    }
-
-    void endLine() {
-        rest_.remove_prefix(rest_.starts_with('\r') ? 1 : 0);
-        rest_.remove_prefix(rest_.empty() ? 0 : 1);
-        ++nextLine_;
-    }
-
-    std::string_view rest_;
-    const std::string &file_;
-    size_t line_ = 1;
-    size_t nextLine_ = 1;
-};
+// Records that are looked at to tell whose file it is.
+constexpr size_t kLooked = 50;
 
 // A column: how its field goes into an entry and comes out of it. The path comes first.
 struct Column {
     std::string_view name;
     void (*read)(Entry &entry, const std::string &field);
-    Field (*write)(const Entry &entry);
+    CsvField (*write)(const Entry &entry);
 };
 
 void readAccess(Entry &entry, const std::string &field) {
@@ -106,31 +29,53 @@ void readAccess(Entry &entry, const std::string &field) {
     entry.writable = field == "rw";
 }
 
-Field accessOf(const Entry &entry) {
-    return entry.writable ? Field(*entry.writable ? "rw" : "ro") : Field();
+CsvField accessOf(const Entry &entry) {
+    return entry.writable ? CsvField(*entry.writable ? "rw" : "ro") : CsvField();
+}
+
+// Annotations that only objects have.
+void readObject(Entry &entry, const std::string &field) {
+    const Entry object = gatewayEntry(entry.path + " [" + field + "]");
+    entry.last = object.last;
+    entry.presence = object.presence;
+}
+
+CsvField objectOf(const Entry &entry) {
+    Entry object;
+    object.last = entry.last;
+    object.presence = entry.presence;
+    const std::string text = gatewayAnnotations(object);
+    return text.empty() ? CsvField() : text;
 }
 
 constexpr Column kColumns[] = {
-    {"path", nullptr, [](const Entry &entry) { return Field(entry.fullPath()); }},
+    {"path", nullptr, [](const Entry &entry) { return CsvField(entry.fullPath()); }},
     {"value", [](Entry &entry, const std::string &field) { entry.value = field; },
      [](const Entry &entry) { return entry.value; }},
     {"type", [](Entry &entry, const std::string &field) { entry.type = ValueType::parse(field); },
-     [](const Entry &entry) { return entry.type ? Field(entry.type->text()) : Field(); }},
+     [](const Entry &entry) { return entry.type ? CsvField(entry.type->text()) : CsvField(); }},
     {"access", readAccess, accessOf},
     {"default", [](Entry &entry, const std::string &field) { entry.fallback = field; },
      [](const Entry &entry) { return entry.fallback; }},
     {"running", [](Entry &entry, const std::string &field) { entry.running = field; },
      [](const Entry &entry) { return entry.running; }},
+    {"object", readObject, objectOf},
 };
 
-std::vector<const Column *> readHeader(const Record &names, const CsvReader &reader) {
+const Column *findColumn(const CsvField &heading) {
+    const std::string name = heading.value_or("");
+    const auto *column =
+        std::find_if(std::begin(kColumns), std::end(kColumns), [&name](const Column &row) { return row.name == name; });
+    return column == std::end(kColumns) ? nullptr : column;
+}
+
+std::vector<const Column *> readHeader(const CsvRecord &names, const CsvReader &reader) {
     std::vector<const Column *> columns;
-    for (const Field &field : names) {
-        const std::string name = field.value_or("");
-        const auto *column = std::find_if(std::begin(kColumns), std::end(kColumns),
-                                          [&name](const Column &row) { return row.name == name; });
-        if (column == std::end(kColumns) || std::find(columns.begin(), columns.end(), column) != columns.end()) {
-            reader.refuse(quotedShort(name) + " is no column: path, value, type, access, default, running");
+    for (const CsvField &field : names) {
+        const Column *column = findColumn(field);
+        if (!column || std::find(columns.begin(), columns.end(), column) != columns.end()) {
+            reader.refuse(quotedShort(field.value_or("")) +
+                          " is no column: path, value, type, access, default, running, object");
         }
         columns.push_back(column);
     }
@@ -143,7 +88,7 @@ std::vector<const Column *> readHeader(const Record &names, const CsvReader &rea
 }
 
 // A parameter's value may be empty without being in quotes.
-Entry entryOfRecord(const Record &record, const std::vector<const Column *> &columns) {
+Entry entryOfRecord(const CsvRecord &record, const std::vector<const Column *> &columns) {
     const auto path = static_cast<size_t>(std::find(columns.begin(), columns.end(), kColumns) - columns.begin());
     Entry entry = entryOf(record[path].value_or(""));
     for (size_t i = 0; i < columns.size(); ++i) {
@@ -161,25 +106,32 @@ Entry entryOfRecord(const Record &record, const std::vector<const Column *> &col
     return entry;
 }
 
-std::string fieldText(const Field &field) {
-    if (!field) {
-        return "";
-    }
-    if (!field->empty() && field->find_first_of(",\"\r\n") == std::string::npos) {
-        return *field;
-    }
-    std::string out = "\"";
-    for (const char c : *field) {
-        out += c == '"' ? "\"\"" : std::string(1, c);
-    }
-    return out + '"';
-}
-
 } // namespace
+
+bool isOwnCsv(std::string_view text) {
+    const std::string file;
+    CsvReader reader(text, file, {',', true});
+    CsvRecord names;
+    if (!reader.next(names) || !std::all_of(names.begin(), names.end(), findColumn)) {
+        return false;
+    }
+    // Other programs may have the same headings, but words of their own below.
+    CsvRecord record;
+    for (size_t i = 0; i < kLooked && reader.next(record); ++i) {
+        for (size_t column = 0; column < std::min(names.size(), record.size()); ++column) {
+            const std::string word = record[column].value_or("");
+            if ((names[column] == "type" && plainWord(word).starts_with("xs")) ||
+                (names[column] == "access" && word != "ro" && word != "rw" && writableOfWord(word))) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
 
 Entries readCsv(std::string_view text, const std::string &file) {
     CsvReader reader(text, file);
-    Record record;
+    CsvRecord record;
     if (!reader.next(record)) {
         reader.refuse("the file is empty: it needs a header");
     }
@@ -210,7 +162,7 @@ void writeCsv(const Entries &entries, std::ostream &out) {
     for (const Entry &entry : entries) {
         separator = "";
         for (const Column &column : kColumns) {
-            out << separator << fieldText(column.write(entry));
+            out << separator << csvText(column.write(entry));
             separator = ",";
         }
         out << '\n';

@@ -2,8 +2,12 @@
 #include "exchange/file_format.h"
 
 #include "exchange/csv_file.h"
+#include "exchange/dump/csv.h"
+#include "exchange/dump/entries.h"
+#include "exchange/dump/json.h"
 #include "exchange/gateway_file.h"
 #include "exchange/json_file.h"
+#include "exchange/text_encoding.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -26,13 +30,38 @@ struct FormatRow {
     std::string_view name;
     std::string_view suffix;
     FileFormat format;
-    Entries (*read)(std::string_view text, const std::string &file);
+    FileContent (*read)(std::string_view text, const std::string &file);
     void (*write)(const Entries &entries, std::ostream &out);
 };
+
+// Entries of a dump; one without any is not a gateway's.
+FileContent takenIn(Dump dump, const std::string &file) {
+    FileContent content;
+    content.entries = entriesOf(dump);
+    if (content.entries.empty()) {
+        throw FileError(file, "no objects or values of a data model found in it");
+    }
+    content.report = std::move(dump.report);
+    return content;
+}
+
+FileContent readAnyGatewayFile(std::string_view text, const std::string &file) {
+    return {readGatewayFile(text, file), std::nullopt};
+}
+
+FileContent readAnyCsv(std::string_view text, const std::string &file) {
+    return isCsvDump(text) ? takenIn(readCsvDump(text, file), file) : FileContent{readCsv(text, file), std::nullopt};
+}
+
+FileContent readAnyJson(std::string_view text, const std::string &file) {
+    const std::vector<JsonNode> values = parseJson(text, file);
+    return isOwnJson(values) ? FileContent{readJson(values, file), std::nullopt} : takenIn(readJsonDump(values), file);
+}
+
 constexpr FormatRow kFormats[] = {
-    {"tr181", ".tr181", FileFormat::Gateway, readGatewayFile, writeGatewayFile},
-    {"csv", ".csv", FileFormat::Csv, readCsv, writeCsv},
-    {"json", ".json", FileFormat::Json, readJson, writeJson},
+    {"tr181", ".tr181", FileFormat::Gateway, readAnyGatewayFile, writeGatewayFile},
+    {"csv", ".csv", FileFormat::Csv, readAnyCsv, writeCsv},
+    {"json", ".json", FileFormat::Json, readAnyJson, writeJson},
 };
 
 const FormatRow &rowOf(FileFormat format) {
@@ -40,34 +69,21 @@ const FormatRow &rowOf(FileFormat format) {
                          [format](const FormatRow &row) { return row.format == format; });
 }
 
-} // namespace
-
-const std::vector<std::string> &formatNames() {
-    static const std::vector<std::string> names = [] {
-        std::vector<std::string> result;
-        for (const FormatRow &row : kFormats) {
-            result.emplace_back(row.name);
-        }
-        return result;
-    }();
-    return names;
-}
-
-FileFormat formatOf(const std::string &name, const std::string &file) {
+// By the first character that is not a blank, by a CSV's header, else by the file's name.
+FileFormat recognised(std::string_view text, const std::string &file) {
+    const size_t first = text.find_first_not_of(" \t\r\n");
+    if (first != std::string_view::npos && (text[first] == '{' || text[first] == '[')) {
+        return FileFormat::Json;
+    }
+    if (isOwnCsv(text) || isCsvDump(text)) {
+        return FileFormat::Csv;
+    }
     for (const FormatRow &row : kFormats) {
-        if (name.empty() ? file.ends_with(row.suffix) : name == row.name) {
+        if (file.ends_with(row.suffix)) {
             return row.format;
         }
     }
     return FileFormat::Gateway;
-}
-
-Entries readEntries(FileFormat format, std::string_view text, const std::string &file) {
-    return rowOf(format).read(text, file);
-}
-
-void writeEntries(FileFormat format, const Entries &entries, std::ostream &out) {
-    rowOf(format).write(entries, out);
 }
 
 std::string readWhole(const std::string &file) {
@@ -84,6 +100,41 @@ std::string readWhole(const std::string &file) {
         throw FileError(file, std::strerror(errno));
     }
     return text;
+}
+
+} // namespace
+
+const std::vector<std::string> &formatNames() {
+    static const std::vector<std::string> names = [] {
+        std::vector<std::string> result;
+        for (const FormatRow &row : kFormats) {
+            result.emplace_back(row.name);
+        }
+        return result;
+    }();
+    return names;
+}
+
+FileFormat formatOf(const std::string &name) {
+    for (const FormatRow &row : kFormats) {
+        if (name == row.name) {
+            return row.format;
+        }
+    }
+    throw std::invalid_argument(name + " is not a format");
+}
+
+FileContent readContent(const std::string &file, std::optional<FileFormat> format) {
+    return contentOf(readWhole(file), file, format);
+}
+
+FileContent contentOf(std::string bytes, const std::string &file, std::optional<FileFormat> format) {
+    const std::string text = plainText(std::move(bytes));
+    return rowOf(format ? *format : recognised(text, file)).read(text, file);
+}
+
+void writeEntries(FileFormat format, const Entries &entries, std::ostream &out) {
+    rowOf(format).write(entries, out);
 }
 
 } // namespace sandbox

@@ -3,11 +3,12 @@
 // The formats in which gateways are read and written.
 #pragma once
 
+#include "exchange/import_report.h"
 #include "value/entry.h"
 
 #include <iosfwd>
+#include <optional>
 #include <string>
-#include <string_view>
 
 namespace sandbox {
 
@@ -15,14 +16,22 @@ enum class FileFormat { Gateway, Csv, Json };
 
 // The names that --format takes.
 const std::vector<std::string> &formatNames();
-// By its name; "" goes by the file name's ending.
-FileFormat formatOf(const std::string &name, const std::string &file);
+// Throws std::invalid_argument.
+FileFormat formatOf(const std::string &name);
 
-// Throws FileError. `file` is the name used in messages.
-Entries readEntries(FileFormat format, std::string_view text, const std::string &file);
+// What a file says. One that was written by this project is taken strictly, a dump of another program as it is: then
+// there is a report, which the import goes on with.
+struct FileContent {
+    Entries entries;
+    std::optional<ImportReport> report;
+};
+
+// Reads a file, or standard input for "-", by what it contains, or in the format asked for. Throws FileError.
+FileContent readContent(const std::string &file, std::optional<FileFormat> format = std::nullopt);
+
+// The same of a file's bytes. `file` is the name used in messages.
+FileContent contentOf(std::string bytes, const std::string &file, std::optional<FileFormat> format = std::nullopt);
+
 void writeEntries(FileFormat format, const Entries &entries, std::ostream &out);
-
-// A file's whole content; "-" is standard input. Throws a Failure.
-std::string readWhole(const std::string &file);
 
 } // namespace sandbox

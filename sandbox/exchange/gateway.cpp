@@ -18,8 +18,8 @@ std::unique_ptr<Database> openGateway(const Location &location) {
     return openStore(location);
 }
 
-bool createGateway(const Location &location, const Entries &entries, const std::string &file) {
-    return createStore(location, [&](Database &database) { importEntries(database, entries, file); });
+bool createGateway(const Location &location, const Entries &entries, const std::string &file, ImportReport *report) {
+    return createStore(location, [&](Database &database) { importEntries(database, entries, file, report); });
 }
 
 } // namespace sandbox

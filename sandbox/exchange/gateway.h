@@ -3,6 +3,7 @@
 // Gateways by name: made of entries, and the demo gateways made on first use.
 #pragma once
 
+#include "exchange/import_report.h"
 #include "store/database.h"
 #include "store/location.h"
 #include "value/entry.h"
@@ -17,7 +18,8 @@ namespace sandbox {
 std::unique_ptr<Database> openGateway(const Location &location);
 
 // Makes a gateway of a file's entries. It appears whole or not at all. False when it exists already, be it that
-// another process made it in the meantime. Throws FileError for a bad entry.
-bool createGateway(const Location &location, const Entries &entries, const std::string &file);
+// another process made it in the meantime. Throws FileError for a bad entry; with a report as importEntries() does.
+bool createGateway(const Location &location, const Entries &entries, const std::string &file,
+                   ImportReport *report = nullptr);
 
 } // namespace sandbox

@@ -31,11 +31,12 @@ class Export {
     Entries run() {
         addTemplates();
         const std::string end = key_.empty() ? "\xff" : keyEnd(key_);
-        Statement objects(database_,
-                          "SELECT o.id, o.key, o.kind, o.presence, o.last, coalesce(h.presence, 3) FROM object o "
-                          "LEFT JOIN object h ON h.id = o.parent WHERE o.key >= ?1 AND o.key < ?2 "
-                          "AND o.presence & ?3 ORDER BY o.key",
-                          key_, end, layersOf(view_));
+        Statement objects(
+            database_,
+            "SELECT o.id, o.key, o.kind, o.presence, o.last, coalesce(h.presence, 3), o.writable FROM object o "
+            "LEFT JOIN object h ON h.id = o.parent WHERE o.key >= ?1 AND o.key < ?2 "
+            "AND o.presence & ?3 ORDER BY o.key",
+            key_, end, layersOf(view_));
         while (objects.step()) {
             addObject(objects);
         }
@@ -74,10 +75,13 @@ class Export {
         const bool bare = !hasParameters(id) && lastChild.empty() && (matches.empty() || kind == ObjectKind::Instance);
         const bool branchEdge = presence != row.integer(5) && view_ == View::Both;
         const bool table = kind == ObjectKind::Table && (last > implied || bare);
-        if (bare || branchEdge || table) {
+        const bool writable = row.integer(6) != 0;
+        const bool unusual = kind == ObjectKind::Table && writable != usuallyWritable(matches);
+        if (bare || branchEdge || table || unusual) {
             Entry &entry = add(Entry::Kind::Object, path);
             entry.presence = branchEdge ? std::optional(presence) : std::nullopt;
             entry.last = table ? std::optional(last) : std::nullopt;
+            entry.writable = unusual ? std::optional(writable) : std::nullopt;
         }
         addParameters(id, path, presence, matches);
     }
@@ -103,6 +107,16 @@ class Export {
                 entry.running = parameters.text(2);
             }
         }
+    }
+
+    // Whether a new table would let instances be added and deleted.
+    static bool usuallyWritable(const std::vector<TemplateMatch> &matches) {
+        bool writable = false;
+        for (const TemplateMatch &match : matches) {
+            const bool own = match.remainder.size() == 1 && match.remainder.front() == kAnyInstance;
+            writable = own ? match.object->writable : writable;
+        }
+        return writable;
     }
 
     // What a new object would get; 0 when no template declares the parameter.

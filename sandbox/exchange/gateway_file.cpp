@@ -105,6 +105,9 @@ class LineReader {
         } else if (!rest_.empty()) {
             refuse("expected \" = \" before " + quotedShort(rest_));
         }
+        if (entry_.kind == Entry::Kind::Object && table_) {
+            entry_.writable = entry_.writable.value_or(false);
+        }
         judge();
         return std::move(entry_);
     }
@@ -168,11 +171,11 @@ class LineReader {
         if (entry_.value && entry_.kind != Entry::Kind::Parameter) {
             refuse("only a parameter of an existing object has a value");
         }
-        const bool table = entry_.path.ends_with("{i}.") && !parameter;
-        if (table_ && !table) {
-            refuse(R"("table" belongs to a path that ends in "{i}.")");
+        const bool tablePattern = entry_.path.ends_with("{i}.") && !parameter;
+        if (table_ && !tablePattern && entry_.kind != Entry::Kind::Object) {
+            refuse(R"("table" belongs to a table's path, or to one that ends in "{i}.")");
         }
-        const bool forParameters = entry_.type || entry_.fallback || (entry_.writable && !table);
+        const bool forParameters = entry_.type || entry_.fallback || (entry_.writable && !tablePattern && !table_);
         const bool forObjects = entry_.presence || entry_.last;
         if ((forParameters && !parameter) || (forObjects && (parameter || pattern)) ||
             (entry_.running && !entry_.value)) {
@@ -191,9 +194,11 @@ void append(std::string &annotations, const std::string &annotation) {
     annotations += annotation;
 }
 
-std::string annotationsOf(const Entry &entry) {
+} // namespace
+
+std::string gatewayAnnotations(const Entry &entry) {
     std::string text;
-    if (entry.kind == Entry::Kind::TemplateObject && entry.writable) {
+    if (entry.name.empty() && entry.writable) {
         append(text, "table");
     }
     if (entry.type) {
@@ -217,7 +222,9 @@ std::string annotationsOf(const Entry &entry) {
     return text;
 }
 
-} // namespace
+Entry gatewayEntry(std::string_view line) {
+    return LineReader(line).read();
+}
 
 Entries readGatewayFile(std::string_view text, const std::string &file) {
     Entries entries;
@@ -231,7 +238,7 @@ Entries readGatewayFile(std::string_view text, const std::string &file) {
             continue;
         }
         try {
-            entries.push_back(LineReader(line).read());
+            entries.push_back(gatewayEntry(line));
             entries.back().line = number;
         } catch (const std::invalid_argument &error) {
             throw FileError(file, number, error.what());
@@ -242,7 +249,7 @@ Entries readGatewayFile(std::string_view text, const std::string &file) {
 
 std::string gatewayLine(const Entry &entry) {
     std::string line = entry.fullPath();
-    if (const std::string annotations = annotationsOf(entry); !annotations.empty()) {
+    if (const std::string annotations = gatewayAnnotations(entry); !annotations.empty()) {
         line += " [" + annotations + "]";
     }
     if (entry.value) {

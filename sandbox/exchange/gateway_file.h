@@ -12,6 +12,12 @@ namespace sandbox {
 // Throws FileError at the first bad line. `file` is the name used in messages.
 Entries readGatewayFile(std::string_view text, const std::string &file);
 
+// What one line says. Throws std::invalid_argument saying what is wrong with it.
+Entry gatewayEntry(std::string_view line);
+
+// What stands in the square brackets; "" for nothing.
+std::string gatewayAnnotations(const Entry &entry);
+
 // The line, without its end, that reads back as the entry.
 std::string gatewayLine(const Entry &entry);
 

@@ -2,7 +2,9 @@
 #include "exchange/gateway_import.h"
 
 #include "store/model.h"
+#include "store/nature.h"
 #include "value/accepted_value.h"
+#include "value/escape.h"
 #include "value/path.h"
 #include "value/refusal.h"
 
@@ -31,15 +33,23 @@ Definition overlaid(Definition definition, const Entry &entry) {
 
 class Import {
   public:
-    Import(Database &database, const std::string &file)
-        : database_(database), file_(file), definitions_(database), model_(database, definitions_, templates_) {}
+    // With a report, what does not fit is taken as text.
+    Import(Database &database, const std::string &file, ImportReport *report)
+        : database_(database), file_(file), report_(report), definitions_(database),
+          model_(database, definitions_, templates_) {}
 
     void run(const Entries &entries) {
-        refuseDuplicates(entries);
+        if (!report_) {
+            refuseDuplicates(entries);
+        }
         each(entries, &Import::declare);
         templates_ = Templates(database_, "");
         each(entries, &Import::applyTemplate);
         each(entries, &Import::takeIn);
+        if (report_) {
+            each(entries, &Import::compareCounter);
+            report_->nature = natureOf(database_);
+        }
     }
 
   private:
@@ -98,45 +108,104 @@ class Import {
         if (isTemplate(entry)) {
             return;
         }
-        const std::string key = *keyOf(entry.path);
-        const int64_t object = model_.ensureObject(key, entry.presence.value_or(kEverywhere));
-        if (entry.last) {
-            model_.makeTable(key, *entry.last);
-        }
+        openObject(entry);
         if (entry.kind == Entry::Kind::Parameter) {
-            takeInParameter(entry, key, object);
+            takeInParameter(entry);
+            return;
+        }
+        if (entry.last || entry.writable) {
+            model_.makeTable(key_, entry.last.value_or(0));
+        }
+        if (entry.writable) {
+            model_.setWritable(object_, *entry.writable);
         }
     }
 
-    void takeInParameter(const Entry &entry, const std::string &key, int64_t object) {
-        std::optional<ParameterRow> row = findParameter(database_, object, entry.name);
-        const Definition definition = overlaid(row ? definitions_.get(row->definition) : Definition(), entry);
+    // Parameters of an object usually come in a row.
+    void openObject(const Entry &entry) {
+        if (entry.path != path_ || entry.presence) {
+            path_ = entry.path;
+            key_ = *keyOf(path_);
+            object_ = model_.ensureObject(key_, entry.presence.value_or(kEverywhere));
+        }
+    }
+
+    void takeInParameter(const Entry &entry) {
+        const std::optional<ParameterRow> row = findParameter(database_, object_, entry.name);
+        Definition definition = row ? definitions_.get(row->definition) : Definition();
+        std::string stored;
+        if (report_) {
+            stored = overlayLeniently(definition, entry, row.has_value());
+        } else {
+            definition = overlaid(std::move(definition), entry);
+            const bool kept = isKeptCount(database_, key_, entry.name);
+            stored = kept ? *entry.value : fitting(definition, entry, *entry.value);
+        }
+        const std::string running = entry.running ? fitting(definition, entry, *entry.running) : stored;
         const int64_t id = definitions_.idOf(definition);
         if (!row) {
-            model_.addParameter(key, object, entry.name, id);
-            row = findParameter(database_, object, entry.name);
-        } else if (row->definition != id) {
-            model_.setDefinition(object, *row, id);
+            model_.addParameter(key_, object_, entry.name, id, running, stored);
+            return;
         }
-        if (!isKeptCount(database_, key, entry.name)) {
-            const std::string stored = fitting(definition, entry, *entry.value);
-            const std::string running = entry.running ? fitting(definition, entry, *entry.running) : stored;
-            model_.setValue(object, *row, running, stored);
+        if (row->definition != id) {
+            model_.setDefinition(object_, *row, id);
+        }
+        if (!isKeptCount(database_, key_, entry.name)) {
+            model_.setValue(object_, *row, running, stored);
+        }
+    }
+
+    // The value as it is stored. The gateway's own type holds where the value fits it, then the entry's, then text.
+    std::string overlayLeniently(Definition &definition, const Entry &entry, bool exists) {
+        ++report_->taken;
+        std::string value = *entry.value;
+        if (exists && (value.empty() || definition.type.check(value) == ValueType::Verdict::Valid)) {
+            return value;
+        }
+        if (!exists || !entry.guessed) {
+            definition.type = entry.type.value_or(definition.type);
+            definition.fallback = entry.fallback.value_or("");
+        }
+        definition.writable = exists ? definition.writable : entry.writable.value_or(false);
+        try {
+            return isCountName(entry.name) ? value : fitting(definition, entry, value);
+        } catch (const Refusal &refusal) {
+            report_->count(Reason::Misfit, refusal.what());
+            definition.type = ValueType();
+            definition.fallback.clear();
+            return value;
+        }
+    }
+
+    // A counter that the file's own instances belie can be what somebody looks for.
+    void compareCounter(const Entry &entry) {
+        if (entry.kind != Entry::Kind::Parameter || !isCountName(entry.name)) {
+            return;
+        }
+        openObject(entry);
+        const std::optional<ParameterRow> row = findParameter(database_, object_, entry.name);
+        if (row && !entry.value->empty() && row->running != *entry.value) {
+            report_->count(Reason::CounterDiffers,
+                           entry.fullPath() + ": " + quotedShort(*entry.value) + ", there are " + row->running);
         }
     }
 
     Database &database_;
     const std::string &file_;
+    ImportReport *report_;
     Definitions definitions_;
     Templates templates_;
     Model model_;
     std::string appliedPattern_;
+    // The object that was opened last.
+    std::string path_, key_;
+    int64_t object_ = 0;
 };
 
 } // namespace
 
-void importEntries(Database &database, const Entries &entries, const std::string &file) {
-    Import(database, file).run(entries);
+void importEntries(Database &database, const Entries &entries, const std::string &file, ImportReport *report) {
+    Import(database, file, report).run(entries);
 }
 
 void clearModel(Database &database) {

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/json_file.h"
 
+#include "exchange/gateway_file.h"
 #include "value/escape.h"
+#include "value/path.h"
 #include "value/value_syntax.h"
 
-#include <charconv>
-#include <iterator>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <ostream>
+#include <unordered_map>
 
 namespace sandbox {
 namespace {
@@ -15,158 +17,155 @@ namespace {
 using nlohmann::json;
 
 constexpr const char *kHexKey = "hex";
+constexpr std::string_view kDefinitions = "definitions";
 
-// Walks the text and counts the lines behind it, so that the handler knows where it is.
-class LineCounter {
-  public:
-    using iterator_category = std::input_iterator_tag;
-    using value_type = char;
-    using difference_type = std::ptrdiff_t;
-    using pointer = const char *;
-    using reference = const char &;
-
-    LineCounter(const char *at, size_t *line) : at_(at), line_(line) {}
-    reference operator*() const { return *at_; }
-    LineCounter &operator++() {
-        *line_ += *at_ == '\n' ? 1 : 0;
-        ++at_;
-        return *this;
+std::string valueOf(const JsonNode &node) {
+    const JsonNode *hex = node.children.size() == 1 ? node.member(kHexKey) : nullptr;
+    if (hex && isHexBinary(hex->text)) {
+        return bytesOfHex(hex->text);
     }
-    bool operator==(const LineCounter &other) const { return at_ == other.at_; }
-    bool operator!=(const LineCounter &other) const { return at_ != other.at_; }
-
-  private:
-    const char *at_;
-    size_t *line_;
-};
-
-std::string bytesOf(const std::string &hex) {
-    if (!isHexBinary(hex)) {
-        throw std::invalid_argument(quotedShort(hex) + " is no row of pairs of hexadecimal digits");
+    if (!node.isScalar() || node.kind == JsonNode::Kind::Null) {
+        throw std::invalid_argument("a value is text, a number, a flag or {\"hex\": \"digits\"}");
     }
-    std::string bytes;
-    for (size_t i = 0; i < hex.size(); i += 2) {
-        unsigned byte = 0;
-        std::from_chars(hex.data() + i, hex.data() + i + 2, byte, 16);
-        bytes += static_cast<char>(byte);
-    }
-    return bytes;
+    return node.text;
 }
 
-std::string hexOf(const std::string &bytes) {
-    constexpr const char *kDigits = "0123456789abcdef";
-    std::string hex;
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        hex += kDigits[byte >> 4];
-        hex += kDigits[byte & 15];
-    }
-    return hex;
-}
-
-// Collects the members of the one object.
-class Handler : public nlohmann::json_sax<json> {
+class Reader {
   public:
-    Handler(const std::string &file, const size_t &line) : file_(file), line_(line) {}
+    Reader(const JsonNode &root, const std::string &file) : root_(root), file_(file) {}
 
-    bool null() override { refuse("null is no value"); }
-    bool boolean(bool value) override { return take(value ? "true" : "false"); }
-    bool number_integer(number_integer_t value) override { return take(std::to_string(value)); }
-    bool number_unsigned(number_unsigned_t value) override { return take(std::to_string(value)); }
-    bool number_float(number_float_t /*value*/, const string_t &text) override { return take(text); }
-    bool string(string_t &value) override { return take(value); }
-    bool binary(binary_t & /*value*/) override { refuse("binary is no value"); }
-
-    bool start_object(std::size_t /*elements*/) override {
-        if (depth_ == 2 || (depth_ == 1 && path_.empty())) {
-            refuse("a value is text, a number, a flag or {\"hex\": ...}");
+    Entries run() {
+        const JsonNode &definitions = *root_.member(kDefinitions);
+        for (const auto &[path, annotations] : definitions.children) {
+            guarded(annotations.line, [&, &path = path, &annotations = annotations] { define(path, annotations); });
         }
-        ++depth_;
-        return true;
-    }
-    bool key(string_t &name) override {
-        if (depth_ == 2 && name != kHexKey) {
-            refuse("a value is text, a number, a flag or {\"hex\": ...}");
-        }
-        if (depth_ == 1) {
-            path_ = name;
-            pathLine_ = line_;
-        }
-        return true;
-    }
-    bool end_object() override {
-        --depth_;
-        return true;
-    }
-    bool start_array(std::size_t /*elements*/) override { refuse("an array is no value"); }
-    bool end_array() override { return true; }
-    bool parse_error(std::size_t /*position*/, const std::string & /*token*/, const json::exception &error) override {
-        refuse(error.what());
-    }
-
-    Entries entries;
-
-  private:
-    [[noreturn]] void refuse(const std::string &message) const { throw FileError(file_, line_, message); }
-
-    bool take(const std::string &value) {
-        if (depth_ == 0) {
-            refuse("expected an object, {\"path\": value}");
-        }
-        try {
-            Entry entry = entryOf(path_);
-            if (entry.kind != Entry::Kind::Parameter) {
-                refuse(quotedShort(path_) + " is no parameter");
+        for (const auto &[path, node] : root_.children) {
+            if (path != kDefinitions) {
+                guarded(node.line, [&, &path = path, &node = node] { take(path, node); });
             }
-            entry.value = depth_ == 2 ? bytesOf(value) : value;
-            entry.line = pathLine_;
-            entries.push_back(std::move(entry));
-        } catch (const std::invalid_argument &error) {
-            refuse(error.what());
         }
-        return true;
+        return std::move(entries_);
     }
 
+  private:
+    template <typename Work>
+    void guarded(size_t line, Work work) {
+        try {
+            work();
+        } catch (const std::invalid_argument &error) {
+            throw FileError(file_, line, error.what());
+        }
+    }
+
+    // Those of parameters are read with their values.
+    void define(const std::string &path, const JsonNode &annotations) {
+        const Entry entry = entryOf(path);
+        if (entry.kind == Entry::Kind::Parameter) {
+            annotations_.emplace(path, annotations.text);
+        } else {
+            add(gatewayEntry(path + " [" + annotations.text + "]"), annotations.line);
+        }
+    }
+
+    void take(const std::string &path, const JsonNode &node) {
+        Entry entry = entryOf(path);
+        if (entry.kind == Entry::Kind::Parameter) {
+            const auto found = annotations_.find(path);
+            const std::string annotations = found == annotations_.end() ? "" : " [" + found->second + "]";
+            add(gatewayEntry(path + annotations + " = " + escapeValue(valueOf(node))), node.line);
+        } else if (entry.kind == Entry::Kind::Object && !node.isScalar() && node.children.empty()) {
+            add(std::move(entry), node.line);
+        } else {
+            throw std::invalid_argument(quotedShort(path) + " is no parameter: only {} can stand for an object");
+        }
+    }
+
+    void add(Entry entry, size_t line) {
+        entry.line = line;
+        entries_.push_back(std::move(entry));
+    }
+
+    const JsonNode &root_;
     const std::string &file_;
-    const size_t &line_;
-    size_t pathLine_ = 0;
-    int depth_ = 0;
-    std::string path_;
+    std::unordered_map<std::string, std::string> annotations_; // of parameters
+    Entries entries_;
 };
 
-json valueOf(const Entry &entry) {
-    const std::string &text = *entry.value;
-    if (!isCleanText(text)) {
-        return {{kHexKey, hexOf(text)}};
+class Writer {
+  public:
+    explicit Writer(std::ostream &out) : out_(out) {}
+
+    void run(const Entries &entries) {
+        for (const Entry &entry : entries) {
+            add(entry);
+        }
+        out_ << (any_ ? ",\n" : "{\n") << "  " << json(kDefinitions).dump() << ": {";
+        const char *separator = "\n    ";
+        for (const auto &[path, annotations] : definitions_) {
+            out_ << separator << json(path).dump() << ": " << json(annotations).dump();
+            separator = ",\n    ";
+        }
+        out_ << (definitions_.empty() ? "}\n}\n" : "\n  }\n}\n");
     }
-    const bool flag = entry.type && entry.type->isFlag() && (text == "true" || text == "false");
-    if (flag || (entry.type && entry.type->isNumber() && isDecimal(text))) {
-        json parsed = json::parse(text, nullptr, false);
-        if (parsed.dump() == text) {
-            return parsed;
+
+  private:
+    void add(const Entry &entry) {
+        const std::string path = entry.fullPath();
+        if (entry.kind == Entry::Kind::TemplateParameter && entry.type) {
+            types_.insert_or_assign(patternOf(entry.path) + entry.name, *entry.type);
+        }
+        const std::string annotations = gatewayAnnotations(entry);
+        const bool pattern = entry.kind == Entry::Kind::TemplateParameter || entry.kind == Entry::Kind::TemplateObject;
+        if (pattern || !annotations.empty()) {
+            definitions_.emplace_back(path, annotations);
+        }
+        if (entry.kind == Entry::Kind::Parameter) {
+            member(path, valueText(entry));
+        } else if (entry.kind == Entry::Kind::Object && annotations.empty()) {
+            member(path, "{}");
         }
     }
-    return text;
-}
+
+    void member(const std::string &path, const std::string &value) {
+        out_ << (any_ ? ",\n" : "{\n") << "  " << json(path).dump() << ": " << value;
+        any_ = true;
+    }
+
+    std::string valueText(const Entry &entry) const {
+        const std::string &text = *entry.value;
+        if (!isCleanText(text)) {
+            return json{{kHexKey, hexOf(text)}}.dump();
+        }
+        const auto found = types_.find(patternOf(entry.path) + entry.name);
+        const ValueType type = entry.type ? *entry.type : found != types_.end() ? found->second : ValueType();
+        const bool flag = type.isFlag() && (text == "true" || text == "false");
+        if (flag || (type.isNumber() && isDecimal(text))) {
+            if (json::parse(text, nullptr, false).dump() == text) {
+                return text;
+            }
+        }
+        return json(text).dump();
+    }
+
+    std::ostream &out_;
+    bool any_ = false;
+    std::unordered_map<std::string, ValueType> types_; // of what the templates declare
+    std::vector<std::pair<std::string, std::string>> definitions_;
+};
 
 } // namespace
 
-Entries readJson(std::string_view text, const std::string &file) {
-    size_t line = 1;
-    Handler handler(file, line);
-    json::sax_parse(LineCounter(text.data(), &line), LineCounter(text.data() + text.size(), &line), &handler);
-    return std::move(handler.entries);
+bool isOwnJson(const std::vector<JsonNode> &values) {
+    const JsonNode *definitions = values.size() == 1 ? values.front().member(kDefinitions) : nullptr;
+    return definitions && definitions->kind == JsonNode::Kind::Object;
+}
+
+Entries readJson(const std::vector<JsonNode> &values, const std::string &file) {
+    return Reader(values.front(), file).run();
 }
 
 void writeJson(const Entries &entries, std::ostream &out) {
-    const char *separator = "{";
-    for (const Entry &entry : entries) {
-        if (entry.kind == Entry::Kind::Parameter) {
-            out << separator << "\n  " << json(entry.fullPath()).dump() << ": " << valueOf(entry).dump();
-            separator = ",";
-        }
-    }
-    out << (*separator == '{' ? "{}\n" : "\n}\n");
+    Writer(out).run(entries);
 }
 
 } // namespace sandbox

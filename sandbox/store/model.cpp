@@ -166,11 +166,17 @@ void Model::setWritable(int64_t table, bool writable) {
 }
 
 void Model::addParameter(std::string_view key, int64_t object, std::string_view name, int64_t definition) {
+    const std::string &fallback = definitions_.get(definition).fallback;
+    addParameter(key, object, name, definition, fallback, fallback);
+}
+
+void Model::addParameter(std::string_view key, int64_t object, std::string_view name, int64_t definition,
+                         std::string_view running, std::string_view stored) {
     Statement(database_,
-              "INSERT INTO parameter(object, position, name, definition, running, container) "
-              "SELECT ?1, (SELECT coalesce(max(position) + 1, 0) FROM parameter WHERE object = ?1), ?2, ?3, ?4, "
+              "INSERT INTO parameter(object, position, name, definition, running, pending, container) "
+              "SELECT ?1, (SELECT coalesce(max(position) + 1, 0) FROM parameter WHERE object = ?1), ?2, ?3, ?4, ?5, "
               "CASE kind WHEN 2 THEN parent END FROM object WHERE id = ?1",
-              object, name, definition, definitions_.get(definition).fallback)
+              object, name, definition, running, pendingOf(running, stored))
         .run();
     if (isKeptCount(database_, key, name)) {
         writeCount(std::string(key) + std::string(name.substr(0, name.size() - kCountSuffix.size())) + ".");

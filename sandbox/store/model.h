@@ -53,8 +53,14 @@ class Model {
     // Makes an object a table in which at least `last` instance numbers were given.
     void makeTable(std::string_view key, uint32_t last);
 
+    // Whether a set may add and delete instances of a table.
+    void setWritable(int64_t table, bool writable);
+
     // Adds a parameter behind the object's others, with its default value.
     void addParameter(std::string_view key, int64_t object, std::string_view name, int64_t definition);
+    // The same with values.
+    void addParameter(std::string_view key, int64_t object, std::string_view name, int64_t definition,
+                      std::string_view running, std::string_view stored);
     void setDefinition(int64_t object, const ParameterRow &parameter, int64_t definition);
     void setValue(int64_t object, const ParameterRow &parameter, std::string_view running, std::string_view stored);
 
@@ -76,7 +82,6 @@ class Model {
     // What stands below a new object by its templates.
     void createContents(std::string_view key, const Made &object, const std::vector<TemplateMatch> &matches);
     void applyBelow(std::string_view key, std::span<const std::string_view> remainder, const TemplateObject &object);
-    void setWritable(int64_t table, bool writable);
     void bumpCount(std::string_view tableKey, int running, int stored);
     void writeCount(std::string_view tableKey);
 

@@ -2,6 +2,7 @@
 #include "store/reader.h"
 
 #include "store/model.h"
+#include "store/nature.h"
 #include "value/escape.h"
 #include "value/path.h"
 #include "value/refusal.h"
@@ -61,7 +62,7 @@ class Reader {
         const std::optional<std::string> key = keyOf(request_.path);
         const std::optional<ObjectRow> object = key ? findObject(database_, *key) : std::nullopt;
         if (!object || (object->presence & kRunning) == 0) {
-            throw Refusal(CALTOFAL_ABSENT_OBJECT, path_ + ": no such object");
+            throw Refusal(CALTOFAL_ABSENT_OBJECT, noSuchObject(database_, path_));
         }
         if (!request_.filters.empty()) {
             for (const std::string &match : matches(*key, *object)) {

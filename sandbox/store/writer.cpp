@@ -2,6 +2,7 @@
 #include "store/writer.h"
 
 #include "store/model.h"
+#include "store/nature.h"
 #include "store/possible.h"
 #include "store/reader.h"
 #include "value/accepted_value.h"
@@ -25,7 +26,7 @@ class Writer {
         const std::optional<std::string> key = keyOf(request.path);
         const std::optional<ObjectRow> object = key ? findObject(database_, *key) : std::nullopt;
         if (!object || (object->presence & seen()) == 0) {
-            throw Refusal(CALTOFAL_ABSENT_OBJECT, path_ + ": no such object");
+            throw Refusal(CALTOFAL_ABSENT_OBJECT, noSuchObject(database_, path_));
         }
         switch (request.operation) {
         case SetRequest::Operation::Set:

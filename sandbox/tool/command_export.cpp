@@ -23,11 +23,6 @@ bool isPath(const std::string &argument) {
     return argument.find('.') != std::string::npos && !gateway;
 }
 
-View viewOf(FileFormat format, bool stored) {
-    // JSON has room for one value.
-    return stored ? View::Stored : format == FileFormat::Json ? View::Running : View::Both;
-}
-
 } // namespace
 
 void addExport(Command &root, Tool &tool) {
@@ -45,15 +40,14 @@ void addExport(Command &root, Tool &tool) {
         }
         arguments.resize(2);
         const std::string key = arguments[1].empty() ? "" : keyOfArgument(arguments[1]);
-        const FileFormat format = formatOf(options->format, "");
+        const FileFormat format = options->format.empty() ? FileFormat::Gateway : formatOf(options->format);
 
         const std::unique_ptr<Database> database = tool.open(arguments[0]);
         const Transaction transaction(*database, Transaction::Kind::Read);
         if (!key.empty() && !findObject(*database, key)) {
             throw Failure(arguments[1] + ": no such object", kAbsent);
         }
-        const Detail detail = format == FileFormat::Json ? Detail::All : Detail::Needed;
-        writeEntries(format, exportEntries(*database, key, viewOf(format, options->stored), detail), std::cout);
+        writeEntries(format, exportEntries(*database, key, options->stored ? View::Stored : View::Both), std::cout);
     });
 }
 

@@ -15,22 +15,26 @@ struct Options {
     bool replace = false;
 };
 
-void merge(Database &database, const Entries &entries, const Options &options) {
+ImportReport *reportOf(FileContent &content) {
+    return content.report ? &*content.report : nullptr;
+}
+
+void merge(Database &database, FileContent &content, const Options &options) {
     Transaction transaction(database, Transaction::Kind::Write);
     if (options.replace) {
         clearModel(database);
     }
-    importEntries(database, entries, options.file);
+    importEntries(database, content.entries, options.file, reportOf(content));
     transaction.commit();
 }
 
 // True when the gateway was made of the file.
-bool importFile(const Location &location, const Entries &entries, const Options &options) {
+bool importFile(const Location &location, FileContent &content, const Options &options) {
     const bool fromDemo = findDemo(location.name) && !options.replace;
-    if (!fromDemo && createGateway(location, entries, options.file)) {
+    if (!fromDemo && createGateway(location, content.entries, options.file, reportOf(content))) {
         return true;
     }
-    merge(*openGateway(location), entries, options);
+    merge(*openGateway(location), content, options);
     return false;
 }
 
@@ -41,17 +45,25 @@ void addImport(Command &root, Tool &tool) {
     Command command = root.add("import", "Merge a file into a gateway, which is made where it does not exist");
     command.word("NAME", options->name, "The gateway", Need::Required);
     command.word("FILE", options->file, "The file; - for standard input", Need::Required);
-    command.choice("--format", options->format, formatNames(), "tr181, csv or json; without it, by the file's name");
+    command.choice("--format", options->format, formatNames(),
+                   "tr181, csv or json; without it, by what the file contains");
     command.flag("--replace", options->replace, "Start from an empty gateway");
-    command.footer("All of the file is taken in, or nothing.\n\nExamples:\n"
-                   "  caltofal-sandbox import home hosts.csv\n"
-                   "  caltofal-sandbox export lab | caltofal-sandbox import copy -");
+    command.footer(
+        "Gateway files, and the CSV and JSON of `export`, are taken in as a whole or not at all. Exports of an ACS,\n"
+        "lists of name and value, nested and flat JSON of other programs are taken in as they are; what does\n"
+        "not fit is kept as text or left out, and counted.\n\nExamples:\n"
+        "  caltofal-sandbox import home hosts.csv\n"
+        "  caltofal-sandbox import field acs-export.csv\n"
+        "  caltofal-sandbox export lab | caltofal-sandbox import copy -");
     command.runs([&tool, options] {
         const Location location = tool.location(options->name);
-        const FileFormat format = formatOf(options->format, options->file);
-        const Entries entries = readEntries(format, readWhole(options->file), options->file);
-        const bool made = importFile(location, entries, *options);
-        say(location.name + (made ? ": made of " : ": took in ") + counted(entries.size(), "entry", "entries"));
+        const std::optional<FileFormat> format =
+            options->format.empty() ? std::nullopt : std::optional(formatOf(options->format));
+        FileContent content = readContent(options->file, format);
+        const bool made = importFile(location, content, *options);
+        const std::string entries = counted(content.entries.size(), "entry", "entries");
+        say(location.name + ": " +
+            (content.report ? content.report->text() : (made ? "made of " : "took in ") + entries));
     });
 }
 

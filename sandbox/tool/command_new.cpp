@@ -20,32 +20,32 @@ struct Options {
 };
 
 // What a gateway has now, stored and running.
-Entries entriesOf(const Location &gateway) {
+FileContent contentOf(const Location &gateway) {
     const std::unique_ptr<Database> database = openGateway(gateway);
     const Transaction transaction(*database, Transaction::Kind::Read);
-    return exportEntries(*database, "", View::Both);
+    return {exportEntries(*database, "", View::Both), std::nullopt};
 }
 
-Entries demoEntries(const Demo &demo) {
-    return readGatewayFile(demo.text, std::string(demo.name) + ".tr181");
+FileContent demoContent(const Demo &demo) {
+    return {readGatewayFile(demo.text, std::string(demo.name) + ".tr181"), std::nullopt};
 }
 
 // Without `from` the demo of the gateway's own name, else the usual one: as they come, whatever became of them.
-Entries entriesFor(const std::string &name, const std::string &from) {
+FileContent contentFor(const std::string &name, const std::string &from) {
     if (from.empty()) {
         const Demo *demo = findDemo(name);
-        return demoEntries(demo ? *demo : *findDemo(kUsualDemo));
+        return demoContent(demo ? *demo : *findDemo(kUsualDemo));
     }
     if (isGatewayName(from) && storeExists(Location::named(from))) {
-        return entriesOf(Location::named(from));
+        return contentOf(Location::named(from));
     }
     if (const Demo *demo = findDemo(from)) {
-        return demoEntries(*demo);
+        return demoContent(*demo);
     }
     if (from != "-" && !std::filesystem::exists(from)) {
         throw Failure(from + " is neither a gateway nor a file", kAbsent);
     }
-    return readEntries(formatOf("", from), readWhole(from), from);
+    return readContent(from);
 }
 
 } // namespace
@@ -63,8 +63,13 @@ void addNew(Command &root, Tool &tool) {
         const std::string from = !options->from.empty()    ? options->from
                                  : findDemo(options->name) ? options->name
                                                            : kUsualDemo;
-        if (!createGateway(location, entriesFor(options->name, options->from), from)) {
+        FileContent content = contentFor(options->name, options->from);
+        ImportReport *report = content.report ? &*content.report : nullptr;
+        if (!createGateway(location, content.entries, from, report)) {
             throw Failure("there is a gateway " + location.name + " already");
+        }
+        if (report) {
+            say(location.name + ": " + report->text());
         }
         say("made gateway " + location.name + " of " + from);
     });

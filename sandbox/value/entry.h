@@ -34,6 +34,9 @@ struct Entry {
     std::optional<int> presence;  // of an object: kRunning or kStored alone
     std::optional<uint32_t> last; // of a table: highest instance number ever given
 
+    // Type, access and default are a guess: those that the gateway has go before.
+    bool guessed = false;
+
     size_t line = 0; // in its file, from 1
 
     std::string fullPath() const { return path + name; }

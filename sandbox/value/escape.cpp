@@ -16,25 +16,6 @@ struct Escape {
 };
 constexpr Escape kEscapes[] = {{'\\', '\\'}, {'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'"', '"'}};
 
-// Bytes of the UTF-8 sequence at the front of the text; 0 when it is none. Long forms, surrogates and what is
-// beyond U+10FFFF are none.
-size_t sequenceLength(std::string_view text) {
-    const auto byte = [text](size_t i) { return static_cast<uint8_t>(text[i]); };
-    const uint8_t lead = byte(0);
-    const size_t length = lead < 0x80 ? 1 : lead < 0xc2 ? 0 : lead < 0xe0 ? 2 : lead < 0xf0 ? 3 : lead < 0xf5 ? 4 : 0;
-    if (length == 0 || text.size() < length) {
-        return 0;
-    }
-    for (size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xc0) != 0x80) {
-            return 0;
-        }
-    }
-    const bool outside = (lead == 0xe0 && byte(1) < 0xa0) || (lead == 0xed && byte(1) > 0x9f) ||
-                         (lead == 0xf0 && byte(1) < 0x90) || (lead == 0xf4 && byte(1) > 0x8f);
-    return outside ? 0 : length;
-}
-
 bool isControl(char c) {
     return static_cast<uint8_t>(c) < 0x20 || c == 0x7f;
 }
@@ -63,7 +44,7 @@ void appendEscaped(std::string &out, char byte, bool quotes) {
 std::string escaped(std::string_view text, bool quotes) {
     std::string out;
     while (!text.empty()) {
-        const size_t length = sequenceLength(text);
+        const size_t length = utf8Length(text);
         if (length == 0) {
             appendHex(out, text.front());
         } else if (length == 1) {
@@ -85,9 +66,26 @@ int hexByte(std::string_view digits) {
 
 } // namespace
 
+size_t utf8Length(std::string_view text) {
+    const auto byte = [text](size_t i) { return static_cast<uint8_t>(text[i]); };
+    const uint8_t lead = byte(0);
+    const size_t length = lead < 0x80 ? 1 : lead < 0xc2 ? 0 : lead < 0xe0 ? 2 : lead < 0xf0 ? 3 : lead < 0xf5 ? 4 : 0;
+    if (length == 0 || text.size() < length) {
+        return 0;
+    }
+    for (size_t i = 1; i < length; ++i) {
+        if ((byte(i) & 0xc0) != 0x80) {
+            return 0;
+        }
+    }
+    const bool outside = (lead == 0xe0 && byte(1) < 0xa0) || (lead == 0xed && byte(1) > 0x9f) ||
+                         (lead == 0xf0 && byte(1) < 0x90) || (lead == 0xf4 && byte(1) > 0x8f);
+    return outside ? 0 : length;
+}
+
 bool isCleanText(std::string_view text) {
     while (!text.empty()) {
-        const size_t length = sequenceLength(text);
+        const size_t length = utf8Length(text);
         const char c = text.front();
         if (length == 0 || (isControl(c) && c != '\t' && c != '\n' && c != '\r')) {
             return false;
@@ -139,6 +137,27 @@ std::string quotedShort(std::string_view text) {
         return inQuotes(text);
     }
     return inQuotes(text.substr(0, kShortLength)) + "...";
+}
+
+std::string bytesOfHex(std::string_view digits) {
+    std::string bytes;
+    for (size_t i = 0; i + 1 < digits.size(); i += 2) {
+        unsigned byte = 0;
+        std::from_chars(digits.data() + i, digits.data() + i + 2, byte, 16);
+        bytes += static_cast<char>(byte);
+    }
+    return bytes;
+}
+
+std::string hexOf(std::string_view bytes) {
+    constexpr const char *kDigits = "0123456789abcdef";
+    std::string hex;
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        hex += kDigits[byte >> 4];
+        hex += kDigits[byte & 15];
+    }
+    return hex;
 }
 
 } // namespace sandbox

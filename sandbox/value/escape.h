@@ -9,6 +9,10 @@
 
 namespace sandbox {
 
+// Bytes of the UTF-8 sequence at the front of the text, which is not empty; 0 when it is none. Long forms, surrogates
+// and what is beyond U+10FFFF are none.
+size_t utf8Length(std::string_view text);
+
 // Whether the bytes are UTF-8 without control characters other than tab, line feed and carriage return.
 bool isCleanText(std::string_view text);
 
@@ -24,5 +28,9 @@ std::string inQuotes(std::string_view text);
 
 // inQuotes() cut to a length that leaves a message readable.
 std::string quotedShort(std::string_view text);
+
+// Pairs of hexadecimal digits as bytes, and back in lower case. What is not a digit counts as 0.
+std::string bytesOfHex(std::string_view digits);
+std::string hexOf(std::string_view bytes);
 
 } // namespace sandbox

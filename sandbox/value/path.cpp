@@ -15,11 +15,11 @@ bool isDigit(char c) {
 }
 
 bool isNameStart(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || isDigit(c);
 }
 
 bool isNameRest(char c) {
-    return isNameStart(c) || isDigit(c) || c == '-';
+    return isNameStart(c) || c == '-';
 }
 
 std::string padded(uint32_t instance) {
@@ -51,7 +51,7 @@ std::vector<std::string_view> components(std::string_view path) {
 
 bool isName(std::string_view text) {
     return !text.empty() && text.size() <= kPathMax && isNameStart(text.front()) &&
-           std::all_of(text.begin(), text.end(), isNameRest);
+           std::all_of(text.begin(), text.end(), isNameRest) && !std::all_of(text.begin(), text.end(), isDigit);
 }
 
 std::optional<uint32_t> instanceOf(std::string_view component) {

@@ -43,7 +43,8 @@ std::optional<uint32_t> instanceOf(std::string_view component);
 // The key of an instance of the table `tableKey`.
 std::string instanceKey(std::string_view tableKey, uint32_t instance);
 
-// A component of an object path that is no instance number, and a parameter's name.
+// A component of an object path that is no instance number, and a parameter's name: letters, digits (not digits alone),
+// "_" and, not in front, "-".
 bool isName(std::string_view text);
 
 // The components of a path, key or pattern.

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/dump/csv.h"
+
+#include "exchange/csv_file.h"
+#include "exchange/csv_records.h"
+#include "exchange/dump/words.h"
+#include "value/escape.h"
+
+#include <algorithm>
+
+namespace sandbox {
+namespace {
+
+// The columns that count, by the plain words that head them.
+enum Column : size_t { kPath, kObject, kWritable, kValue, kType, kColumns };
+
+struct Heading {
+    std::string_view word;
+    Column column;
+};
+constexpr Heading kHeadings[] = {
+    {"parameter", kPath},    {"parametername", kPath},   {"parameterpath", kPath},  {"path", kPath},
+    {"name", kPath},         {"fullpath", kPath},        {"fullname", kPath},       {"object", kObject},
+    {"writable", kWritable}, {"access", kWritable},      {"permission", kWritable}, {"permissions", kWritable},
+    {"value", kValue},       {"parametervalue", kValue}, {"currentvalue", kValue},  {"valuetype", kType},
+    {"type", kType},         {"datatype", kType},        {"parametertype", kType},
+};
+
+// Where each column stands.
+struct Header {
+    std::optional<size_t> at[kColumns];
+    size_t fields = 0;
+
+    bool isComplete() const { return at[kPath] && at[kValue]; }
+};
+
+Header headerOf(const CsvRecord &names) {
+    Header header;
+    header.fields = names.size();
+    for (size_t i = 0; i < names.size(); ++i) {
+        const std::string word = plainWord(names[i].value_or(""));
+        for (const Heading &row : kHeadings) {
+            if (row.word == word && !header.at[row.column]) {
+                header.at[row.column] = i;
+            }
+        }
+    }
+    return header;
+}
+
+// The separator that makes a header of the first line.
+CsvDialect dialectOf(std::string_view text) {
+    const std::string file;
+    for (const char separator : {',', ';', '\t'}) {
+        const CsvDialect dialect{separator, true};
+        CsvRecord names;
+        CsvReader reader(text.substr(0, text.find('\n')), file, dialect);
+        if (reader.next(names) && headerOf(names).isComplete()) {
+            return dialect;
+        }
+    }
+    return {'\0', true};
+}
+
+class CsvDump {
+  public:
+    CsvDump(std::string_view text, const std::string &file) : reader_(text, file, dialectOf(text)) {}
+
+    Dump run() {
+        CsvRecord record;
+        if (!reader_.next(record)) {
+            reader_.refuse("the file is empty: it needs a header");
+        }
+        header_ = headerOf(record);
+        if (!header_.isComplete()) {
+            reader_.refuse("the header names no column for paths, or none for values");
+        }
+        while (reader_.next(record)) {
+            take(record);
+        }
+        return std::move(dump_);
+    }
+
+  private:
+    std::string field(const CsvRecord &record, Column column) const {
+        const std::optional<size_t> at = header_.at[column];
+        return at && *at < record.size() ? record[*at].value_or("") : "";
+    }
+
+    void take(const CsvRecord &record) {
+        DumpRow row;
+        row.path = field(record, kPath);
+        row.type = field(record, kType);
+        row.writable = writableOfWord(field(record, kWritable));
+        row.object = writableOfWord(field(record, kObject)).value_or(false) || isObjectWord(row.type);
+        row.line = reader_.line();
+        const bool torn = record.size() > header_.fields || *header_.at[kValue] >= record.size();
+        if (row.path.empty() || (torn && !row.object)) {
+            dump_.report.values += row.object ? 0 : 1;
+            dump_.report.count(Reason::TornRow, row.path.empty() ? "line " + std::to_string(row.line) : row.path);
+            return;
+        }
+        const std::string value = field(record, kValue);
+        const bool never = value.empty() && row.type.empty() && header_.at[kType]; // the ACS never asked for it
+        if (!row.object && !never) {
+            row.value = value;
+        }
+        dump_.rows.push_back(std::move(row));
+    }
+
+    CsvReader reader_;
+    Header header_;
+    Dump dump_;
+};
+
+} // namespace
+
+bool isCsvDump(std::string_view text) {
+    return dialectOf(text).separator != '\0' && !isOwnCsv(text);
+}
+
+Dump readCsvDump(std::string_view text, const std::string &file) {
+    return CsvDump(text, file).run();
+}
+
+} // namespace sandbox

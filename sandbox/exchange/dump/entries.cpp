@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/dump/entries.h"
+
+#include "exchange/dump/alias.h"
+#include "exchange/dump/known.h"
+#include "exchange/dump/typing.h"
+#include "exchange/dump/words.h"
+#include "value/escape.h"
+#include "value/path.h"
+
+#include "caltofal.h"
+
+#include <algorithm>
+#include <set>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace sandbox {
+namespace {
+
+constexpr std::string_view kDeviceRoot = "Device.";
+constexpr std::string_view kGatewayRoot = "InternetGatewayDevice.";
+constexpr std::string_view kCountSuffix = "NumberOfEntries";
+
+// What an ACS keeps beside a device's own model.
+constexpr std::string_view kAcsRoots[] = {"DeviceID",          "Events", "Reboot", "FactoryReset", "Tags", "Downloads",
+                                          "VirtualParameters", "Event"};
+
+std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view kBlanks = " \t\r\n";
+    const size_t first = std::min(text.find_first_not_of(kBlanks), text.size());
+    return text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
+}
+
+bool isAcsPath(std::string_view path) {
+    const std::string_view root = path.substr(0, path.find('.'));
+    return std::find(std::begin(kAcsRoots), std::end(kAcsRoots), root) != std::end(kAcsRoots);
+}
+
+// Why the path cannot be taken; empty when it can.
+std::optional<Reason> troubleOf(std::string_view path) {
+    if (isAcsPath(path)) {
+        return Reason::AcsRow;
+    }
+    if (!path.starts_with(kDeviceRoot) && !path.starts_with(kGatewayRoot)) {
+        return Reason::ForeignRoot;
+    }
+    return path.find('{') != std::string_view::npos ? std::optional(Reason::Placeholder) : std::nullopt;
+}
+
+class Conversion {
+  public:
+    explicit Conversion(Dump &dump) : dump_(dump), report_(dump.report), typing_(dump.rows) {}
+
+    Entries run() {
+        for (DumpRow &row : dump_.rows) {
+            take(row);
+        }
+        dropValuesOfObjects();
+        for (const std::string &table : tables_) {
+            addTable(table);
+        }
+        return std::move(entries_);
+    }
+
+  private:
+    void take(DumpRow &row) {
+        std::string path(trimmed(row.path));
+        row.object = row.object || path.ends_with('.');
+        path += row.object && !path.ends_with('.') ? "." : "";
+        const std::optional<Reason> trouble = troubleOf(path);
+        report_.values += row.object || trouble == Reason::AcsRow ? 0 : 1;
+        if (trouble) {
+            report_.count(*trouble, path);
+            return;
+        }
+        try {
+            Entry entry = entryOf(path);
+            entry.line = row.line;
+            row.object ? takeObject(row, std::move(entry)) : takeValue(row, std::move(entry));
+        } catch (const std::invalid_argument &error) {
+            report_.count(Reason::BadPath, path + ": " + error.what());
+        }
+    }
+
+    void takeObject(const DumpRow &row, Entry entry) {
+        if (row.writable) {
+            const bool instance = instanceOf(lastComponent(entry.path)).has_value();
+            const std::string table(instance ? parentKey(entry.path) : entry.path);
+            bool &writable = writableTables_[table];
+            writable = writable || *row.writable;
+            if (writable) {
+                tables_.insert(table);
+            }
+        }
+        if (isTableWord(row.type)) {
+            tables_.insert(entry.path);
+        }
+        if (noteObject(entry.path)) {
+            entries_.push_back(std::move(entry));
+        }
+    }
+
+    void takeValue(DumpRow &row, Entry entry) {
+        const std::string path = entry.fullPath();
+        if (!row.value) {
+            report_.count(Reason::NoValue, path);
+            row.value = "";
+        }
+        if (row.value->size() >= PARAM_VALUE_SIZE || row.value->find('\0') != std::string::npos) {
+            report_.count(row.value->size() >= PARAM_VALUE_SIZE ? Reason::TooLong : Reason::HoldsNul, path);
+            return;
+        }
+        noteObject(entry.path);
+        entry.value = std::move(row.value);
+        typing_.describe(row, entry, report_);
+        const auto [first, added] = places_.emplace(path, entries_.size());
+        if (!added) {
+            report_.count(Reason::GivenTwice, path);
+            entries_[first->second] = std::move(entry);
+            return;
+        }
+        noteCounter(entry);
+        entries_.push_back(std::move(entry));
+    }
+
+    // Remembers the object and those above it; whether it was new.
+    bool noteObject(const std::string &path) {
+        if (path == lastObject_) {
+            return false;
+        }
+        lastObject_ = path;
+        bool added = false;
+        for (std::string_view object = path; !object.empty(); object = parentKey(object)) {
+            if (!objects_.emplace(object).second) {
+                break;
+            }
+            added = true;
+            if (instanceOf(lastComponent(object))) {
+                tables_.emplace(parentKey(object));
+            }
+        }
+        return added;
+    }
+
+    // A counter tells of a table, also of an empty one. In the older model names of counters and tables differ.
+    void noteCounter(const Entry &entry) {
+        if (entry.name.size() > kCountSuffix.size() && entry.name.ends_with(kCountSuffix) &&
+            entry.path.starts_with(kDeviceRoot)) {
+            tables_.insert(entry.path + entry.name.substr(0, entry.name.size() - kCountSuffix.size()) + ".");
+        }
+    }
+
+    void dropValuesOfObjects() {
+        std::erase_if(entries_, [this](const Entry &entry) {
+            const bool conflict = !entry.name.empty() && objects_.contains(entry.fullPath() + ".");
+            if (conflict) {
+                report_.count(Reason::ValueOfObject, entry.fullPath());
+            }
+            return conflict;
+        });
+    }
+
+    void addTable(const std::string &path) {
+        const std::string parameter = path.substr(0, path.size() - 1);
+        if (places_.contains(parameter) || !keyOf(path)) {
+            return;
+        }
+        Entry entry = entryOf(path);
+        const auto said = writableTables_.find(path);
+        const std::optional<bool> known = knownTable(patternOf(path) + std::string(kAnyInstance) + ".");
+        entry.writable = said != writableTables_.end() ? said->second : known.value_or(false);
+        entries_.push_back(std::move(entry));
+    }
+
+    Dump &dump_;
+    ImportReport &report_;
+    Typing typing_;
+    Entries entries_;
+    std::unordered_map<std::string, size_t> places_; // of parameters in entries_
+    std::unordered_set<std::string> objects_;
+    std::string lastObject_;
+    std::set<std::string> tables_;
+    std::unordered_map<std::string, bool> writableTables_;
+};
+
+} // namespace
+
+Entries entriesOf(Dump &dump) {
+    numberAliases(dump);
+    return Conversion(dump).run();
+}
+
+} // namespace sandbox

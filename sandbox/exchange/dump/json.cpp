@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/dump/json.h"
+
+#include "exchange/dump/json_leaf.h"
+#include "exchange/dump/known.h"
+#include "exchange/dump/words.h"
+#include "value/escape.h"
+#include "value/value_syntax.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace sandbox {
+namespace {
+
+constexpr std::string_view kRoots[] = {"Device", "InternetGatewayDevice"};
+constexpr size_t kFewRows = 5;
+constexpr std::string_view kBytesSuffix = "_hex";
+
+bool isRoot(std::string_view text) {
+    return std::find(std::begin(kRoots), std::end(kRoots), text) != std::end(kRoots);
+}
+
+// "Device.X", also "Device." alone.
+bool beginsWithRoot(std::string_view text) {
+    return text.find('.') != std::string_view::npos && isRoot(text.substr(0, text.find('.')));
+}
+
+bool isPathLike(std::string_view text) {
+    return text.find('.') != std::string_view::npos && text.find_first_of(" /") == std::string_view::npos;
+}
+
+bool areScalars(const JsonNode &array) {
+    return std::all_of(array.children.begin(), array.children.end(),
+                       [](const auto &child) { return child.second.isScalar(); });
+}
+
+std::string withDot(std::string path) {
+    path += path.empty() || path.ends_with('.') ? "" : ".";
+    return path;
+}
+
+class JsonDump {
+  public:
+    Dump run(const std::vector<JsonNode> &values) {
+        std::vector<const JsonNode *> nodes;
+        for (const JsonNode &value : values) {
+            nodes.push_back(&value);
+        }
+        pieces(nodes);
+        if (dump_.rows.empty()) {
+            for (const JsonNode *node : nodes) {
+                withoutRoot(*node);
+            }
+        }
+        return std::move(dump_);
+    }
+
+  private:
+    // What is not below a root yet: a wrapper, a root's holder, a list.
+    void document(const JsonNode &node) {
+        if (node.kind == JsonNode::Kind::Array) {
+            std::vector<const JsonNode *> nodes;
+            for (const auto &[name, child] : node.children) {
+                nodes.push_back(&child);
+            }
+            pieces(nodes);
+        } else if (isNamed(node)) {
+            named(node, "");
+        } else if (node.kind == JsonNode::Kind::Object) {
+            members(node, "");
+        }
+    }
+
+    // A list's items belong together, unless they are devices, of which the first one is taken.
+    void pieces(const std::vector<const JsonNode *> &nodes) {
+        std::string device;
+        for (const JsonNode *node : nodes) {
+            const size_t before = dump_.rows.size();
+            document(*node);
+            if (before != 0 && isOtherDevice(*node, before)) {
+                dump_.rows.resize(before);
+                const JsonNode *id = node->member("_id");
+                dump_.report.count(Reason::OtherDevice, id ? id->text : "line " + std::to_string(node->line));
+            }
+        }
+    }
+
+    // Several parameters, at least half of which were there.
+    bool isOtherDevice(const JsonNode &node, size_t before) {
+        const size_t rows = dump_.rows.size() - before;
+        if (node.member("_id") || node.member("_deviceId")) {
+            return rows != 0;
+        }
+        if (rows < kFewRows) {
+            return false;
+        }
+        std::unordered_set<std::string_view> paths;
+        for (size_t i = 0; i < before; ++i) {
+            paths.insert(dump_.rows[i].path);
+        }
+        const auto known = std::count_if(dump_.rows.begin() + static_cast<ptrdiff_t>(before), dump_.rows.end(),
+                                         [&](const DumpRow &row) { return paths.contains(row.path); });
+        return 2 * static_cast<size_t>(known) >= rows;
+    }
+
+    // A branch that begins below Device.
+    void withoutRoot(const JsonNode &node) {
+        const bool branch = std::any_of(node.children.begin(), node.children.end(), [](const auto &child) {
+            return isKnownTop(child.first.substr(0, child.first.find('.')));
+        });
+        if (branch) {
+            members(node, "Device.");
+        } else if (node.children.size() == 1) {
+            withoutRoot(node.children[0].second);
+        }
+    }
+
+    static bool isNamed(const JsonNode &node) {
+        const JsonNode *name = node.kind == JsonNode::Kind::Object ? memberOf(node, Role::Name) : nullptr;
+        return name && name->kind == JsonNode::Kind::Text &&
+               (beginsWithRoot(name->text) || isRoot(name->text) ||
+                (isPathLike(name->text) && memberOf(node, Role::Value)));
+    }
+
+    // An item that says which parameter or object it is. `prefix` is that of the list that holds it.
+    void named(const JsonNode &node, const std::string &prefix) {
+        const std::string &name = memberOf(node, Role::Name)->text;
+        const std::string path = beginsWithRoot(name) || isRoot(name) ? name : prefix + name;
+        const JsonNode *value = memberOf(node, Role::Value);
+        const JsonNode *contents = memberOf(node, Role::Contents);
+        if (value && value->kind == JsonNode::Kind::Array && !areScalars(*value)) {
+            contents = value;
+        }
+        if (contents && !contents->isScalar()) {
+            inside(*contents, withDot(path));
+            return;
+        }
+        DumpRow row = rowOf(path, node);
+        readLeaf(node, row);
+        row.object = isObjectWord(row.type) || path.ends_with('.');
+        dump_.rows.push_back(std::move(row));
+    }
+
+    // What an item has below it: members, or a list of items that may go on from its path.
+    void inside(const JsonNode &contents, const std::string &prefix) {
+        if (contents.kind == JsonNode::Kind::Object) {
+            members(contents, prefix);
+            return;
+        }
+        for (const auto &[none, item] : contents.children) {
+            const JsonNode *name = item.kind == JsonNode::Kind::Object ? memberOf(item, Role::Name) : nullptr;
+            if (name && name->kind == JsonNode::Kind::Text) {
+                named(item, prefix);
+            } else {
+                members(item, prefix);
+            }
+        }
+    }
+
+    // The object at `prefix`, "" for a wrapper, and what it holds.
+    void members(const JsonNode &node, const std::string &prefix) {
+        if (!prefix.empty()) {
+            DumpRow row = rowOf(prefix, node);
+            row.object = true;
+            if (const JsonNode *access = memberOf(node, Role::Access)) {
+                row.writable = writableOfWord(access->text);
+            }
+            dump_.rows.push_back(std::move(row));
+        }
+        const bool described = memberOf(node, Role::Access) || memberOf(node, Role::Object);
+        for (const auto &[name, child] : node.children) {
+            if (beginsWithRoot(name) || isRoot(name)) {
+                member(child, name, prefix.empty());
+            } else if (prefix.empty() && isPathLike(name) && isParameter(child, name)) {
+                member(child, name, false); // below another root: counted
+            } else if (prefix.empty()) {
+                document(child);
+            } else if (isBytesOf(node, name)) {
+                takeBytes(prefix + name, child);
+            } else if (!isAboutObject(name, described)) {
+                member(child, prefix + name, false);
+            }
+        }
+    }
+
+    // Members that describe the object that holds them. In lower case they may be parameters' names elsewhere.
+    static bool isAboutObject(std::string_view name, bool described) {
+        const Role role = roleOf(name);
+        return name.empty() || name.front() == '_' || role == Role::Instance || (described && role != Role::None);
+    }
+
+    void member(const JsonNode &node, const std::string &path, bool top) {
+        if (node.kind == JsonNode::Kind::Array && !areScalars(node)) {
+            instances(node, path, top);
+        } else if (isParameter(node, path)) {
+            DumpRow row = rowOf(path, node);
+            readLeaf(node, row);
+            dump_.rows.push_back(std::move(row));
+        } else if (node.kind == JsonNode::Kind::Array && !node.children.empty()) {
+            DumpRow row = rowOf(path, node);
+            row.value = joinedItems(node);
+            dump_.rows.push_back(std::move(row));
+        } else if (node.kind == JsonNode::Kind::Array) {
+            DumpRow row = rowOf(withDot(path), node);
+            row.type = "table";
+            dump_.rows.push_back(std::move(row));
+        } else {
+            members(node, withDot(path));
+        }
+    }
+
+    // A scalar, a value with its type, or what the ACS knows to be a parameter and never asked for.
+    static bool isParameter(const JsonNode &node, const std::string &path) {
+        if (path.ends_with('.')) {
+            return false;
+        }
+        if (node.isScalar() || isLeaf(node)) {
+            return true;
+        }
+        const bool bare = std::all_of(node.children.begin(), node.children.end(), [](const auto &child) {
+            return child.first.starts_with('_') || roleOf(child.first) != Role::None;
+        });
+        const JsonNode *object = memberOf(node, Role::Object);
+        return node.kind == JsonNode::Kind::Object && bare && !node.children.empty() &&
+               (object ? object->text == "false" : memberOf(node, Role::Access) != nullptr);
+    }
+
+    // An array's items are the instances of a table, by the numbers they give or by their place.
+    void instances(const JsonNode &array, const std::string &path, bool top) {
+        if (top) {
+            document(array.children.size() == 1 && !isNamed(array.children[0].second)
+                         ? wrapped(path, array.children[0].second)
+                         : array);
+            return;
+        }
+        for (size_t i = 0; i < array.children.size(); ++i) {
+            const JsonNode &item = array.children[i].second;
+            const JsonNode *number = memberOf(item, Role::Instance);
+            const bool given = number && isInteger(number->text);
+            member(item, withDot(path) + (given ? number->text : std::to_string(i + 1)), false);
+        }
+    }
+
+    static JsonNode wrapped(const std::string &name, const JsonNode &node) {
+        JsonNode holder;
+        holder.kind = JsonNode::Kind::Object;
+        holder.line = node.line;
+        holder.children.emplace_back(name, node);
+        return holder;
+    }
+
+    // "NAME_hex" behind a text "NAME" that was not UTF-8 holds its bytes.
+    static bool isBytesOf(const JsonNode &node, std::string_view name) {
+        return name.ends_with(kBytesSuffix) && node.member(name.substr(0, name.size() - kBytesSuffix.size()));
+    }
+
+    void takeBytes(std::string_view path, const JsonNode &bytes) {
+        path.remove_suffix(kBytesSuffix.size());
+        const auto row = std::find_if(dump_.rows.rbegin(), dump_.rows.rend(),
+                                      [path](const DumpRow &candidate) { return candidate.path == path; });
+        if (row != dump_.rows.rend() && isHexBinary(bytes.text)) {
+            row->value = bytesOfHex(bytes.text);
+        }
+    }
+
+    static DumpRow rowOf(const std::string &path, const JsonNode &node) {
+        DumpRow row;
+        row.path = path;
+        row.line = node.line;
+        return row;
+    }
+
+    Dump dump_;
+};
+
+} // namespace
+
+Dump readJsonDump(const std::vector<JsonNode> &values) {
+    return JsonDump().run(values);
+}
+
+} // namespace sandbox

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/import_report.h"
+
+namespace sandbox {
+namespace {
+
+// In the order of Reason; each is followed by ": NUMBER, first EXAMPLE".
+constexpr const char *kWords[] = {
+    "kept as text, not of the parameter's type",
+    "kept as empty, without a value in the file",
+    "counters that differ from the instances in the file, the store counts these",
+    "instances named by an alias, numbered",
+    "of an unknown type, taken by the value",
+    "given more than once, the last one holds",
+    "left out, longer than 1023 bytes",
+    "left out, holds a NUL byte",
+    "left out, not a path of a data model",
+    "left out, a placeholder for instances",
+    "left out, a value where an object has the path",
+    "left out, a row that lacks fields or has too many",
+    "left out, below neither Device. nor InternetGatewayDevice.",
+    "passed over, rows of the ACS itself",
+    "passed over, further devices in the file",
+};
+static_assert(std::size(kWords) == static_cast<size_t>(Reason::OtherDevice) + 1);
+
+} // namespace
+
+void ImportReport::count(Reason reason, const std::string &example) {
+    Tally &tally = tallies_[static_cast<size_t>(reason)];
+    if (tally.number++ == 0) {
+        tally.first = example;
+    }
+}
+
+std::string ImportReport::text() const {
+    std::string text = "took in " + std::to_string(taken) + " of " + std::to_string(values) + " values";
+    for (size_t i = 0; i < tallies_.size(); ++i) {
+        if (tallies_[i].number != 0) {
+            text += std::string("\n  ") + kWords[i] + ": " + std::to_string(tallies_[i].number) + ", first " +
+                    tallies_[i].first;
+        }
+    }
+    return nature.empty() ? text : text + "\n  " + nature;
+}
+
+} // namespace sandbox

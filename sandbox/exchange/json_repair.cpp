@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/json_repair.h"
+
+#include "exchange/text_encoding.h"
+#include "value/escape.h"
+
+#include <cstdint>
+#include <cstdio>
+
+namespace sandbox {
+namespace {
+
+// Private code points, the last of Unicode: U+10FF80 to U+10FFFF for the bytes 0x80 to 0xff.
+constexpr char32_t kByteBase = 0x10ff00;
+constexpr std::string_view kBytePrefix = "\xf4\x8f"; // and 0xbe or 0xbf and a fourth byte
+constexpr std::string_view kEscapes = "\"\\/bfnrtu";
+
+class Repair {
+  public:
+    explicit Repair(std::string_view text) : rest_(text) {}
+
+    std::string run() {
+        while (!rest_.empty()) {
+            const char c = rest_.front();
+            if (c == '"') {
+                inText_ = !inText_;
+                copy(1);
+            } else if (inText_) {
+                textCharacter(c);
+            } else if (c == ',' && closesNext()) {
+                rest_.remove_prefix(1);
+            } else {
+                copy(1);
+            }
+        }
+        return std::move(out_);
+    }
+
+  private:
+    void copy(size_t count) {
+        out_ += rest_.substr(0, count);
+        rest_.remove_prefix(count);
+    }
+
+    // Whether only blanks stand between the comma and a closing bracket.
+    bool closesNext() const {
+        const size_t next = rest_.find_first_not_of(" \t\r\n", 1);
+        return next != std::string_view::npos && (rest_[next] == ']' || rest_[next] == '}');
+    }
+
+    void textCharacter(char c) {
+        const size_t length = utf8Length(rest_);
+        if (c == '\\') {
+            escape();
+        } else if (length == 0) {
+            appendUtf8(out_, kByteBase + static_cast<uint8_t>(c));
+            rest_.remove_prefix(1);
+        } else if (static_cast<uint8_t>(c) < ' ') {
+            char escaped[8];
+            std::snprintf(escaped, sizeof escaped, "\\u%04x", static_cast<unsigned>(c));
+            out_ += escaped;
+            rest_.remove_prefix(1);
+        } else {
+            copy(length);
+        }
+    }
+
+    void escape() {
+        if (rest_.size() < 2 || kEscapes.find(rest_[1]) == std::string_view::npos) {
+            out_ += "\\\\";
+            rest_.remove_prefix(1);
+        } else if (rest_[1] != 'u' || !surrogate(rest_, 'd', "89abAB")) {
+            copy(surrogate(rest_, 'd', "cdefCDEF") ? loneSurrogate() : 2);
+        } else if (surrogate(rest_.substr(6), 'd', "cdefCDEF")) {
+            copy(12);
+        } else {
+            copy(loneSurrogate());
+        }
+    }
+
+    // Stands for half of a character; 0 further characters are copied.
+    size_t loneSurrogate() {
+        out_ += "\\ufffd";
+        rest_.remove_prefix(6);
+        return 0;
+    }
+
+    static bool surrogate(std::string_view text, char first, std::string_view seconds) {
+        return text.size() >= 6 && text[0] == '\\' && text[1] == 'u' && (text[2] | 0x20) == first &&
+               seconds.find(text[3]) != std::string_view::npos;
+    }
+
+    std::string_view rest_;
+    std::string out_;
+    bool inText_ = false;
+};
+
+} // namespace
+
+std::string repairedJson(std::string_view text) {
+    return Repair(text).run();
+}
+
+std::string bytesRestored(std::string text) {
+    for (size_t at = text.find(kBytePrefix); at != std::string::npos; at = text.find(kBytePrefix, at + 1)) {
+        const auto third = static_cast<uint8_t>(text[at + 2]);
+        if (third >= 0xbe) {
+            const auto low = static_cast<uint8_t>(text[at + 3]) & 0x3f;
+            text.replace(at, 4, 1, static_cast<char>((third & 3) << 6 | low));
+        }
+    }
+    return text;
+}
+
+} // namespace sandbox

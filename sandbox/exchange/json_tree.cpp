@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "exchange/json_tree.h"
+
+#include "exchange/json_repair.h"
+#include "value/entry.h"
+#include "value/escape.h"
+
+#include <algorithm>
+#include <cctype>
+#include <iterator>
+#include <nlohmann/json.hpp>
+
+namespace sandbox {
+namespace {
+
+using nlohmann::json;
+
+constexpr size_t kDeepest = 200;
+
+struct Place {
+    std::string_view text;
+    const char *at;
+    size_t line;
+
+    bool atEnd() const { return at == text.data() + text.size(); }
+};
+
+// The word before the place, where the parser gave up.
+std::string_view wordBefore(const Place &place) {
+    const auto *begin = place.text.data();
+    const char *end = place.at;
+    while (end > begin + 1 && std::isspace(static_cast<unsigned char>(end[-1])) != 0) {
+        --end;
+    }
+    const char *word = end;
+    while (word > begin && std::string_view(" \t\r\n,:[]{}").find(word[-1]) == std::string_view::npos) {
+        --word;
+    }
+    word -= word == end && word > begin ? 1 : 0;
+    return {word, static_cast<size_t>(end - word)};
+}
+
+// Walks the text and tells where the parser is.
+class Walker {
+  public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char *;
+    using reference = const char &;
+
+    Walker(const char *at, Place *place) : at_(at), place_(place) {}
+    reference operator*() const { return *at_; }
+    Walker &operator++() {
+        place_->line += *at_ == '\n' ? 1 : 0;
+        place_->at = ++at_;
+        return *this;
+    }
+    bool operator==(const Walker &other) const { return at_ == other.at_; }
+    bool operator!=(const Walker &other) const { return at_ != other.at_; }
+
+  private:
+    const char *at_;
+    Place *place_;
+};
+
+class Builder : public nlohmann::json_sax<json> {
+  public:
+    Builder(const std::string &file, const Place &place, bool repaired)
+        : file_(file), place_(place), repaired_(repaired) {}
+
+    bool null() override { return add(JsonNode::Kind::Null, "null"); }
+    bool boolean(bool value) override { return add(JsonNode::Kind::Flag, value ? "true" : "false"); }
+    bool number_integer(number_integer_t value) override { return add(JsonNode::Kind::Number, std::to_string(value)); }
+    bool number_unsigned(number_unsigned_t value) override {
+        return add(JsonNode::Kind::Number, std::to_string(value));
+    }
+    bool number_float(number_float_t /*value*/, const string_t &text) override {
+        return add(JsonNode::Kind::Number, text);
+    }
+    bool string(string_t &value) override {
+        return add(JsonNode::Kind::Text, repaired_ ? bytesRestored(std::move(value)) : std::move(value));
+    }
+    bool binary(binary_t & /*value*/) override { return false; }
+    bool start_object(std::size_t /*elements*/) override { return open(JsonNode::Kind::Object); }
+    bool start_array(std::size_t /*elements*/) override { return open(JsonNode::Kind::Array); }
+    bool end_object() override { return close(); }
+    bool end_array() override { return close(); }
+    bool key(string_t &name) override {
+        name_ = repaired_ ? bytesRestored(std::move(name)) : std::move(name);
+        return true;
+    }
+    bool parse_error(std::size_t /*position*/, const std::string & /*token*/,
+                     const json::exception & /*error*/) override {
+        const std::string_view word = wordBefore(place_);
+        const auto later = std::count(word.data() + word.size(), place_.at, '\n');
+        throw FileError(file_, place_.line - static_cast<size_t>(later),
+                        place_.atEnd() ? "the JSON ends in the middle" : "not JSON at " + quotedShort(word));
+    }
+
+    JsonNode root;
+
+  private:
+    bool add(JsonNode::Kind kind, std::string text) {
+        JsonNode &node =
+            open_.empty() ? root : open_.back()->children.emplace_back(std::move(name_), JsonNode()).second;
+        name_.clear();
+        node.kind = kind;
+        node.line = place_.line;
+        node.text = std::move(text);
+        last_ = &node;
+        return true;
+    }
+
+    bool open(JsonNode::Kind kind) {
+        add(kind, {});
+        open_.push_back(last_);
+        if (open_.size() > kDeepest) {
+            throw FileError(file_, place_.line, "the JSON is nested too deeply");
+        }
+        return true;
+    }
+
+    bool close() {
+        open_.pop_back();
+        return true;
+    }
+
+    const std::string &file_;
+    const Place &place_;
+    bool repaired_;
+    std::string name_;
+    JsonNode *last_ = nullptr;
+    std::vector<JsonNode *> open_; // a node moves only while a sibling is added, when it is not open
+};
+
+std::vector<JsonNode> parse(std::string_view text, const std::string &file, bool repaired) {
+    std::vector<JsonNode> values;
+    const char *const end = text.data() + text.size();
+    Place place{text, text.data(), 1};
+    for (;;) {
+        for (; !place.atEnd() && (std::isspace(static_cast<unsigned char>(*place.at)) != 0 || *place.at == ',');
+             ++place.at) {
+            place.line += *place.at == '\n' ? 1 : 0;
+        }
+        if (place.atEnd() && !values.empty()) {
+            return values;
+        }
+        Builder builder(file, place, repaired);
+        json::sax_parse(Walker(place.at, &place), Walker(end, &place), &builder, json::input_format_t::json, false);
+        values.push_back(std::move(builder.root));
+    }
+}
+
+} // namespace
+
+const JsonNode *JsonNode::member(std::string_view name) const {
+    for (auto at = children.rbegin(); at != children.rend(); ++at) {
+        if (at->first == name) {
+            return &at->second;
+        }
+    }
+    return nullptr;
+}
+
+std::vector<JsonNode> parseJson(std::string_view text, const std::string &file) {
+    try {
+        return parse(text, file, false);
+    } catch (const FileError &) {
+        return parse(repairedJson(text), file, true);
+    }
+}
+
+} // namespace sandbox

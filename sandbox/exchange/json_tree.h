@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+//
+// JSON as a tree that keeps what a data model's dump needs: the order of members, members given twice, the text of
+// numbers, and lines.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace sandbox {
+
+struct JsonNode {
+    enum class Kind { Null, Flag, Number, Text, Object, Array };
+
+    Kind kind = Kind::Null;
+    size_t line = 0;
+    std::string text;                                       // of a flag, number or text
+    std::vector<std::pair<std::string, JsonNode>> children; // an array's have no names
+
+    bool isScalar() const { return kind != Kind::Object && kind != Kind::Array; }
+    // The last member of that name, as the last one holds; NULL for none.
+    const JsonNode *member(std::string_view name) const;
+};
+
+// One value after another, as in JSON Lines; usually a single one. Text that other programs get wrong is read as it
+// was meant: bytes that are not UTF-8 and control characters in texts stay as they are, and so do unknown escapes;
+// commas before a closing bracket are passed over. Throws FileError.
+std::vector<JsonNode> parseJson(std::string_view text, const std::string &file);
+
+} // namespace sandbox

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+//
+// Dumps of other programs, as files beside this one. NAME.expected holds the closing report and what the gateway then
+// exports; CALTOFAL_RECORD=1 writes it anew.
+#include "sandbox_fixture.h"
+
+#include "cal/cal_sandbox.h"
+#include "exchange/file_format.h"
+#include "exchange/gateway.h"
+#include "exchange/gateway_export.h"
+#include "exchange/gateway_import.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+using namespace sandbox;
+
+using DumpTest = SandboxTest;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string written(const std::string &gateway, FileFormat format) {
+    std::ostringstream out;
+    writeEntries(format, exportEntries(*openGateway(Location::named(gateway)), "", View::Both), out);
+    return out.str();
+}
+
+// The closing report; "" for a file of this project's own.
+std::string take(const std::string &gateway, const std::string &bytes, const std::string &file) {
+    FileContent content = contentOf(bytes, file);
+    ImportReport *report = content.report ? &*content.report : nullptr;
+    EXPECT_TRUE(createGateway(Location::named(gateway), content.entries, file, report)) << gateway;
+    return report ? report->text() : "";
+}
+
+std::vector<fs::path> dumps() {
+    std::vector<fs::path> files;
+    for (const fs::directory_entry &entry : fs::directory_iterator(DUMP_DIRECTORY)) {
+        if (entry.path().extension() != ".expected") {
+            files.push_back(entry.path());
+        }
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+} // namespace
+
+TEST_F(DumpTest, TakesEachFormIn) {
+    ASSERT_GT(dumps().size(), 10U);
+    for (const fs::path &dump : dumps()) {
+        const std::string name = dump.filename().string();
+        SCOPED_TRACE(name);
+        const std::string report = take(name, readFile(dump.string()), name);
+        const std::string gateway = written(name, FileFormat::Gateway);
+        const std::string got = report + "\n\n" + gateway;
+        const std::string expectedFile = dump.string() + ".expected";
+        if (getenv("CALTOFAL_RECORD")) {
+            std::ofstream(expectedFile) << got;
+        }
+        EXPECT_EQ(got, readFile(expectedFile));
+        for (const std::string &format : formatNames()) {
+            const std::string copy = name + "." + format;
+            EXPECT_EQ(take(copy, written(name, formatOf(format)), copy), "");
+            EXPECT_EQ(written(copy, FileFormat::Gateway), gateway) << format;
+        }
+    }
+}
+
+TEST_F(DumpTest, KeepsTheTypesOfAGatewayThatExists) {
+    FileContent content = contentOf(R"({"Device.Net.Host.2.Active": 0, "Device.Net.Host.7.Level": 200,
+        "Device.Info.Name": "", "Device.Info.UpTime": "43"})",
+                                    "values");
+    importEntries(*openGateway(location()), content.entries, "values", &*content.report);
+    const std::string report = content.report->text();
+    EXPECT_TRUE(report.starts_with("took in 4 of 4 values\n  kept as text, not of the parameter's type: 1, first "
+                                   "Device.Net.Host.7.Level: \"200\" is outside int(0:100)\n  this gateway"))
+        << report;
+    EXPECT_EQ(valueOf("Device.Net.Host.2", "Active"), "false");
+    EXPECT_EQ(setOne("Device.Net.Host.2", {{"Active", "maybe"}}), -205);
+    EXPECT_EQ(setOne("Device.Net.Host.7", {{"Level", "any"}}), 0);
+    EXPECT_EQ(valueOf("Device.Info", "Name"), "");
+}
+
+TEST_F(DumpTest, RefusesWhatHoldsNoGateway) {
+    struct Case {
+        const char *text;
+        const char *message;
+    };
+    const Case cases[] = {
+        {"[1, 2]", "x.json: no objects or values of a data model found in it"},
+        {"{\"a\": {\"b\": \"c\"}}", "x.json: no objects or values of a data model found in it"},
+        {"{\n\"Device.A.B\": tru\n}", "x.json:2: not JSON at \"tru\""},
+        {"{\n\"Device.A.B\": \"x\"", "x.json:2: the JSON ends in the middle"},
+        {"{\"Device.A.B\": null, \"definitions\": {}}",
+         "x.json:1: a value is text, a number, a flag or {\"hex\": \"digits\"}"},
+        {"{\"Device.A.B\": \"x\",\n\"definitions\": {\"Device.A.B\": \"unsignedInt\"}}",
+         "x.json:1: Device.A.B: \"x\" is not of type unsignedInt"},
+    };
+    for (const Case &row : cases) {
+        try {
+            take("none", row.text, "x.json");
+            ADD_FAILURE() << row.text;
+        } catch (const FileError &error) {
+            EXPECT_EQ(std::string(error.what()), row.message);
+        }
+        EXPECT_FALSE(fs::exists(location("none").storeFile()));
+    }
+}
+
+TEST_F(DumpTest, SaysWhyAPageOfAnotherMakersGatewayIsEmpty) {
+    take("older", "Parameter,Value\nInternetGatewayDevice.DeviceInfo.ModelName,x\n", "older");
+    take("other", "Parameter,Value\nDevice.DeviceInfo.ModelName,x\n", "other");
+    const struct {
+        const char *gateway, *object, *reason;
+    } cases[] = {
+        {"older", "Device.WiFi", "Device.WiFi: no such object; this gateway's model is TR-098"},
+        {"other", "Device.X_ZINTU_CurrentNetwork", "no such object; this gateway is of another maker"},
+        {"other", "Device.WiFi", ""},
+        {"lab", "Device.WiFi", ""},
+    };
+    for (const auto &row : cases) {
+        setenv("CALTOFAL_GATEWAY", row.gateway, 1);
+        EXPECT_EQ(cal_getValue(&Message::get(kLeafGet, row.object)->header), -202);
+        const std::string reason = cal_sandboxReason();
+        EXPECT_NE(reason.find(row.reason), std::string::npos) << reason;
+        EXPECT_EQ(reason.find(';') != std::string::npos, *row.reason != '\0') << reason;
+    }
+}
