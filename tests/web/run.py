@@ -8,12 +8,13 @@ sys.dont_write_bytecode = True
 
 # pylint: disable=wildcard-import,unused-wildcard-import,unused-import
 import changes
+import guide
 import jobs
 import load
 import resources
 import safety
 
 if __name__ == "__main__":
-    names = sys.argv[4:] or ["safety", "resources", "changes", "jobs", "load"]
+    names = sys.argv[4:] or ["safety", "resources", "changes", "jobs", "load", "guide"]
     result = unittest.TextTestRunner().run(unittest.defaultTestLoader.loadTestsFromNames(names))
     sys.exit(not result.wasSuccessful())
