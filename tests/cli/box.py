@@ -61,6 +61,15 @@ class Box(unittest.TestCase):
                 plain = self.run_tool(*words.split())
                 self.assertEqual((plain.code, plain.out, plain.err), (code, b"", f"caltofal: {message}\n"))
 
+    def test_an_end_point_without_a_reference_names_no_interface(self):
+        gateway = os.path.join(self.folder, "nameless.tr181")
+        with open(gateway, "w", encoding="ascii") as file:
+            file.write("Device.WiFi.EndPoint.1.SSIDReference =\n")
+        tool.sandbox("new", "nameless", "--from", "repeater", folder=self.folder)
+        tool.sandbox("import", "nameless", gateway, folder=self.folder)
+        result = self.run_tool("-g", "nameless", "wifi", "endpoint")
+        self.assertEqual((result.code, result.err), (10, "caltofal: end point 1 names no interface\n"))
+
     def test_a_stale_result_is_not_taken_for_a_new_one(self):
         self.assertEqual(self.run_tool("wifi", "scan", "wlan0", "--pace", "10", **QUICK).code, 0)
         stale = self.run_tool("wifi", "scan", "wlan0", "--pace", "1", CALTOFAL_BOX_SCAN_MS="5000")
