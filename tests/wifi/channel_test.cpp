@@ -61,7 +61,7 @@ TEST_F(Channels, List) {
     for (const Row &row : {Row{1, {on}, "wiphy 1", "iw phy phy1 show_channel", low},
                            Row{2, {on}, "", "iw phy phy2 show_channel", low + high + radar},
                            Row{2, {on, "IEEE80211hEnabled=0"}, "wiphy 3", "iw phy phy3 show_channel", low + high},
-                           Row{3, {}, "wiphy 3", "iw phy phy3 show_channel", low + high}}) {
+                           Row{3, {}, "wiphy 0", "iw phy phy0 show_channel", low + high}}) {
         const std::string radio = "Device.WiFi.Radio." + std::to_string(row.radio);
         platform().on(radio, {object(radio, row.settings)});
         shell().onPopen = [&](const std::string &command) { return command.starts_with("iw dev") ? row.phy : listing; };

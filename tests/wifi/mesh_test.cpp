@@ -34,7 +34,8 @@ std::string mesh(int line, const std::string &function, const std::string &text)
 
 TEST_F(Mesh, Switch) {
     expectEach("true=1&TRUE=1&1=1&yes=0&=0&10=0", [](const std::string &value) {
-        platform().on(kMesh, {object(kMesh, {"Other=0"}), object(kMesh, {"Enable=" + value, "Enable=x"})});
+        platform().on(kMesh, {object(kMesh, {"Other=0"}), object(kMesh, {"Enable=" + value, "Enable=x"}),
+                              object(kMesh, {"Enable=1"})});
         return std::to_string(ZINTU_meshgrove_check_is_enabled());
     });
     platform().on(kMesh, Reply{});
@@ -130,7 +131,7 @@ TEST_F(Mesh, Sync) {
     const std::string count = "gddbc -i -g /runtime/singlesignoninfo/livingslave/ishasrptslave";
     const std::string sync = count + "&gddbc -i -s /runtime/nimbord/sysnotifycmd \"\" ; killall -SIGUSR1 nimbord";
     struct Row {
-        const char *enabled, *mode; // mode: null when it can not be asked
+        const char *enabled, *mode; // mode: null when it cannot be asked
         std::string count, commands;
         int line;
         const char *traced;

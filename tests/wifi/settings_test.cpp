@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "replaced.h"
-#include "wifi/settings/snapshot.h"
 #include "wifi_support.h"
 
 #include <span>
@@ -10,6 +9,8 @@ using namespace test;
 namespace {
 
 using Settings = WifiTest;
+
+const std::string kLong(200, 'v');
 
 // The rows as "object.parameter=value".
 std::vector<std::string> rows(const WifiParamTable &table) {
@@ -23,90 +24,83 @@ std::vector<std::string> rows(const WifiParamTable &table) {
 TEST_F(Settings, SetParam) {
     const auto table = std::make_unique<WifiParamTable>();
     const std::string text(300, 'x');
+    for (const int count : {-1, 100}) { // no index, full
+        table->count = count;
+        EXPECT_EQ(-1, SetParam(table.get(), "o", "p", "v"));
+        EXPECT_EQ(count, table->count);
+    }
+    table->count = 99;
     EXPECT_EQ(-1, SetParam(nullptr, "o", "p", "v"));
     EXPECT_EQ(-1, SetParam(table.get(), nullptr, "p", "v"));
     EXPECT_EQ(-1, SetParam(table.get(), "o", nullptr, "v"));
     EXPECT_EQ(-1, SetParam(table.get(), "o", "p", nullptr));
-    EXPECT_EQ(0, table->count);
-    table->count = -1; // no index
-    EXPECT_EQ(-1, SetParam(table.get(), "o", "p", "v"));
-    EXPECT_EQ(-1, table->count);
-    table->count = 99;
     EXPECT_EQ(0, SetParam(table.get(), text.c_str(), text.c_str(), text.c_str()));
-    EXPECT_EQ(-1, SetParam(table.get(), "o", "p", "v"));
     EXPECT_EQ(text.substr(0, 254) + "." + text.substr(0, 254) + "=" + text.substr(0, 126), rows(*table).back());
 }
 
-TEST_F(Settings, KeptNames) {
-    for (const auto &[snapshot, kept] : {std::pair{&wifi::kSsidSnapshot, 20U}, {&wifi::kRadioSnapshot, 27U}}) {
-        ASSERT_EQ(kept, snapshot->index.first[wifi::kLongestName + 1]);
-        for (unsigned i = 0; i < kept; ++i) {
-            const std::string name = snapshot->names + snapshot->nameAt[snapshot->index.order[i]];
-            EXPECT_EQ(name, wifi::findKept(*snapshot, name.c_str()));
-            EXPECT_EQ("", wifi::findKept(*snapshot, (name + "x").c_str()));
-            EXPECT_EQ("", wifi::findKept(*snapshot, ("#" + name.substr(1)).c_str()));
-        }
-        for (const char *dropped : {"", "Name", "ChannelsInUse"}) {
-            EXPECT_EQ("", wifi::findKept(*snapshot, dropped));
-        }
-        EXPECT_EQ("", wifi::findKept(*snapshot, std::string(255, 'x').c_str()));
-    }
-}
+// A snapshot: what it asks for, and the parameters that come without being asked for by name.
+struct Snapshot {
+    int (*take)(int, WifiParamTable *);
+    std::string function, asked, unnamed, end;
+};
 
-TEST_F(Settings, Ssid) {
-    const std::string security = "Device.WiFi.AccessPoint.9.Security";
-    auto settings = parts("ModeEnabled=WPA2-Personal&WEPKey=&WEPKey=2&X_ZINTU_EncryptionType=e&RekeyingInterval=0&"
-                          "RadiusServerIPAddr=i&RadiusServerPort=1812&RadiusSecret=s&X_ZINTU_Wep_Encryption=n&"
-                          "X_ZINTU_Wep_KeyType=t&KeyPassphrase=" +
-                          std::string(126, 'k'));
-    std::vector<std::string> expected = {"before.p=v", "Device.WiFi.SSID.9.SSID=Home=Net"};
-    for (const std::string &setting : settings) {
-        expected.push_back(security + "." + setting);
-    }
-    settings.back() += "cut";
-    settings.insert(settings.begin(), {"ModesSupported=None", "modeEnabled=1"}); // not kept
-    platform().on(security,
-                  {object("Device.WiFi.SSID.9", {"SSID=Home=Net", "LowerLayers=x"}), object(security, settings)});
-    const auto table = std::make_unique<WifiParamTable>();
-    SetParam(table.get(), "before", "p", "v");
-    EXPECT_EQ(0, GetSsIdInfoFromFapiToBuff(9, table.get()));
-    EXPECT_EQ(expected, rows(*table));
-    EXPECT_EQ(parts("getValue 1/0x1100/2 Device.WiFi.SSID.9(Enable,X_ZINTU_Active,SSID,BSSID,X_ZINTU_NetworkType) "
-                    "Device.WiFi.AccessPoint.9(SSIDAdvertisementEnabled,IsolationEnable,X_ZINTU_WebUIAccessPermit,"
-                    "X_ZINTU_InternetOnly) Device.WiFi.AccessPoint.9.X_LANTIQ_COM_Vendor(MACAddressControlEnabled) "
-                    "Device.WiFi.AccessPoint.9.Security"),
-              platform().callTexts());
-    EXPECT_EQ(tag("GetSsIdInfoFromFapiToBuff") + "START_FUNCTION \n", console());
-    platform().on(security, {object("Device.WiFi.SSID.1", std::vector<std::string>(101, "SSID=x"))});
-    EXPECT_EQ(0, GetSsIdInfoFromFapiToBuff(9, table.get()));
-    EXPECT_EQ(100, table->count); // what does not fit is lost
-    platform().on(security, {object("Device.WiFi.SSID.9", {"SSID=x"})});
-    EXPECT_EQ(0, GetSsIdInfoFromFapiToBuff(9, nullptr)); // and without a table, all is
-    EXPECT_EQ(3, platform().releases());
-}
+const Snapshot kSnapshots[] = {
+    {GetSsIdInfoFromFapiToBuff, "GetSsIdInfoFromFapiToBuff",
+     "Device.WiFi.SSID.2(Enable,X_ZINTU_Active,SSID,BSSID,X_ZINTU_NetworkType) "
+     "Device.WiFi.AccessPoint.2(SSIDAdvertisementEnabled,IsolationEnable,X_ZINTU_WebUIAccessPermit,"
+     "X_ZINTU_InternetOnly) Device.WiFi.AccessPoint.2.X_LANTIQ_COM_Vendor(MACAddressControlEnabled) "
+     "Device.WiFi.AccessPoint.2.Security",
+     "ModeEnabled,X_ZINTU_EncryptionType,KeyPassphrase,RekeyingInterval,RadiusServerIPAddr,RadiusServerPort,"
+     "RadiusSecret,X_ZINTU_Wep_Encryption,X_ZINTU_Wep_KeyType,WEPKey",
+     ""},
+    {GetWireInfoFromFapiToBuff, "GetWireInfoFromFapiToBuff",
+     "Device.WiFi.Radio.2(Enable,Name,GuardInterval,BeaconPeriod,DTIMPeriod,FragmentationThreshold,RTSThreshold,"
+     "IEEE80211hEnabled,RegulatoryDomain,AutoChannelEnable,Channel,OperatingStandards,OperatingChannelBandwidth,"
+     "ExtensionChannel,TransmitPower,ChannelsInUse) "
+     "Device.WiFi.AccessPoint.9(WMMEnable,UAPSDEnable,X_ZINTU_WMMOption,X_ZINTU_WMMAckPolicy) "
+     "Device.WiFi.Radio.2.X_LANTIQ_COM_Vendor(Dot11dEnable,Dot11nProtection,WaveExplicitBeamforming,"
+     "VhtSUbeamformerEnabled,VhtGuardInterval,WaveInterfererDetectionThreshold,CoexEnabled,"
+     "WaveIgnore40MhzIntolerant,WaveMuOperation)",
+     "", "return [0] \n"}};
 
-TEST_F(Settings, Radio) {
-    platform().on("Device.WiFi.Radio.2.X_LANTIQ_COM_Vendor",
-                  {object("Device.WiFi.Radio.2", {"Name=wlan2", "Channel=36", "ChannelsInUse=36,40"}),
-                   object("Device.WiFi.AccessPoint.9", {"WMMEnable=1"})});
-    const auto table = std::make_unique<WifiParamTable>();
-    EXPECT_EQ(0, GetWireInfoFromFapiToBuff(2, table.get()));
-    EXPECT_EQ(parts("Device.WiFi.Radio.2.Channel=36&Device.WiFi.AccessPoint.9.WMMEnable=1"), rows(*table));
-    EXPECT_EQ(parts("getValue 1/0x1100/2 Device.WiFi.Radio.2(Enable,Name,GuardInterval,BeaconPeriod,DTIMPeriod,"
-                    "FragmentationThreshold,RTSThreshold,IEEE80211hEnabled,RegulatoryDomain,AutoChannelEnable,Channel,"
-                    "OperatingStandards,OperatingChannelBandwidth,ExtensionChannel,TransmitPower,ChannelsInUse) "
-                    "Device.WiFi.AccessPoint.9(WMMEnable,UAPSDEnable,X_ZINTU_WMMOption,X_ZINTU_WMMAckPolicy) "
-                    "Device.WiFi.Radio.2.X_LANTIQ_COM_Vendor(Dot11dEnable,Dot11nProtection,WaveExplicitBeamforming,"
-                    "VhtSUbeamformerEnabled,VhtGuardInterval,WaveInterfererDetectionThreshold,CoexEnabled,"
-                    "WaveIgnore40MhzIntolerant,WaveMuOperation)"),
-              platform().callTexts());
-    const std::string function = tag("GetWireInfoFromFapiToBuff");
-    EXPECT_EQ(function + "START_FUNCTION \n" + function + "return [0] \n", console());
-    EXPECT_EQ(-1, GetWireInfoFromFapiToBuff(1, table.get()));
-    EXPECT_EQ(2, table->count);
-    EXPECT_TRUE(console().ends_with(refused("GetWireInfoFromFapiToBuff") + function + "return [-1] \n"));
-    EXPECT_EQ(2, platform().releases());
-    EXPECT_NE(std::string::npos, platform().callTexts().back().find(" Device.WiFi.AccessPoint.1("));
+TEST_F(Settings, Snapshots) {
+    for (const Snapshot &snapshot : kSnapshots) {
+        // Every parameter, each between others of almost its name; the rows that they make go behind those before.
+        std::vector<std::string> params, expected = {"before.p=v"};
+        const std::string names = replaced(snapshot.asked + "," + snapshot.unnamed, "Device[A-Za-z0-9_.]*|[ ()]", ",");
+        for (const std::string &name : parts(replaced(names, ",+", "&"))) {
+            if (!name.empty()) {
+                params.insert(params.end(), {name + "x=1", "#" + name.substr(1) + "=2", name + "=3=" + kLong});
+                expected.push_back("Device.A." + name + "=3=" + kLong.substr(0, 124));
+            }
+        }
+        std::erase_if(expected, [](const std::string &row) {
+            return row.starts_with("Device.A.Name=") || row.starts_with("Device.A.ChannelsInUse=");
+        });
+        platform().otherwise({0, {object("Device.A", params)}});
+        const auto table = std::make_unique<WifiParamTable>();
+        SetParam(table.get(), "before", "p", "v");
+        EXPECT_EQ(0, snapshot.take(2, table.get()));
+        EXPECT_EQ(expected, rows(*table));
+        EXPECT_EQ("getValue 1/0x1100/2 " + snapshot.asked, platform().callTexts().back());
+        const std::string function = tag(snapshot.function);
+        const std::string start = function + "START_FUNCTION \n";
+        EXPECT_EQ(start + (snapshot.end.empty() ? "" : function + snapshot.end), console());
+        platform().otherwise({0, {object("Device.A", std::vector<std::string>(101, "Enable=1"))}});
+        EXPECT_EQ(0, snapshot.take(2, table.get()));
+        EXPECT_EQ(100, table->count);            // what does not fit is lost
+        EXPECT_EQ(0, snapshot.take(2, nullptr)); // without a table, all is
+        platform().otherwise({CALTOFAL_NO_MATCH, {}});
+        table->count = 1;
+        console();
+        EXPECT_EQ(-1, snapshot.take(1, table.get()));
+        EXPECT_EQ(1, table->count);
+        EXPECT_TRUE(console().ends_with(refused(snapshot.function) +
+                                        (snapshot.end.empty() ? "" : function + "return [-1] \n")));
+        EXPECT_NE(std::string::npos, platform().callTexts().back().find(" Device.WiFi.AccessPoint.1("));
+        EXPECT_EQ(4, platform().releases());
+        resetPlatform();
+    }
 }
 
 // A table of rows "object&parameter&value".
@@ -119,8 +113,6 @@ std::unique_ptr<WifiParamTable> table(const std::vector<std::string> &rows) {
     }
     return result;
 }
-
-const std::string kLong(200, 'v');
 
 TEST_F(Settings, Compare) {
     const auto current = table({"A&p&1", "B&p&2", "B&p&3", "B&q", "C&r&" + kLong});
@@ -164,10 +156,8 @@ TEST_F(Settings, RequestedBeforeCurrent) {
     const auto requested = table({"A&p&1"});
     const auto current = table({"A&p&2", "A&q&3"});
     expectEach("p 1=0&p 2=1&q 3=0&q 4=1&r =-1", [&](const std::string &wanted) {
-        const std::string parameter = wanted.substr(0, 1);
-        const std::string value = wanted.substr(2);
-        return std::to_string(
-            CheckGetReqDbAndCurDb(requested.get(), current.get(), "A", parameter.c_str(), value.c_str()));
+        return std::to_string(CheckGetReqDbAndCurDb(requested.get(), current.get(), "A", wanted.substr(0, 1).c_str(),
+                                                    wanted.substr(2).c_str()));
     });
     takeConsole();
     EXPECT_EQ(-1, CheckGetReqDbAndCurDb(nullptr, current.get(), "A", "q", "3"));
