@@ -23,7 +23,7 @@ Connection::~Connection() {
 }
 
 bool Connection::isCurrent(const std::string &file) const {
-    // What cannot be written may be changed by others behind its back: it is opened anew for each message.
+    // A store that this process cannot write may be changed without its knowledge: it is opened anew for each message.
     struct stat status {};
     return database_ && database_->isWritable() && file == file_ && stat(file.c_str(), &status) == 0 &&
            status.st_dev == device_ && status.st_ino == inode_;

@@ -17,7 +17,7 @@ class Trace {
     // Notes what is asked: a get loses it to its answer. `message` may be NULL or malformed. Never throws.
     Trace(const char *operation, const MsgHeader *message) noexcept;
 
-    // Writes the line; `reason` is "" for a success. A trace that can not be written is told once on standard error.
+    // Writes the line; `reason` is "" for a success. A trace that cannot be written is told once on standard error.
     void end(const std::string &gateway, int code, const char *reason) const noexcept;
 
   private:

@@ -27,7 +27,7 @@ struct ObjectWords {
 struct ParamWords {
     uint32_t paramId;
     uint32_t flags;
-    uint32_t valued; // not 0: the parameter was added with a value, be it an empty one
+    uint32_t valued; // not 0: the parameter was added with a value, also with an empty one
     uint32_t cut;
 };
 

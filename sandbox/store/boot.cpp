@@ -9,7 +9,7 @@
 namespace sandbox {
 namespace {
 
-// Instances that come and go; what is below them goes without saying.
+// Instances that come and go; what is below them comes and goes with them and is not listed.
 void addObjectDifferences(Database &database, std::vector<Difference> &differences) {
     Statement objects(database, "SELECT o.key, o.presence FROM object o LEFT JOIN object h ON h.id = o.parent "
                                 "WHERE o.presence <> 3 AND coalesce(h.presence, 3) = 3 ORDER BY o.key");

@@ -80,7 +80,7 @@ class Statement {
     Statement &operator=(const Statement &) = delete;
     ~Statement() { database_.giveBack(statement_); }
 
-    // The next row; false behind the last one.
+    // The next row; false after the last one.
     bool step();
     // Runs a statement that answers no rows.
     void run();

@@ -14,7 +14,7 @@ std::string localTime(bool milliseconds = false);
 std::string codeText(int code);
 
 // Appends a line to a file, which is made where it does not exist. One write, so that lines of several processes do not
-// mix. False, with errno set, when it can not be done.
+// mix. False, with errno set, when it cannot be done.
 bool appendLine(const std::string &file, const std::string &line);
 
 } // namespace sandbox

@@ -56,7 +56,7 @@ class Model {
     // Whether a set may add and delete instances of a table.
     void setWritable(int64_t table, bool writable);
 
-    // Adds a parameter behind the object's others, with its default value.
+    // Adds a parameter after the object's others, with its default value.
     void addParameter(std::string_view key, int64_t object, std::string_view name, int64_t definition);
     // The same with values.
     void addParameter(std::string_view key, int64_t object, std::string_view name, int64_t definition,

@@ -15,7 +15,7 @@
 namespace sandbox {
 namespace {
 
-// Behind a key, sorts between the object and everything below it.
+// After a key, sorts between the object and everything below it.
 constexpr char kFirstBelow = '\x01';
 
 using Names = std::vector<std::string>;
@@ -24,7 +24,7 @@ using Names = std::vector<std::string>;
 enum class Scope {
     Own,       // ?1 the object's key
     Instances, // ?1 the table's id
-    Branch,    // ?1 the first key, ?2 the first one behind the branch
+    Branch,    // ?1 the first key, ?2 the first one after the branch
 };
 
 const char *condition(Scope scope) {

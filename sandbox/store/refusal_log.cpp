@@ -24,7 +24,7 @@ void setAside(const std::string &file) {
 
 void logRefusal(const Location &location, const char *operation, int code, const char *reason) noexcept {
     if (!isGatewayName(location.name)) {
-        return; // nor does a file of that name belong to the sandbox
+        return; // a file of that name would not be the sandbox's
     }
     try {
         const std::string file = location.logFile();

@@ -15,11 +15,11 @@ namespace sandbox {
 // Opens a gateway. Throws a Refusal with CALTOFAL_NO_GATEWAY when there is none, or when the name is not a gateway's.
 std::unique_ptr<Database> openStore(const Location &location);
 
-// Whether the gateway exists. Throws a Refusal when it can not be told.
+// Whether the gateway exists. Throws a Refusal when it cannot be told.
 bool storeExists(const Location &location);
 
 // Makes a gateway; `fill` puts the model into its empty database. It appears whole or not at all. False when it exists
-// already, be it that another process made it in the meantime. What `fill` throws passes through.
+// already, also when another process has made it in the meantime. What `fill` throws passes through.
 bool createStore(const Location &location, const std::function<void(Database &)> &fill);
 
 // Whether there was such a gateway.

@@ -54,7 +54,7 @@ std::vector<TemplateMatch> Templates::matching(std::string_view key) const {
             matches.push_back({at->first, &at->second, std::move(pattern)});
         }
     }
-    // "{" sorts behind every digit and letter, so that going backwards meets "{i}" before an instance number.
+    // "{" sorts after every digit and letter, so that going backwards meets "{i}" before an instance number.
     std::reverse(matches.begin(), matches.end());
     return matches;
 }

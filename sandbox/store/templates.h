@@ -26,7 +26,7 @@ struct TemplateObject {
 struct TemplateMatch {
     std::string_view pattern;
     const TemplateObject *object;
-    std::vector<std::string_view> remainder; // the pattern's components behind those that the object matched
+    std::vector<std::string_view> remainder; // the pattern's components after those that the object matched
 };
 
 class Templates {

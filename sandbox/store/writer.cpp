@@ -76,7 +76,7 @@ class Writer {
 
     void remove(const std::string &key, const ObjectRow &object) {
         if (object.kind != ObjectKind::Instance) {
-            throw Refusal(CALTOFAL_NOT_A_TABLE, path_ + ": not an instance of a table, it can not be deleted");
+            throw Refusal(CALTOFAL_NOT_A_TABLE, path_ + ": not an instance of a table, it cannot be deleted");
         }
         refuseReadOnly(*findObject(database_, parentKey(key)));
         Model(database_, definitions_, noTemplates_).removeInstance(key, layers_);

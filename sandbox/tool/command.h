@@ -56,7 +56,7 @@ void addShell(Command &root, Tool &tool);
 // All of them, in the order in which help lists them.
 void addCommands(Command &root, Tool &tool);
 
-// Whether there is such a gateway, be it a demo that is made on first use.
+// Whether there is such a gateway; demos that are not made yet count.
 bool isGateway(const Location &location);
 
 // The key of an object path that a command was given. Throws a Failure.

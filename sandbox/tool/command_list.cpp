@@ -18,7 +18,7 @@ struct Gateway {
     bool exists = false;
     bool demo = false;
     bool chosen = false;
-    std::optional<int64_t> parameters; // empty: none yet, or the store can not be read
+    std::optional<int64_t> parameters; // empty: none yet, or the store cannot be read
     std::string trouble;
 };
 

@@ -23,7 +23,7 @@ int run(int argc, char **argv) {
         runCommandLine(argc, argv, tool);
         std::cout.flush();
         if (!std::cout) {
-            throw Failure("standard output can not be written");
+            throw Failure("standard output cannot be written");
         }
         return tool.exitCode;
     } catch (const Failure &failure) {

@@ -44,7 +44,7 @@ struct Entry {
 
 using Entries = std::vector<Entry>;
 
-// A file that can not be taken in: what() is "FILE:LINE: message", or "FILE: message" where the file as a whole fails.
+// A file that cannot be taken in: what() is "FILE:LINE: message", or "FILE: message" where the file as a whole fails.
 class FileError : public std::runtime_error {
   public:
     FileError(const std::string &file, size_t line, const std::string &message)

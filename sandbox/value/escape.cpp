@@ -57,7 +57,7 @@ std::string escaped(std::string_view text, bool quotes) {
     return out;
 }
 
-// The byte behind "\x"; -1 when there are no two digits.
+// The byte after "\x"; -1 when there are no two digits.
 int hexByte(std::string_view digits) {
     unsigned value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);

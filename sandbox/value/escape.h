@@ -19,7 +19,7 @@ bool isCleanText(std::string_view text);
 // Undoes \\ \n \r \t \" and \xHH. Empty for an unknown escape or a NUL byte.
 std::optional<std::string> unescape(std::string_view text);
 
-// A value as it stands behind " = ": backslashes, control characters and bytes that are no UTF-8 are escaped, and so
+// A value as it stands after " = ": backslashes, control characters and bytes that are not UTF-8 are escaped, and so
 // is a blank at the end, where nobody would see it.
 std::string escapeValue(std::string_view value);
 

@@ -22,13 +22,13 @@ constexpr size_t kPathMax = 255;
 // Stands for every instance number of a table in a pattern.
 constexpr std::string_view kAnyInstance = "{i}";
 
-// The key of a path with or without a final dot; empty when the text is no object path, or too long a one.
+// The key of a path with or without a final dot; empty when the text is not an object path, or is too long.
 std::optional<std::string> keyOf(std::string_view path);
 
 // The path of a key, without a final dot.
 std::string pathOf(std::string_view key);
 
-// The first key behind an object and everything below it.
+// The first key after an object and everything below it.
 std::string keyEnd(std::string_view key);
 
 // The key of the object that holds this one; "" for a root.
@@ -43,8 +43,8 @@ std::optional<uint32_t> instanceOf(std::string_view component);
 // The key of an instance of the table `tableKey`.
 std::string instanceKey(std::string_view tableKey, uint32_t instance);
 
-// A component of an object path that is no instance number, and a parameter's name: letters, digits (not digits alone),
-// "_" and, not in front, "-".
+// Whether the text can be a parameter's name, or a component of an object path that is not an instance number: letters,
+// digits (not digits alone), "_" and, not in front, "-".
 bool isName(std::string_view text);
 
 // The components of a path, key or pattern.

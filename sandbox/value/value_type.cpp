@@ -147,7 +147,7 @@ void ValueType::parseRanges(std::string_view text) {
         const bool numbers = (lowest.empty() || isDecimal(lowest)) && (highest.empty() || isDecimal(highest));
         const bool empty = lowest.empty() && highest.empty();
         if (!numbers || empty || (!lowest.empty() && !within(lowest, "", highest))) {
-            refuse(part, "is no range");
+            refuse(part, "is not a range");
         }
         ranges_.push_back({std::string(lowest), std::string(highest)});
     } while (!text.empty());

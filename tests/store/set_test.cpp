@@ -85,7 +85,7 @@ TEST_F(Set, RefusesAndChangesNothing) {
          kDelete,
          "Device.Net.Host",
          {},
-         "Device.Net.Host: not an instance of a table, it can not be deleted"},
+         "Device.Net.Host: not an instance of a table, it cannot be deleted"},
         {CALTOFAL_READ_ONLY, kDelete, "Device.Net.Fixed.1", {}, "Device.Net.Fixed.1: the table is read-only"},
         {CALTOFAL_BAD_MESSAGE, 0, "Device.Info", {}, "Device.Info: 0 is neither add (1), delete (2) nor set (4)"},
     };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Stores that can not be used.
+// Stores that cannot be used.
 #include "sandbox_fixture.h"
 
 #include "cal/cal_sandbox.h"
@@ -93,7 +93,7 @@ TEST_F(Trouble, WithAFullDisk) {
         if (setOne("Device.Pair", {{"Left", "1"}, {"Right", "1"}}) != CALTOFAL_STORE_FAILED) {
             return 1;
         }
-        setenv("CALTOFAL_GATEWAY", "home", 1); // can not be made
+        setenv("CALTOFAL_GATEWAY", "home", 1); // cannot be made
         return getInfo() == CALTOFAL_STORE_FAILED ? 0 : 2;
     });
     EXPECT_EQ(result, 0);

@@ -28,7 +28,7 @@ std::string environment(const char *variable, const char *fallback) {
 std::string realDirectory(const fs::path &directory) {
     const fs::path real = fs::canonical(directory);
     if (!fs::is_directory(real)) {
-        throw std::runtime_error(directory.string() + " is no directory");
+        throw std::runtime_error(directory.string() + " is not a directory");
     }
     return real.string();
 }

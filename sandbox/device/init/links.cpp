@@ -15,7 +15,7 @@ namespace {
 constexpr pid_t kStock = 2048;
 constexpr pid_t kMargin = 1024;
 
-// A link that can not be made is one that stands there already.
+// A link that cannot be made is one that stands there already.
 void link(const std::string &target, const std::string &path) {
     [[maybe_unused]] const int result = symlink(target.c_str(), path.c_str());
 }
@@ -36,7 +36,7 @@ bool isNumber(const std::string &name) {
     return std::all_of(name.begin(), name.end(), [](unsigned char c) { return std::isdigit(c) != 0; });
 }
 
-// The last number of /proc/loadavg; 0 when it can not be read.
+// The last number of /proc/loadavg; 0 when it cannot be read.
 pid_t lastProcess() {
     const std::string path = std::string(kKernelProc) + "/loadavg";
     const std::unique_ptr<FILE, int (*)(FILE *)> file(std::fopen(path.c_str(), "re"), std::fclose);

@@ -25,7 +25,7 @@ constexpr const char *kPriorities[] = {"emerg", "alert", "crit", "err", "warning
     throw std::system_error(errno, std::generic_category(), what);
 }
 
-// A message is "<PRIORITY>Mon DD HH:MM:SS TEXT": the line has the priority's word behind the time.
+// A message is "<PRIORITY>Mon DD HH:MM:SS TEXT": the line has the priority's word after the time.
 std::string lineOf(std::string_view message) {
     constexpr size_t kTimeLength = 15;
     const size_t end = message.find('>');

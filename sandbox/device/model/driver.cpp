@@ -197,7 +197,7 @@ void startDriver(const sandbox::Location &location, const std::string &directory
     const ssize_t length = read(ends[0], reason, sizeof(reason));
     close(ends[0]);
     if (length != 0) {
-        throw std::runtime_error(length < 0 ? "the driver can not be heard" : std::string(reason, reason + length));
+        throw std::runtime_error(length < 0 ? "the driver cannot be heard" : std::string(reason, reason + length));
     }
 }
 

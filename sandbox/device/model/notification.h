@@ -18,7 +18,7 @@ struct Notification {
     std::map<std::string, std::string> named; // "pv1" by what "pn1" says, and so on; any bytes
 };
 
-// Empty for what is no such object: malformed, not an object, without an identifier, or with values of other types.
+// Empty for anything else: malformed, not an object, without an identifier, or with values of other types.
 std::optional<Notification> parseNotification(std::string_view json);
 
 } // namespace device

@@ -20,7 +20,7 @@ struct Row {
     [[nodiscard]] bool has(std::string_view name) const { return values.contains(name); }
     // A flag, which gateways write as true, True or 1; `absent` where there is no such parameter.
     [[nodiscard]] bool flag(std::string_view name, bool absent = false) const;
-    // 0 for what is no number.
+    // 0 for what is not a number.
     [[nodiscard]] int number(std::string_view name) const;
 };
 
