@@ -62,9 +62,6 @@ bool isGateway(const Location &location);
 // The key of an object path that a command was given. Throws a Failure.
 std::string keyOfArgument(const std::string &path);
 
-// Takes the words after "--" off the arguments of `run`, exactly as they are: what is left is for the parser.
-void takeWords(int &argc, char **argv, Tool &tool);
-
 // Options that live as long as their command's work.
 template <typename Options>
 std::shared_ptr<Options> makeOptions() {

@@ -114,6 +114,17 @@ std::string faultOf(const CLI::App &app, const CLI::App &chosen, const CLI::Pars
     return message;
 }
 
+// Takes the words after "--" off the arguments of `run`, exactly as they are: what is left is for the parser.
+void takeWords(int &argc, char **argv, Tool &tool) {
+    using namespace std::string_view_literals;
+    char **const end = argv + argc;
+    char **const mark = std::find(argv, end, "--"sv);
+    if (mark != end && std::find(argv, mark, "run"sv) != mark) {
+        tool.words.assign(mark + 1, end);
+        argc = static_cast<int>(mark - argv);
+    }
+}
+
 } // namespace
 
 Command Command::add(const char *name, const char *meaning) {
@@ -179,6 +190,7 @@ Command &Command::runs(std::function<void()> work) {
 }
 
 void runCommandLine(int argc, char **argv, Tool &tool) {
+    takeWords(argc, argv, tool);
     CLI::App app("Gateways on a laptop: what the sandbox's configuration layer serves.", kName);
     app.set_version_flag("-V,--version", std::string(kName) + " " + CALTOFAL_VERSION, "Print the version");
     app.set_help_flag("-h,--help", "Print this help");

@@ -19,7 +19,6 @@ int fail(const std::exception &error, int exitCode) {
 int run(int argc, char **argv) {
     Tool tool;
     try {
-        takeWords(argc, argv, tool);
         runCommandLine(argc, argv, tool);
         std::cout.flush();
         if (!std::cout) {
