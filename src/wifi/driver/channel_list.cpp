@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The channels that a radio may use.
+#include "frame/bounded_text.h"
 #include "frame/lookup.h"
 #include "frame/message.h"
 #include "frame/pipe.h"
 #include "frame/range.h"
 #include "wifi/driver/channel_lines.h"
-#include "wifi/driver/command_text.h"
 #include "wifi/driver/file.h"
 #include "wifi/object_path.h"
 #include "wifi/wifi_trace.h"
@@ -18,19 +18,18 @@ using namespace wifi;
 
 namespace {
 
-// Writes the command that lists the channels. Where the radio's number is unknown, its name is taken from the
-// interface's.
-void writeListCommand(char (&command)[128], const char *ifname) {
+// Starts the tool that lists the channels. Where the radio's number is unknown, its name is taken from the interface's.
+Pipe startListing(const char *ifname) {
     const Place place(Unit::WifiUtil, __LINE__, "GetChannelList");
     const int phyNumber = GetPhyNumber(ifname);
     if (phyNumber < 0) {
         traceVola(place, "GetPhyNumber Fail!!!\n");
         const char *phyName = DevToPhy_Str(ifname, Interface_DevToPhy_Table, std::size(Interface_DevToPhy_Table));
-        formatCut(command, sizeof(command), "iw phy %s show_channel", phyName);
-    } else {
-        formatCut(command, sizeof(command), "iw phy phy%d show_channel", phyNumber);
-        traceVola(place, "GetPhyNumber %s\n", command);
+        return Pipe(BoundedText<128>("iw phy %s show_channel", phyName));
     }
+    const BoundedText<128> command("iw phy phy%d show_channel", phyNumber);
+    traceVola(place, "GetPhyNumber %s\n", command.c_str());
+    return Pipe(command);
 }
 
 // Whether the radio has 802.11h on; the last of several answers counts.
@@ -58,9 +57,7 @@ int GetChannelList(const char *ifname, int radioIndex, WifiChannelList *list) {
         return 0;
     }
     const ChannelRules rules = {radarAllowed(*message), radioIndex == 1};
-    char command[128];
-    writeListCommand(command, ifname);
-    Pipe pipe(command);
+    Pipe pipe = startListing(ifname);
     if (!pipe.started()) {
         traceVola(Unit::WifiUtil, "popen()");
         return 0;

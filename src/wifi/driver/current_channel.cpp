@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The channel in use.
+#include "frame/bounded_text.h"
 #include "frame/pipe.h"
 #include "frame/text.h"
-#include "wifi/driver/command_text.h"
 #include "wifi/driver/file.h"
 #include "wifi/driver/radio_text.h"
 #include "wifi/wifi_trace.h"
@@ -12,8 +12,7 @@ using namespace wifi;
 
 int GetCurrentChannel(const char *ifname, int /*ignored*/, int *channel) {
     traceStart();
-    char command[128];
-    formatCut(command, sizeof(command), "iwlist %s channel", ifname);
+    const BoundedText<128> command("iwlist %s channel", ifname);
     Pipe pipe(command);
     if (!pipe.started()) {
         traceVola(Unit::WifiUtil, "popen()");

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The upstream link of a repeater's endpoint.
+#include "frame/bounded_text.h"
 #include "frame/pipe.h"
 #include "frame/text.h"
-#include "wifi/driver/command_text.h"
 #include "wifi/driver/endpoint_lines.h"
 #include "wifi/driver/file.h"
 #include "wifi/wifi_trace.h"
@@ -13,10 +13,8 @@ using namespace wifi;
 namespace {
 
 // The file that a command leaves its output in; both queries use the same one.
-struct PeerFile {
-    explicit PeerFile(const char *ifname) { formatCut(path, sizeof(path), "/tmp/wlan_wave/%s_peer_info", ifname); }
-
-    char path[128];
+struct PeerFile : BoundedText<128> {
+    explicit PeerFile(const char *ifname) : BoundedText("/tmp/wlan_wave/%s_peer_info", ifname) {}
 };
 
 // Runs a command and opens the file that it wrote. A file that is missing is traced by a pattern, not by its path.
@@ -26,7 +24,7 @@ bool openOutput(const char *command, File &file, const PeerFile &output, const c
         traceVola(place, "%s system command fail\n", command);
         return false;
     }
-    if (!file.open(output.path)) {
+    if (!file.open(output)) {
         traceVola(place, "%s does not exist\n", missing);
         return false;
     }
@@ -40,11 +38,9 @@ int GetEPContection(const char *ifname, char *macOut) {
         return 0;
     }
     const PeerFile peers(ifname);
-    char command[256];
-    formatCut(command, sizeof(command),
-              "cat /proc/net/mtlk/%s/PeerFlowStatus | grep \"STA MAC\" | "
-              "sed -e 's/: STA MAC//' -e 's/\\t//' -e 's/ //g' > %s",
-              ifname, peers.path);
+    const BoundedText<256> command("cat /proc/net/mtlk/%s/PeerFlowStatus | grep \"STA MAC\" | "
+                                   "sed -e 's/: STA MAC//' -e 's/\\t//' -e 's/ //g' > %s",
+                                   ifname, peers.c_str());
     File file;
     char line[kLineSize];
     if (!openOutput(command, file, peers, "/tmp/wlan_wave/%s_peer_info", __func__) || !file.readLine(line) ||
@@ -62,10 +58,9 @@ int ReqEPChannelInfo(const char *ifname, int32_t *values) {
         return 0;
     }
     const PeerFile figures(ifname);
-    char command[256];
-    formatCut(command, sizeof(command),
-              "cat /proc/net/mtlk/%s/channel | grep -e width: -e primary_channel: | sed 's/[^0-9]*//g' > %s", ifname,
-              figures.path);
+    const BoundedText<256> command(
+        "cat /proc/net/mtlk/%s/channel | grep -e width: -e primary_channel: | sed 's/[^0-9]*//g' > %s", ifname,
+        figures.c_str());
     File file;
     // The pattern of the survey's file: hosts know this trace as it is.
     if (!openOutput(command, file, figures, "/tmp/wlan_wave/%s_scan_by_User.result", __func__)) {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The radio behind a network interface.
 #include "caltofal.h"
+#include "frame/bounded_text.h"
 #include "frame/pipe.h"
-#include "wifi/driver/command_text.h"
 #include "wifi/driver/radio_text.h"
 
 using namespace frame;
@@ -12,8 +12,7 @@ int GetPhyNumber(const char *ifname) {
     if (!ifname || !*ifname) {
         return -1;
     }
-    char command[128];
-    formatCut(command, sizeof(command), "iw dev %s info | grep \"wiphy\"", ifname);
+    const BoundedText<128> command("iw dev %s info | grep \"wiphy\"", ifname);
     Pipe pipe(command);
     if (!pipe.started()) {
         return -1;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The stations of an access point.
+#include "frame/bounded_text.h"
 #include "frame/pipe.h"
-#include "wifi/driver/command_text.h"
 #include "wifi/driver/file.h"
 #include "wifi/driver/station_lines.h"
 #include "wifi/wifi_trace.h"
@@ -18,19 +18,17 @@ int GetStaInfo(const char *ifname, const char *macFilter, WifiStaList *list) {
         return list ? static_cast<int>(list->count) : 0;
     }
     memset(list, 0, sizeof(*list));
-    char path[128];
-    formatCut(path, sizeof(path), "/tmp/wlan_wave/sta_info_%s", ifname);
-    char command[200];
-    formatCut(command, sizeof(command),
-              "cat /proc/net/mtlk/%s/PeerFlowStatus | grep 'STA MAC\\| Short-term RSSI average per antenna' > %s",
-              ifname, path);
+    const BoundedText<128> path("/tmp/wlan_wave/sta_info_%s", ifname);
+    const BoundedText<200> command(
+        "cat /proc/net/mtlk/%s/PeerFlowStatus | grep 'STA MAC\\| Short-term RSSI average per antenna' > %s", ifname,
+        path.c_str());
     if (!runShell(command)) {
         traceVola(Unit::WifiUtil, "system is Failure\n");
         return 0;
     }
     File file;
     if (!file.open(path)) {
-        traceVola(Unit::WifiUtil, "%s does not exist\n", path);
+        traceVola(Unit::WifiUtil, "%s does not exist\n", path.c_str());
         return 0;
     }
     StationParser parser(macFilter && isValidMacAddress(macFilter) != 0 ? macFilter : nullptr, *list);
