@@ -24,7 +24,7 @@ enum class Takes { One, Several };
 struct Listed {
     std::string_view object, setting, list;
     Takes takes = Takes::One;
-    std::string_view always = ""; // a value that needs no mention
+    std::string_view always = {}; // a value that needs no mention
 };
 
 constexpr Listed kListed[] = {

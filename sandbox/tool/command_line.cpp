@@ -93,7 +93,7 @@ std::string strangerOf(const std::vector<std::string> &rest, bool command) {
 
 // What is wrong. The parser's texts begin with the argument's name, up to a colon or a blank.
 std::string faultOf(const CLI::App &app, const CLI::App &chosen, const CLI::ParseError &error) {
-    const std::string message = error.what();
+    std::string message = error.what();
     const std::string name = message.substr(0, message.find_first_of(": "));
     const bool group = chosen.get_require_subcommand_min() > 0;
     if (const std::vector<std::string> rest = app.remaining(true); !rest.empty()) {

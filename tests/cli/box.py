@@ -115,8 +115,9 @@ class Box(unittest.TestCase):
         scans = [subprocess.Popen(words, env=tool.environment(self.folder), stdout=subprocess.PIPE,
                                   stderr=subprocess.PIPE) for _ in range(2)]
         ends = sorted((scan.communicate(timeout=60)[1], scan.returncode) for scan in scans)
-        self.assertEqual(ends[1], (b"caltofal: another scan on wlan0 is under way\n", 1))
-        self.assertEqual(ends[0][1], 0)
+        self.assertEqual(ends[0], (b"caltofal: another scan on wlan0 is under way\n", 1))
+        self.assertEqual(ends[1][1], 0)
+        self.assertIn(b"caltofal: the sandbox made these networks up\n", ends[1][0])
 
     def test_mesh_sync_does_nothing_where_nothing_is_to_do(self):
         for steps, reason in (((), "the mesh is off"),

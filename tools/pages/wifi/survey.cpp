@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <fstream>
 #include <span>
 #include <unistd.h>
 
@@ -90,6 +91,15 @@ std::vector<InterfaceName> interfacesWithResult() {
     return names;
 }
 
+// What the device box says of a result, in a word beside it.
+bool isMadeUp(const std::string &resultFile) {
+    std::string word;
+    std::ifstream(resultFile.substr(0, resultFile.rfind('.')) + ".source") >> word;
+    return word == "made-up";
+}
+
+constexpr const char *kMadeUp = "the sandbox made these networks up";
+
 Report surveyOfAll(const std::string &ssid) {
     const std::vector<InterfaceName> names = interfacesWithResult();
     if (names.empty()) {
@@ -110,7 +120,11 @@ Report surveyOfAll(const std::string &ssid) {
     if (const std::string complaint = output.end(); !complaint.empty()) {
         failOfShell("the results cannot be joined", complaint);
     }
-    return surveyReport(all, ssid);
+    Report result = surveyReport(all, ssid);
+    if (std::any_of(names.begin(), names.end(), [](const auto &name) { return isMadeUp(surveyFile(name)); })) {
+        result.notes.emplace_back(kMadeUp);
+    }
+    return result;
 }
 
 } // namespace
@@ -151,6 +165,9 @@ Report surveyReport(const std::string &file, const std::string &ssid) {
             throw Failure(Category::Absent, "the network \"" + ssid + "\" was not found");
         }
         result.notes.emplace_back("no networks found");
+    }
+    if (count > 0 && isMadeUp(file)) {
+        result.notes.emplace_back(kMadeUp);
     }
     if (lost > 0) {
         result.notes.push_back(std::to_string(lost) + (lost == 1 ? " line" : " lines") +
