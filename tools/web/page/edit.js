@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Forms in a dialog: what a change would write is shown before it is saved, a refusal stands beside its field.
-import {ApiError, button, el, morph, say, send, visible} from "./kit.js";
-import {changesOf, changeTable, isSecret, noteWritten} from "./written.js";
+import {ApiError, button, el, morph, say, send, visible} from "./main.js";
+import {changesOf, changeTable, noteWritten} from "./written.js";
 
 const PREVIEW_DELAY_MS = 300;
+const HIDDEN = "(hidden)"; // what stands in place of a secret
 
 // {name, label, value, options, hint, reveal(), write(value)}: options are values or [value, label]; reveal() reads a
 // secret; write() says what to ask for, by default {name: value}.
@@ -24,7 +25,9 @@ class Field {
       return el("select", common, pairs.map(([one, label = one]) => el("option", {value: one, selected: one === value}, label)));
     }
     if (typeof value === "boolean") return el("input", {...common, type: "checkbox", checked: value});
-    return el("input", {...common, type: isSecret(name) ? "password" : "text", value, autocomplete: "new-password", spellcheck: "false"});
+    const hidden = value === HIDDEN;
+    return el("input", {...common, type: hidden ? "password" : "text", value: hidden ? "" : value, autocomplete: "new-password",
+      spellcheck: "false"});
   }
 
   get value() { return this.input.type === "checkbox" ? this.input.checked : this.input.value; }

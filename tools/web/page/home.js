@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The home network: its addresses, the hosts in it, the set-top box.
-import {connected, el, facts, figure, getStatus, name, note, onOff, pair, part, table} from "./kit.js";
-
-const order = host => (host.IPAddress ?? "").split(".").reduce((sum, byte) => sum * 256 + Number(byte), host.Active ? 0 : 2 ** 33);
-
-export const HOSTS = "objects?path=Device.Hosts.Host&leaf=1";
-// The hosts of its answer: those that are here first.
-export const hostsOf = answer => Object.entries(answer).map(([path, host]) => ({...host, path})).sort((a, b) => order(a) - order(b));
+import {connected, el, facts, figure, getStatus, name, note, onOff, pair, part, table} from "./main.js";
 
 const ipv4 = lan => facts(["Address", lan.address], ["Subnet mask", lan.subnet_mask], ["MAC address", lan.mac_address],
   ["DHCP server", onOff(lan.dhcp_active)], ["Hands out", lan.dhcp_start && `${lan.dhcp_start} to ${lan.dhcp_end}`],
@@ -17,22 +11,17 @@ const ipv6 = lan => facts(["State", onOff(lan.active)], ["Address", lan.address 
   ["Name servers", [lan.dns1, lan.dns2].filter(Boolean).join(", ")], ["Domain", lan.domain]);
 
 const COLUMNS = [
-  ["Host", host => name(host.HostName)],
-  ["State", host => connected(host.Active, "Away")],
-  ["Address", "IPAddress"],
-  ["MAC address", "PhysAddress"],
-  ["By", "InterfaceType"],
-  // A time of the year 1 says that there is none.
-  ["Since", host => host.ActiveLastChange?.replace(/^0001.*/, "").slice(0, 16).replace("T", " ")]];
+  ["Host", host => name(host.name)],
+  ["State", host => connected(host.active, "Away")],
+  ["Address", "address"],
+  ["MAC address", "mac"],
+  ["By", "type"]];
 
-function hostTable(answer) {
-  const hosts = hostsOf(answer);
-  return [note(`${hosts.filter(host => host.Active).length} of ${hosts.length} are connected.`),
-    table("Hosts", COLUMNS, hosts, "path", "No host has been seen yet.")];
-}
+const hostTable = ({hosts}) => [note(`${hosts.filter(host => host.active).length} of ${hosts.length} are connected.`),
+  table("Hosts", COLUMNS, [...hosts].sort((a, b) => b.active - a.active), "number", "No host has been seen yet.")];
 
 export default {
-  load: () => getStatus({hosts: HOSTS}),
+  load: () => getStatus({hosts: "hosts"}),
   render: ({lan, hosts, iptv}) => [
     part("LAN", lan, value => pair(el("div", el("h3", "IPv4"), value.ipv4 && ipv4(value.ipv4)),
       el("div", el("h3", "IPv6"), value.ipv6 && ipv6(value.ipv6)))),

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The way to the Internet: WAN, name servers, IPv6, the line with its rates and margins, two WANs.
-import {bar, connected, el, facts, figure, getStatus, note, onOff, pair, part, quiet, rate} from "./kit.js";
+import {bar, connected, el, facts, figure, getStatus, note, onOff, pair, part, quiet, rate} from "./main.js";
 
 const WORDS = {pppoe: "PPPoE", pppoa: "PPPoA", dynamic: "DHCP", static: "fixed addresses", dhcpv6: "DHCPv6", slaac: "SLAAC",
   vdsl: "VDSL", adsl: "ADSL", ethernet: "Ethernet", wifi: "Wi-Fi", ondemand: "on demand", manual: "by hand",

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What takes long: started, asked for its progress, cancelled. A job outlives the view that started it.
-import {ApiError, button, el, figure, get, say, send} from "./kit.js";
-import {redraw, refresh} from "./main.js";
+import {ApiError, button, el, figure, get, redraw, refresh, say, send} from "./main.js";
 
 const PACE_MS = 500;
 const running = new Map(); // label → the job's latest answer
@@ -43,5 +42,5 @@ export function progress(label) {
   const {elapsed = 0, of} = job;
   return el("p.progress", el("progress", {"aria-label": label, max: of, value: of && elapsed}),
     of ? figure(Math.max(0, of - elapsed), "s left") : figure(elapsed, "s"),
-    job.id && button("Cancel", () => send("DELETE", `jobs/${job.id}`), label));
+    job.id && button("Cancel", () => send("DELETE", `jobs/${job.id}`).catch(error => say(error.message)), label));
 }

@@ -1,7 +1,175 @@
 // SPDX-License-Identifier: MIT
-// The page: its views, the way between them, values that refresh by themselves. The overview is here, as the page begins
-// with it; the other views are loaded when they are first shown.
-import {answered, bandName, connected, el, facts, getStatus, link, morph, note, onOff, pair, part, rate, table} from "./kit.js";
+// The page: asking the gateway; what views are made of; the overview; the way between the views and their refreshing.
+// One file, as the first view is to need few; the other views are loaded when they are first shown. Text from the gateway
+// only ever becomes text: nothing here parses markup.
+
+export class ApiError extends Error {
+  constructor(status, error) {
+    super(error.message);
+    this.status = status;
+  }
+}
+
+// How the server was last found: "ok", "lost" (no answer) or "ended" (it no longer knows this session).
+export const link = {state: "ok"};
+const kept = new Map(); // path → {tag, value} of its last answer
+
+async function ask(method, path, headers, body) {
+  let response;
+  try {
+    response = await fetch(`/api/v1/${path}`, {method, headers, body, cache: "no-store"});
+  } catch {
+    link.state = "lost";
+    throw new ApiError(0, {message: "The server cannot be reached."});
+  }
+  link.state = response.status === 401 ? "ended" : "ok";
+  if (response.ok || response.status === 304) return response;
+  const answer = await response.json().catch(() => ({}));
+  throw new ApiError(response.status, answer.error ?? {message: `The server answered ${response.status}.`});
+}
+
+// A resource: the same object again for as long as the server says that it is the same.
+export async function get(path) {
+  const before = kept.get(path);
+  const response = await ask("GET", path, before ? {"If-None-Match": before.tag} : {});
+  if (response.status === 304) return before.value;
+  const value = await response.json(), tag = response.headers.get("ETag");
+  if (tag) kept.set(path, {tag, value});
+  return value;
+}
+
+// {name: path} becomes {name: {value} or {error}}; fails as a whole only when no server answers.
+export async function getAll(paths) {
+  return Object.fromEntries(await Promise.all(Object.entries(paths).map(async ([name, path]) => {
+    try {
+      return [name, {value: await get(path)}];
+    } catch (error) {
+      if (link.state !== "ok" || !(error instanceof ApiError)) throw error;
+      return [name, {error}];
+    }
+  })));
+}
+
+// The pages of `status` in the same form, with more that getAll() asks for.
+export async function getStatus(more) {
+  const [status, others] = await Promise.all([get("status"), getAll(more)]);
+  const pages = Object.entries(status).map(([name, value]) =>
+    [name, value?.error ? {error: new ApiError(value.error.exit === 10 ? 404 : 500, value.error)} : {value}]);
+  return {...Object.fromEntries(pages), ...others};
+}
+
+// A change: its answer, null when there is none.
+export async function send(method, path, body) {
+  const response = await ask(method, path, {"Content-Type": "application/json"}, JSON.stringify(body));
+  return response.json().catch(() => null);
+}
+
+const HANDLERS = ["onclick", "oninput", "onsubmit"];
+const given = value => value !== false && (value ?? null) !== null;
+
+// el("p.note", {id: "x", onclick: f}, "text", child, [more]): what is null or false is left out.
+export function el(kind, ...rest) {
+  const [tag, ...classes] = kind.split(".");
+  const node = document.createElement(tag);
+  if (classes.length) node.className = classes.join(" ");
+  const attributes = rest[0]?.constructor === Object ? rest.shift() : {};
+  for (const [key, value] of Object.entries(attributes)) {
+    if (HANDLERS.includes(key)) node[key] = value;
+    else if (given(value)) node.setAttribute(key, value === true ? "" : value);
+  }
+  node.append(...rest.flat(9).filter(given));
+  return node;
+}
+
+function morphNode(old, next) {
+  if (old.nodeName !== next.nodeName || old.dataset?.key !== next.dataset?.key) return old.replaceWith(next);
+  if (old.nodeType === Node.TEXT_NODE) {
+    if (old.data !== next.data) old.data = next.data;
+    return;
+  }
+  for (const handler of HANDLERS) old[handler] = next[handler];
+  if ("own" in old.dataset) return;
+  // Whether a disclosure is open is the reader's affair.
+  for (const {name} of [...old.attributes]) if (name !== "open" && !next.hasAttribute(name)) old.removeAttribute(name);
+  for (const {name, value} of next.attributes) if (old.getAttribute(name) !== value) old.setAttribute(name, value);
+  morph(old, next.childNodes);
+}
+
+// Makes the children of a node like those given and touches only what differs, so that focus, selection, scrolling and
+// open disclosures survive. An element with data-own keeps what it has.
+export function morph(parent, fresh) {
+  const wanted = [...fresh], present = [...parent.childNodes];
+  wanted.forEach((next, index) => (present[index] ? morphNode(present[index], next) : parent.append(next)));
+  present.slice(wanted.length).forEach(old => old.remove());
+}
+
+// What would not be seen, or would turn the direction of what follows, is spelled out.
+const UNSEEN = /[\0-\x1f\x7f-\x9f\u00ad\u061c\u180e\u200b-\u200f\u2028-\u202e\u2060-\u206f\ufeff\ufff9-\ufffb]/g;
+export const visible = text => String(text).replace(UNSEEN, c => `\\u${c.charCodeAt(0).toString(16).padStart(4, "0")}`);
+
+export const quiet = (...text) => el("span.quiet", text);
+export const note = (...text) => el("p.quiet", text);
+const shown = value => (value ?? "") === "" ? quiet("–") : typeof value === "object" ? value : visible(value);
+
+// A name that came from the air or from a client.
+export const name = (text, empty = "(no name)") => text ? el("bdi", visible(text)) : quiet(empty);
+
+export const figure = (value, unit, digits = 0) => typeof value === "number"
+  ? el("span.figure", value.toFixed(digits), " ", el("span.unit", unit)) : quiet("–");
+export const rate = kbit => kbit < 1000 ? figure(kbit, "kbit/s") : figure(kbit / 1000, "Mbit/s", 1);
+export const bandName = band => ({"2.4g": "2.4 GHz", "5g": "5 GHz"})[band] ?? band;
+
+// A state in words; `kind` (good, bad, off) adds a mark of its own shape and colour.
+export const state = (word, kind) => el(`span.state.${kind}`, visible(word));
+export const onOff = on => on ? state("On", "good") : state("Off", "off");
+export const connected = (is, otherwise, kind = "off") => is ? state("Connected", "good") : state(otherwise, kind);
+
+// How much of a whole there is.
+export function bar(label, part, whole, weak) {
+  const share = Math.round(100 * Math.max(0, Math.min(1, whole ? part / whole : 0)));
+  const fill = el("span.fill");
+  fill.style.width = `${share}%`;
+  return el(`span.bar${weak ? ".weak" : ""}`, {role: "meter", "aria-label": label, "aria-valuenow": share}, fill);
+}
+
+export const facts = (...rows) => el("dl", rows.filter(Boolean).map(([term, value]) => el("div", el("dt", term), el("dd", shown(value)))));
+
+// Columns of [head, content, kind]: content is a member's name or content(row), kind "count" for figures and "act" for
+// buttons. On a narrow screen a row becomes a list of heads and cells, which is why the roles are spelled out. `key` is
+// the content that gives a row its identity over refreshes.
+export function table(label, columns, rows, key, empty) {
+  if (!rows.length) return note(empty);
+  const of = (content, row) => typeof content === "function" ? content(row) : row[content];
+  const row = (cells, attributes) => el("tr", {role: "row", ...attributes}, columns.map(cells));
+  return el("table", {role: "table", "aria-label": label},
+    el("thead", {role: "rowgroup"}, row(([head, , kind = "text"]) => el(`th.${kind}`, {role: "columnheader"}, el("span", head)))),
+    el("tbody", {role: "rowgroup"}, rows.map(one => row(([head, content, kind = "text"], index) => el(`${index ? "td" : "th"}.${kind}`,
+      {role: index ? "cell" : "rowheader", "data-head": head}, shown(of(content, one))), {"data-key": of(key, one)}))));
+}
+
+// `title` may go with buttons: [title, ...buttons].
+export function section(title, ...content) {
+  const [text, ...buttons] = [title].flat(9);
+  return el("section", {"aria-label": text, "data-key": text}, el("div.head", el("h2", text), el("div.actions", buttons)), content);
+}
+export const pair = (...parts) => el("div.pair", parts);
+
+// `subject` completes the name for those who do not see what stands around it.
+export const button = (label, onclick, subject) =>
+  el("button", {type: "button", onclick, "aria-label": subject && `${label} ${subject}`}, label);
+
+// What a view makes of an answer; `thing` is what is missing where there is none.
+export const answered = ({value, error}, show, thing) => !error ? show(value) : error.status === 404 && thing
+  ? note(`This gateway has no ${thing}.`) : el("p", el("strong.refused", "Not available. "), visible(error.message));
+export const part = (title, answer, show, thing) => section(title, answered(answer, show, thing));
+
+// For a screen reader and the corner of the eye: something was done.
+let saidTimer;
+export function say(text) {
+  document.getElementById("said").textContent = text;
+  clearTimeout(saidTimer);
+  saidTimer = text && setTimeout(say, 6000, "");
+}
 
 const REFRESH_MS = 5000;
 
@@ -56,7 +224,6 @@ export async function refresh() {
     if (mine !== turn) return;
     if (link.state === "ok" || !data) morph(content, [title(), answered({error})]);
   }
-  content.setAttribute("data-view", current.route);
   content.removeAttribute("aria-busy");
   showLink();
   if (!document.hidden && link.state !== "ended") timer = setTimeout(refresh, REFRESH_MS);

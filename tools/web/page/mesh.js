@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The roaming mesh with its satellites, and the uplink of a repeater.
-import {button, connected, el, facts, figure, getAll, name, onOff, part, table} from "./kit.js";
 import {openForm} from "./edit.js";
 import {jobButton, progress} from "./jobs.js";
-import {refresh} from "./main.js";
+import {button, connected, el, facts, figure, getAll, name, onOff, part, refresh, table} from "./main.js";
 
 const change = mesh => openForm({title: "Mesh", path: "mesh", done: refresh,
   fields: [{name: "enabled", label: "Mesh on", value: mesh.enabled}]});

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The whole data model: found by words, read, changed.
-import {button, el, getAll, name, note, part, quiet, table, visible} from "./kit.js";
 import {openForm} from "./edit.js";
-import {redraw, refresh} from "./main.js";
-import {isSecret} from "./written.js";
+import {button, el, getAll, name, note, part, quiet, redraw, refresh, table, visible} from "./main.js";
 
 const MOST = 200; // rows at once
 let words = "", kept, rows;
@@ -29,7 +27,7 @@ function search(text) {
 
 const change = row => openForm({title: row.path, path: "objects", done: refresh,
   body: asked => ({[row.object]: asked}),
-  fields: [{name: row.parameter, label: row.parameter, value: isSecret(row.parameter) ? "" : row.value}]});
+  fields: [{name: row.parameter, label: row.parameter, value: row.value}]});
 
 const COLUMNS = [
   ["Parameter", row => el("code", visible(row.path))],

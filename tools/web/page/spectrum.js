@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Draws the channel chart of a band with Chart.js. What stands where comes from channels.js.
 import {axisOf, centreMhz, colourOf, humpOf, isRadar, placeLabels, positionOf} from "./channels.js";
-import {visible} from "./kit.js";
+import {visible} from "./main.js";
 
 const FLOOR_DBM = -100, TOP_DBM = -20;
 const OWN_DBM = -30; // the gateway does not hear itself: its own networks stand highest
@@ -122,5 +122,6 @@ export async function drawSpectrum(place, band, possible, networks) {
       plugins: [{id: "channels", beforeDatasetsDraw: drawRadar, afterDatasetsDraw: drawNames}]});
     charts.set(band, chart);
   }
-  chart.canvas.setAttribute("aria-label", `${networks.length} networks by channel and signal, as in the table below`);
+  const label = `${networks.length} networks by channel and signal, as in the table below`;
+  if (chart.canvas.ariaLabel !== label) chart.canvas.ariaLabel = label;
 }

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Wi-Fi: radios, networks, channels with the networks around, stations, WPS.
 import {isRadar, networksOf} from "./channels.js";
-import {answered, bandName, bar, button, el, figure, get, getAll, name, note, onOff, part, quiet, say, section, state,
-  table} from "./kit.js";
-import {HOSTS, hostsOf} from "./home.js";
 import {isRunning, jobButton, progress} from "./jobs.js";
-import {refresh} from "./main.js";
+import {answered, bandName, bar, button, el, figure, get, getAll, name, note, onOff, part, quiet, refresh, say,
+  section, state, table} from "./main.js";
 import {drawSpectrum, networkColour} from "./spectrum.js";
 import {editRadio, editSsid} from "./wifi_forms.js";
 
@@ -13,7 +11,7 @@ const possible = new Map(); // interface → its channels, which do not change w
 let scanned = true; // false when there is no result of a scan to ask for
 
 async function load() {
-  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", hosts: HOSTS, ...scanned && {survey: "wifi/survey"}});
+  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", hosts: "hosts", ...scanned && {survey: "wifi/survey"}});
   scanned = base.survey?.error?.status !== 404 && scanned;
   const radios = base.radios.value?.radios ?? [], ssids = base.ssids.value?.ssids ?? [];
   const serving = ssids.filter(ssid => ssid.enabled && ssid.active && ssid.network !== "uplink");
@@ -94,11 +92,11 @@ function spectrum(radio, data) {
 function stationTable({serving, stations, hosts}) {
   const failed = Object.values(stations).find(answer => answer.error);
   if (failed) return answered(failed);
-  const known = new Map(hostsOf(hosts.value ?? {}).map(host => [host.PhysAddress?.toUpperCase(), host]));
+  const known = new Map(hosts.value?.hosts.map(host => [host.mac.toUpperCase(), host.name]));
   const all = serving.flatMap(ssid => stations[ssid.interface].value.stations.map(station =>
     ({...station, ssid, host: known.get(station.mac.toUpperCase())}))).sort((a, b) => b.rssi_dbm - a.rssi_dbm);
   return table("Stations", [
-    ["Station", ({host}) => name(host?.HostName, "unknown")],
+    ["Station", ({host}) => name(host, "unknown")],
     ["MAC address", "mac"],
     ["Network", ({ssid}) => [name(ssid.ssid), quiet(" ", ssid.interface)]],
     // -90 dBm and less is no signal, -40 and more is a full one.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The forms of a radio and of a network. Values are in the user interface's words.
 import {isRadar} from "./channels.js";
-import {bandName, get} from "./kit.js";
 import {openForm} from "./edit.js";
+import {bandName, get} from "./main.js";
 
 const STANDARDS = {"2.4g": ["b", "g", "n", "b+g", "g+n", "b+g+n"], "5g": ["a", "n", "ac", "a+n", "n+ac", "a+n+ac"]};
 
@@ -10,7 +10,7 @@ const STANDARDS = {"2.4g": ["b", "g", "n", "b+g", "g+n", "b+g+n"], "5g": ["a", "
 function fieldsOf({settings, user_interface: words}, fields) {
   const values = Object.assign({}, ...Object.entries(settings).map(([object, values]) => ({...values, ...words[object]})));
   return fields.filter(field => field.name in values).map(field =>
-    ({...field, value: field.reveal ? "" : values[field.name], ...field.from?.(values)}));
+    ({...field, value: values[field.name], ...field.from?.(values)}));
 }
 
 // One choice for two parameters: the number, and whether the radio chooses it.

@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
-// What was written from this browser tab, kept for as long as it is open, without the secrets.
-import {el, note, table, visible} from "./kit.js";
+// What was written from this browser tab, kept for as long as it is open.
+import {el, note, table, visible} from "./main.js";
 
 const KEPT = "written", MOST = 200;
 let entries = JSON.parse(sessionStorage.getItem(KEPT) ?? "[]");
 
-export const isSecret = parameter => /pass(word|phrase)|secret|wepkey|presharedkey/i.test(parameter);
-
-const worded = (parameter, value) => isSecret(parameter) ? "(secret)" : value === "" ? "(empty)" : value;
-
-// Rows of {path, from, to} of the answer to a change.
-export const changesOf = answer => answer.changes.map(({object, parameter, from, to}) =>
-  ({path: `${object}.${parameter}`, from: worded(parameter, from), to: worded(parameter, to)}));
+// Rows of {path, from, to} of the answer to a change, which hides secrets.
+export const changesOf = ({changes}) => changes.map(({object, parameter, from, to}) =>
+  ({path: `${object}.${parameter}`, from: from === "" ? "(empty)" : from, to: to === "" ? "(empty)" : to}));
 
 const COLUMNS = [["Parameter", row => el("code", visible(row.path))], ["From", "from"], ["To", "to"]];
 export const changeTable = rows => table("Changes", COLUMNS, rows, null, "Nothing.");
