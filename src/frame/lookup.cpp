@@ -38,6 +38,26 @@ const char *findValue(ObjectNode &object, const char *name) {
     return nullptr;
 }
 
+const char *lastValue(ObjectNode &object, const char *name, const char *otherwise) {
+    const char *value = otherwise;
+    for (const ParamNode &param : params(object)) {
+        if (sameName(param.name, name)) {
+            value = param.value;
+        }
+    }
+    return value;
+}
+
+const char *lastValue(const MsgHeader &answer, const char *name, const char *otherwise, const char *objectBegins) {
+    const char *value = otherwise;
+    for (ObjectNode &object : objects(answer)) {
+        if (beginsWith(object.name, objectBegins)) {
+            value = lastValue(object, name, value);
+        }
+    }
+    return value;
+}
+
 void lookUp(ObjectNode &object, std::span<const char *const> names, const char **values) {
     memset(values, 0, names.size_bytes());
     NameFilter filter;

@@ -27,6 +27,12 @@ bool isNamed(const ParamNode &param, const char (&name)[Size]) {
 // The value of the object's first parameter of that name, or nullptr.
 const char *findValue(ObjectNode &object, const char *name);
 
+// The value of the last parameter of that name in an object; in an answer, of the objects whose names begin so.
+// `otherwise` when there is none.
+const char *lastValue(ObjectNode &object, const char *name, const char *otherwise);
+const char *lastValue(const MsgHeader &answer, const char *name, const char *otherwise = "",
+                      const char *objectBegins = "");
+
 // Looks several parameters of one object up in one pass, as that many calls of zintu_GetParamFromObjUnit() would: a
 // name that is missing is traced, its value is nullptr. `values` has room for each of `names`.
 void lookUp(ObjectNode &object, std::span<const char *const> names, const char **values);

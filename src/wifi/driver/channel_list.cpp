@@ -4,7 +4,6 @@
 #include "frame/lookup.h"
 #include "frame/message.h"
 #include "frame/pipe.h"
-#include "frame/range.h"
 #include "wifi/driver/channel_lines.h"
 #include "wifi/driver/file.h"
 #include "wifi/object_path.h"
@@ -32,19 +31,6 @@ Pipe startListing(const char *ifname) {
     return Pipe(command);
 }
 
-// Whether the radio has 802.11h on; the last of several answers counts.
-bool radarAllowed(const MsgHeader &answer) {
-    bool allowed = false;
-    for (ObjectNode &object : objects(answer)) {
-        for (const ParamNode &param : params(object)) {
-            if (sameName(param.name, "IEEE80211hEnabled")) {
-                allowed = ConvStrToBool(param.value) != 0;
-            }
-        }
-    }
-    return allowed;
-}
-
 } // namespace
 
 int GetChannelList(const char *ifname, int radioIndex, WifiChannelList *list) {
@@ -56,7 +42,8 @@ int GetChannelList(const char *ifname, int radioIndex, WifiChannelList *list) {
         traceFailedRequest();
         return 0;
     }
-    const ChannelRules rules = {radarAllowed(*message), radioIndex == 1};
+    const bool radar = ConvStrToBool(lastValue(*message, "IEEE80211hEnabled")) != 0;
+    const ChannelRules rules = {radar, radioIndex == 1};
     Pipe pipe = startListing(ifname);
     if (!pipe.started()) {
         traceVola(Unit::WifiUtil, "popen()");

@@ -2,7 +2,6 @@
 // How many clients a radio serves.
 #include "frame/lookup.h"
 #include "frame/message.h"
-#include "frame/range.h"
 #include "frame/text.h"
 #include "wifi/convert/wrap.h"
 #include "wifi/cut_copy.h"
@@ -18,13 +17,6 @@ namespace {
 
 constexpr int kSsidsOfRadio = 8;
 
-// What the layer answers about one SSID.
-struct Ssid {
-    bool enabled = false;
-    bool active = false;
-    int clients = 0;
-};
-
 bool ask(MsgHeader *message, int ssid) {
     return faltocal_send_main_multi_obj(message, ObjectPath(Table::Ssid, ssid, "&"), "get_leaf_node", "get", 3,
                                         "Enable", "X_ZINTU_Active", "LowerLayers") != -1 &&
@@ -32,26 +24,8 @@ bool ask(MsgHeader *message, int ssid) {
                                         "AssociatedDeviceNumberOfEntries") != -1;
 }
 
-void take(const ParamNode &param, Ssid &ssid, char (&lowerLayers)[128]) {
-    if (sameName(param.name, "Enable")) {
-        ssid.enabled = ConvStrToBool(param.value) != 0;
-    } else if (sameName(param.name, "X_ZINTU_Active")) {
-        ssid.active = ConvStrToBool(param.value) != 0;
-    } else if (sameName(param.name, "LowerLayers")) {
-        copyCut(lowerLayers, param.value);
-    } else if (sameName(param.name, "AssociatedDeviceNumberOfEntries")) {
-        ssid.clients = number(param.value);
-    }
-}
-
-Ssid read(const MsgHeader &answer, char (&lowerLayers)[128]) {
-    Ssid ssid;
-    for (ObjectNode &object : objects(answer)) {
-        for (const ParamNode &param : params(object)) {
-            take(param, ssid, lowerLayers);
-        }
-    }
-    return ssid;
+bool isTrue(const MsgHeader &answer, const char *name) {
+    return ConvStrToBool(lastValue(answer, name)) != 0;
 }
 
 } // namespace
@@ -74,9 +48,11 @@ int GetAssociatedDeviceNumberOfEntries(int radioIndex) {
             traceFailedRequest();
             break;
         }
-        const Ssid ssid = read(*message, lowerLayers);
-        if (ssid.enabled && ssid.active && strcmp(lowerLayers, radio) == 0) {
-            total = wrappingAdd(total, ssid.clients);
+        if (const char *named = lastValue(*message, "LowerLayers", nullptr)) {
+            copyCut(lowerLayers, named);
+        }
+        if (isTrue(*message, "Enable") && isTrue(*message, "X_ZINTU_Active") && strcmp(lowerLayers, radio) == 0) {
+            total = wrappingAdd(total, number(lastValue(*message, "AssociatedDeviceNumberOfEntries")));
         }
     }
     return total;

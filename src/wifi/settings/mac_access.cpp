@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The MAC filter table of an SSID, one entry a call.
 #include "frame/lookup.h"
-#include "frame/range.h"
 #include "frame/text.h"
 #include "wifi/cut_copy.h"
 #include "wifi/wifi_trace.h"
@@ -22,18 +21,15 @@ const char *instanceText(const char *objectName, const char *prefix) {
 
 // Fills an entry; whether the object had both texts.
 bool fillEntry(ObjectNode &object, MacAccessEntry &entry) {
-    bool hasName = false;
-    bool hasAddress = false;
-    for (const ParamNode &param : params(object)) {
-        if (sameName(param.name, "name")) {
-            copyCut(entry.name, param.value);
-            hasName = true;
-        } else if (sameName(param.name, "macAddress")) {
-            copyCut(entry.macAddress, param.value);
-            hasAddress = true;
-        }
+    const char *name = lastValue(object, "name", nullptr);
+    const char *address = lastValue(object, "macAddress", nullptr);
+    if (name) {
+        copyCut(entry.name, name);
     }
-    return hasName && hasAddress;
+    if (address) {
+        copyCut(entry.macAddress, address);
+    }
+    return name && address;
 }
 
 } // namespace
