@@ -9,15 +9,11 @@
 #include "pages/process/console.h"
 #include "pages/process/streams.h"
 
-#include <array>
-#include <cerrno>
 #include <chrono>
 #include <csignal>
-#include <cstdint>
 #include <cstdlib>
 #include <fcntl.h>
 #include <iostream>
-#include <sys/eventfd.h>
 #include <sys/time.h>
 #include <unistd.h>
 
@@ -29,22 +25,17 @@ constexpr std::chrono::milliseconds kEndTime{800}; // to finish what has begun
 constexpr suseconds_t kEndMicroseconds = 950'000;  // after which the process ends, whatever still waits
 constexpr int kFailed = 1;
 
-int endEvent = -1;
+constexpr int kEndSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
-// Not by blocked signals: what the library starts would inherit them.
-void watchSignals() {
-    endEvent = eventfd(0, EFD_CLOEXEC);
-    struct sigaction action {};
-    action.sa_handler = [](int) {
-        const int error = errno;
-        const uint64_t one = 1;
-        static_cast<void>(!write(endEvent, &one, sizeof one));
-        errno = error;
-    };
-    action.sa_flags = SA_RESTART;
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        sigaction(signal, &action, nullptr);
+// They are waited for: every thread has them blocked, and the tools that the library starts have them back.
+sigset_t blockSignals() {
+    sigset_t set;
+    sigemptyset(&set);
+    for (const int signal : kEndSignals) {
+        sigaddset(&set, signal);
     }
+    pthread_sigmask(SIG_BLOCK, &set, nullptr);
+    return set;
 }
 
 // On a device, and in the sandbox's box, the console has the library's trace. A laptop's console is none of its
@@ -53,12 +44,6 @@ void keepConsole() {
     const char *box = getenv("CALTOFAL_BOX");
     if (pages::isSandbox() && !box) {
         pages::redirectConsole(open("/dev/null", O_WRONLY | O_CLOEXEC));
-    }
-}
-
-void waitForEnd() {
-    uint64_t count = 0;
-    while (read(endEvent, &count, sizeof count) < 0 && errno == EINTR) {
     }
 }
 
@@ -77,7 +62,7 @@ void printUrl(const Options &options, const Listener &listener, const std::strin
     std::cout << "http://" << host << "/?token=" << token << std::endl; // NOLINT(performance-avoid-endl)
 }
 
-void serve(const Options &options) {
+void serve(const Options &options, const sigset_t &endSignals) {
     const Listener listener = listenOn(options.listen);
     Session session(listener.port);
     const Gate gate(OwnHosts(listener.text(), options.hosts), session, options.readOnly);
@@ -91,7 +76,8 @@ void serve(const Options &options) {
                   << " without encryption: put TLS in front of it\n";
     }
     printUrl(options, listener, session.token());
-    waitForEnd();
+    int signal = 0;
+    sigwait(&endSignals, &signal);
     endSoon();
     api.cancelJobs();
     server.drain(std::chrono::steady_clock::now() + kEndTime);
@@ -107,11 +93,11 @@ int main(int argc, char **argv) {
     if (!options.gateway.empty()) {
         setenv("CALTOFAL_GATEWAY", options.gateway.c_str(), 1);
     }
-    watchSignals();
+    const sigset_t endSignals = blockSignals();
     keepConsole();
     const pages::StreamCapture library; // what it prints is for programs that end
     try {
-        serve(options);
+        serve(options, endSignals);
     } catch (const std::exception &error) {
         std::cerr << "caltofal-web: " << error.what() << '\n';
         return kFailed;

@@ -48,12 +48,15 @@ pid_t startShell(const char *command, int out, int err) {
     }
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
-    // A server ignores this signal; a tool that its reader left would complain instead of ending.
+    // A server blocks signals and ignores this one: a tool could not be ended, or would complain when its reader left.
+    sigset_t none;
+    sigemptyset(&none);
+    posix_spawnattr_setsigmask(&attributes, &none);
     sigset_t defaults;
     sigemptyset(&defaults);
     sigaddset(&defaults, SIGPIPE);
     posix_spawnattr_setsigdefault(&attributes, &defaults);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
     char name[] = "sh";
     char option[] = "-c";
     char *const words[] = {name, option, const_cast<char *>(command), nullptr};
