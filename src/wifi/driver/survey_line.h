@@ -15,23 +15,23 @@ struct SurveyLine {
         size_t length;
     };
     enum Column : unsigned char {
-        kSsid,
-        kChannel,
-        kRssi,
-        kSecurity,
-        kEncryption,
-        kMacAddr,
-        kBandwidth,
-        kPhyMode,
-        kSideBand,
-        kProduct,
-        kColumns
+        Ssid,
+        Channel,
+        Rssi,
+        Security,
+        Encryption,
+        MacAddr,
+        Bandwidth,
+        PhyMode,
+        SideBand,
+        Product,
+        Columns
     };
 
     // Whether every column holds something.
-    [[nodiscard]] bool isComplete() const { return column[kColumns - 1].length > 0; }
+    [[nodiscard]] bool isComplete() const { return column[Columns - 1].length > 0; }
 
-    Text column[kColumns];
+    Text column[Columns];
 };
 
 // Cuts a line into columns, in place, as the scan format "%[^\t]\t%[^\t]\t..." of ten columns does: a tab ends a
