@@ -75,7 +75,7 @@ class Import {
     }
 
     void declare(const Entry &entry) {
-        if (!isTemplate(entry)) {
+        if (!isTemplate(entry) || (entry.guessed && isGuessedInVain(entry))) {
             return;
         }
         Statement(database_, "INSERT OR IGNORE INTO template_object(pattern, writable) VALUES(?1, 0)", entry.path)
@@ -97,7 +97,21 @@ class Import {
             .run();
     }
 
+    // A table that the gateway has says itself what its instances are made of.
+    bool isGuessedInVain(const Entry &entry) {
+        const std::string table = entry.path.substr(0, entry.path.find(kAnyInstance));
+        const auto [known, added] = tables_.emplace(table, false);
+        if (added) {
+            const std::optional<std::string> key = keyOf(table);
+            known->second = key && findObject(database_, *key);
+        }
+        return known->second;
+    }
+
     void applyTemplate(const Entry &entry) {
+        if (entry.guessed && isTemplate(entry) && isGuessedInVain(entry)) {
+            return;
+        }
         if (isTemplate(entry) && entry.path != appliedPattern_) {
             model_.applyTemplate(entry.path);
             appliedPattern_ = entry.path;
@@ -197,6 +211,7 @@ class Import {
     Templates templates_;
     Model model_;
     std::string appliedPattern_;
+    std::unordered_map<std::string, bool> tables_; // of guessed templates: whether they were there
     // The object that was opened last.
     std::string path_, key_;
     int64_t object_ = 0;

@@ -195,6 +195,32 @@ void Model::setValue(int64_t object, const ParameterRow &parameter, std::string_
         .run();
 }
 
+void Model::shapeLike(std::string_view key, std::string_view sibling, int presence) {
+    Statement objects(database_, "SELECT id, key, kind, writable FROM object WHERE key >= ?1 AND key < ?2 ORDER BY key",
+                      sibling, keyEnd(sibling));
+    while (objects.step()) {
+        const std::string below(objects.text(1).substr(sibling.size()));
+        const std::vector<std::string_view> parts = components(below);
+        if (std::any_of(parts.begin(), parts.end(), [](auto part) { return instanceOf(part).has_value(); })) {
+            continue;
+        }
+        const std::string copy = std::string(key) + below;
+        const int64_t object = ensureObject(copy, presence);
+        if (static_cast<ObjectKind>(objects.integer(2)) == ObjectKind::Table) {
+            makeTable(copy, 0);
+            setWritable(object, objects.integer(3) != 0);
+        }
+        Statement parameters(database_, "SELECT name, definition FROM parameter WHERE object = ?1 ORDER BY position",
+                             objects.integer(0));
+        while (parameters.step()) {
+            const std::string name(parameters.text(0));
+            if (!findParameter(database_, object, name)) {
+                addParameter(copy, object, name, parameters.integer(1));
+            }
+        }
+    }
+}
+
 void Model::removeInstance(std::string_view key, int layers) {
     const std::string end = keyEnd(key);
     const int left = findObject(database_, key)->presence & layers;

@@ -64,6 +64,9 @@ class Model {
     void setDefinition(int64_t object, const ParameterRow &parameter, int64_t definition);
     void setValue(int64_t object, const ParameterRow &parameter, std::string_view running, std::string_view stored);
 
+    // Gives an instance what another one of its table has, with defaults; not the instances of tables below it.
+    void shapeLike(std::string_view key, std::string_view sibling, int presence);
+
     // Takes an instance and everything below it out of the models in `layers`.
     void removeInstance(std::string_view key, int layers);
 

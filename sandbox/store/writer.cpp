@@ -12,6 +12,7 @@
 
 #include "caltofal.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace sandbox {
@@ -69,9 +70,28 @@ class Writer {
         }
         const std::string instance = instanceKey(key, table.last + 1);
         const Templates templates(database_, instance);
-        const int64_t id = Model(database_, definitions_, templates).ensureObject(instance, layers_);
+        const std::string sibling = anyInstanceOf(table);
+        Model model(database_, definitions_, templates);
+        const int64_t id = model.ensureObject(instance, layers_);
+        if (!sibling.empty() && !isDeclared(templates, instance)) {
+            model.shapeLike(instance, sibling, layers_);
+        }
         path_ = request.added = pathOf(instance);
         setValues(instance, id, request);
+    }
+
+    // The key of the table's first instance; "" for none.
+    std::string anyInstanceOf(const ObjectRow &table) {
+        Statement instance(database_, "SELECT min(key) FROM object WHERE parent = ?1 AND kind = 2", table.id);
+        instance.step();
+        return std::string(instance.text(0));
+    }
+
+    // A gateway of another maker, taken in from a dump, has no patterns.
+    static bool isDeclared(const Templates &templates, const std::string &instance) {
+        const std::vector<TemplateMatch> matches = templates.matching(instance);
+        return std::any_of(matches.begin(), matches.end(),
+                           [](const TemplateMatch &match) { return match.remainder.empty(); });
     }
 
     void remove(const std::string &key, const ObjectRow &object) {

@@ -11,6 +11,7 @@
 #include "caltofal.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <unordered_map>
 #include <unordered_set>
@@ -20,6 +21,7 @@ namespace {
 
 constexpr std::string_view kDeviceRoot = "Device.";
 constexpr std::string_view kGatewayRoot = "InternetGatewayDevice.";
+constexpr size_t kFewTables = 200;
 constexpr std::string_view kCountSuffix = "NumberOfEntries";
 
 // What an ACS keeps beside a device's own model.
@@ -138,6 +140,7 @@ class Conversion {
             added = true;
             if (instanceOf(lastComponent(object))) {
                 tables_.emplace(parentKey(object));
+                tablesInUse_.emplace(parentKey(object));
             }
         }
         return added;
@@ -171,6 +174,11 @@ class Conversion {
         const std::optional<bool> known = knownTable(patternOf(path) + std::string(kAnyInstance) + ".");
         entry.writable = said != writableTables_.end() ? said->second : known.value_or(false);
         entries_.push_back(std::move(entry));
+        // Patterns with instance numbers cost every later import and addition a look, so that they stay few.
+        if (!tablesInUse_.contains(path) && (tables_.size() < kFewTables || patternOf(path) == path)) {
+            Entries instances = knownInstances(path);
+            std::move(instances.begin(), instances.end(), std::back_inserter(entries_));
+        }
     }
 
     Dump &dump_;
@@ -181,6 +189,7 @@ class Conversion {
     std::unordered_set<std::string> objects_;
     std::string lastObject_;
     std::set<std::string> tables_;
+    std::unordered_set<std::string> tablesInUse_; // with instances
     std::unordered_map<std::string, bool> writableTables_;
 };
 

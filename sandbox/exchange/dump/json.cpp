@@ -59,7 +59,9 @@ class JsonDump {
   private:
     // What is not below a root yet: a wrapper, a root's holder, a list.
     void document(const JsonNode &node) {
-        if (node.kind == JsonNode::Kind::Array) {
+        if (isTuple(node)) {
+            tuple(node);
+        } else if (node.kind == JsonNode::Kind::Array) {
             std::vector<const JsonNode *> nodes;
             for (const auto &[name, child] : node.children) {
                 nodes.push_back(&child);
@@ -70,6 +72,19 @@ class JsonDump {
         } else if (node.kind == JsonNode::Kind::Object) {
             members(node, "");
         }
+    }
+
+    // ["Device.DeviceInfo.UpTime", 77, "xsd:unsignedInt"]
+    static bool isTuple(const JsonNode &node) {
+        return node.kind == JsonNode::Kind::Array && node.children.size() >= 2 && areScalars(node) &&
+               beginsWithRoot(node.children.front().second.text);
+    }
+
+    void tuple(const JsonNode &node) {
+        DumpRow row = rowOf(node.children[0].second.text, node);
+        readLeaf(node.children[1].second, row);
+        row.type = node.children.size() > 2 ? node.children[2].second.text : "";
+        dump_.rows.push_back(std::move(row));
     }
 
     // A list's items belong together, unless they are devices, of which the first one is taken.
@@ -186,8 +201,8 @@ class JsonDump {
 
     // Members that describe the object that holds them. In lower case they may be parameters' names elsewhere.
     static bool isAboutObject(std::string_view name, bool described) {
-        const Role role = roleOf(name);
-        return name.empty() || name.front() == '_' || role == Role::Instance || (described && role != Role::None);
+        const bool lower = name.empty() || name.front() == '_' || (name.front() >= 'a' && name.front() <= 'z');
+        return name.empty() || name.front() == '_' || roleOf(name) == Role::Instance || (described && lower);
     }
 
     void member(const JsonNode &node, const std::string &path, bool top) {

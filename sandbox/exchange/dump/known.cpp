@@ -27,6 +27,7 @@ class Known {
     std::unordered_map<std::string, KnownParameter, Hash, std::equal_to<>> parameters;
     std::unordered_map<std::string, bool, Hash, std::equal_to<>> tables;
     std::set<std::string, std::less<>> tops;
+    Entries templates; // as declared, each once
 
   private:
     Known() {
@@ -43,6 +44,11 @@ class Known {
     void learn(const Demo &demo) {
         for (const Entry &entry : readGatewayFile(demo.text, std::string(demo.name))) {
             tops.emplace(components(entry.path)[entry.path == "Device." ? 0 : 1]);
+            const bool pattern =
+                entry.kind == Entry::Kind::TemplateObject || entry.kind == Entry::Kind::TemplateParameter;
+            if (pattern && seen_.insert(entry.fullPath()).second) {
+                templates.push_back(entry);
+            }
             if (entry.kind == Entry::Kind::TemplateObject) {
                 tables.emplace(entry.path, entry.writable.value_or(false));
             } else if (entry.type) {
@@ -52,6 +58,8 @@ class Known {
             }
         }
     }
+
+    std::set<std::string> seen_;
 };
 
 } // namespace
@@ -66,6 +74,20 @@ std::optional<bool> knownTable(std::string_view pattern) {
     const auto &tables = Known::instance().tables;
     const auto found = tables.find(pattern);
     return found == tables.end() ? std::nullopt : std::optional(found->second);
+}
+
+Entries knownInstances(std::string_view table) {
+    const std::string pattern = patternOf(table) + std::string(kAnyInstance) + ".";
+    Entries entries;
+    for (const Entry &known : Known::instance().templates) {
+        if (!known.path.starts_with(pattern)) {
+            continue;
+        }
+        Entry &entry = entries.emplace_back(known);
+        entry.path = std::string(table) + known.path.substr(patternOf(table).size());
+        entry.guessed = true;
+    }
+    return entries;
 }
 
 bool isKnownTop(std::string_view name) {
