@@ -6,8 +6,8 @@
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     fuzz::Bytes bytes(data, size);
-    const bool only2_4GHz = bytes.byte() % 4 == 1;
-    const wifi::ChannelRules rules = {bytes.text(8) == "true", only2_4GHz};
+    const bool only24GHz = bytes.byte() % 4 == 1;
+    const wifi::ChannelRules rules = {bytes.text(8) == "true", only24GHz};
     fuzz::Text info(bytes.text(400));
     wifi::parsePhyNumber(info.get());
     WifiChannelList list = {};
@@ -19,7 +19,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     fuzz::require(list.count <= 100, "a wrong channel count");
     for (uint32_t i = 0; i < list.count; ++i) {
         fuzz::require(list.entries[i].bandwidths[0] == 20, "widths that do not begin with 20 MHz");
-        fuzz::require(!only2_4GHz || list.entries[i].frequency < 2485, "a channel above the 2.4 GHz band");
+        fuzz::require(!only24GHz || list.entries[i].frequency < 2485, "a channel above the 2.4 GHz band");
     }
     return 0;
 }

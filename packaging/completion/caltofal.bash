@@ -10,7 +10,7 @@ _caltofal_commands() {
 
 # _caltofal_options PROGRAM [NOUN...]: a line for each option, with the word for its argument if it takes one
 _caltofal_options() {
-    "$@" --help 2>/dev/null | sed -nE 's/^  ((-[a-z]),)?(--[a-z0-9-]+)( ([^ ]+))?( .*)?$/\3 \5\n\2 \5/p' | grep -e '^-'
+    "$@" --help 2>/dev/null | sed -nE 's/^  ((-[a-zA-Z]),)?(--[a-z0-9-]+)( ([^ ]+))?( .*)?$/\3 \5\n\2 \5/p' | grep -e '^-'
 }
 
 # _caltofal_argument OPTION PROGRAM [NOUN...]: the word for the option's argument; options before the noun go as well

@@ -15,6 +15,10 @@ extern "C" {
  * next message. */
 const char *cal_sandboxReason(void);
 
+/* Type, access and default of a parameter, "OBJECT.NAME", as a gateway file has them in square brackets:
+ * `unsignedInt(1:255) rw default="1"`; "" when there is no such parameter. Valid until the thread's next call. */
+const char *cal_sandboxDefinition(const char *parameter);
+
 #ifdef __cplusplus
 }
 #endif

@@ -160,6 +160,9 @@ void writeCsv(const Entries &entries, std::ostream &out) {
     }
     out << '\n';
     for (const Entry &entry : entries) {
+        if (entry.kind == Entry::Kind::Recording) {
+            continue; // for gateway files alone
+        }
         separator = "";
         for (const Column &column : kColumns) {
             out << separator << csvText(column.write(entry));

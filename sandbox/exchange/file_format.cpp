@@ -2,6 +2,7 @@
 #include "exchange/file_format.h"
 
 #include "exchange/csv_file.h"
+#include "exchange/dump/capture.h"
 #include "exchange/dump/csv.h"
 #include "exchange/dump/entries.h"
 #include "exchange/dump/json.h"
@@ -46,7 +47,14 @@ FileContent takenIn(Dump dump, const std::string &file) {
 }
 
 FileContent readAnyGatewayFile(std::string_view text, const std::string &file) {
-    return {readGatewayFile(text, file), std::nullopt};
+    Entries entries = readGatewayFile(text, file);
+    if (!isCapture(text)) {
+        return {std::move(entries), std::nullopt};
+    }
+    FileContent content = takenIn(captureDump(entries), file);
+    std::copy_if(entries.begin(), entries.end(), std::back_inserter(content.entries),
+                 [](const Entry &entry) { return entry.kind == Entry::Kind::Recording; });
+    return content;
 }
 
 FileContent readAnyCsv(std::string_view text, const std::string &file) {

@@ -2,6 +2,7 @@
 #include "exchange/gateway_export.h"
 
 #include "store/model.h"
+#include "store/recording.h"
 #include "value/path.h"
 
 #include <algorithm>
@@ -40,10 +41,21 @@ class Export {
         while (objects.step()) {
             addObject(objects);
         }
+        if (key_.empty() && view_ == View::Both) {
+            addRecordings();
+        }
         return std::move(entries_);
     }
 
   private:
+    void addRecordings() {
+        for (Recording &recording : recordings(database_)) {
+            Entry &entry = add(Entry::Kind::Recording, std::move(recording.name));
+            entry.exitCode = recording.exitCode;
+            entry.value = std::move(recording.content);
+        }
+    }
+
     void addTemplates() {
         std::vector<TemplateMatch> matches = templates_.matching(key_);
         std::reverse(matches.begin(), matches.end());
@@ -76,7 +88,8 @@ class Export {
         const bool branchEdge = presence != row.integer(5) && view_ == View::Both;
         const bool table = kind == ObjectKind::Table && (last > implied || bare);
         const bool writable = row.integer(6) != 0;
-        const bool unusual = kind == ObjectKind::Table && writable != usuallyWritable(matches);
+        const bool unusual =
+            view_ != View::Running && kind == ObjectKind::Table && writable != usuallyWritable(matches);
         if (bare || branchEdge || table || unusual) {
             Entry &entry = add(Entry::Kind::Object, path);
             entry.presence = branchEdge ? std::optional(presence) : std::nullopt;

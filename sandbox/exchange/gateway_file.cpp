@@ -11,6 +11,9 @@ namespace sandbox {
 namespace {
 
 constexpr std::string_view kBlanks = " \t";
+constexpr std::string_view kFileMark = "@file ";
+constexpr std::string_view kAnswerMark = "@answer ";
+constexpr std::string_view kCaptureMark = "@capture";
 
 [[noreturn]] void refuse(const std::string &message) {
     throw std::invalid_argument(message);
@@ -92,6 +95,9 @@ class LineReader {
     explicit LineReader(std::string_view line) : rest_(line) {}
 
     Entry read() {
+        if (rest_.starts_with(kFileMark) || rest_.starts_with(kAnswerMark)) {
+            return readRecording();
+        }
         const size_t end = std::min(rest_.find_first_of(kBlanks), rest_.size());
         entry_ = entryOf(rest_.substr(0, end));
         rest_.remove_prefix(end);
@@ -113,6 +119,24 @@ class LineReader {
     }
 
   private:
+    // @file "PATH" = CONTENT, or @answer "COMMAND" EXITCODE = OUTPUT
+    Entry readRecording() {
+        entry_.kind = Entry::Kind::Recording;
+        const bool file = takePrefix(rest_, kFileMark);
+        takePrefix(rest_, kAnswerMark);
+        entry_.path = unquote(takeAnnotation(rest_));
+        skipBlanks(rest_);
+        if (!file) {
+            entry_.exitCode = static_cast<int>(numberOf(takeAnnotation(rest_)));
+            skipBlanks(rest_);
+        }
+        if (entry_.path.empty() || !takePrefix(rest_, "=")) {
+            refuse("expected a name in double quotes and \" = \"");
+        }
+        readValue();
+        return std::move(entry_);
+    }
+
     void readAnnotations() {
         for (skipBlanks(rest_); !takePrefix(rest_, "]"); skipBlanks(rest_)) {
             if (rest_.empty()) {
@@ -234,7 +258,7 @@ Entries readGatewayFile(std::string_view text, const std::string &file) {
         text.remove_prefix(std::min(end + 1, text.size()));
         line.remove_suffix(line.ends_with('\r') ? 1 : 0);
         skipBlanks(line);
-        if (line.empty() || line.front() == '#') {
+        if (line.empty() || line.front() == '#' || line == kCaptureMark) {
             continue;
         }
         try {
@@ -247,7 +271,21 @@ Entries readGatewayFile(std::string_view text, const std::string &file) {
     return entries;
 }
 
+bool isCapture(std::string_view text) {
+    for (; !text.empty(); text.remove_prefix(std::min(text.find('\n') + 1, text.size()))) {
+        if (text.front() != '#') {
+            return text.starts_with(kCaptureMark);
+        }
+    }
+    return false;
+}
+
 std::string gatewayLine(const Entry &entry) {
+    if (entry.kind == Entry::Kind::Recording) {
+        const std::string code = entry.exitCode ? std::to_string(*entry.exitCode) + " " : "";
+        return std::string(entry.exitCode ? kAnswerMark : kFileMark) + inQuotes(entry.path) + " " + code + "= " +
+               escapeValue(*entry.value);
+    }
     std::string line = entry.fullPath();
     if (const std::string annotations = gatewayAnnotations(entry); !annotations.empty()) {
         line += " [" + annotations + "]";

@@ -12,6 +12,9 @@ namespace sandbox {
 // Throws FileError at the first bad line. `file` is the name used in messages.
 Entries readGatewayFile(std::string_view text, const std::string &file);
 
+// Whether the first line that is not a comment says that the file was captured from a device.
+bool isCapture(std::string_view text);
+
 // What one line says. Throws std::invalid_argument saying what is wrong with it.
 Entry gatewayEntry(std::string_view line);
 

@@ -3,6 +3,7 @@
 
 #include "store/model.h"
 #include "store/nature.h"
+#include "store/recording.h"
 #include "value/accepted_value.h"
 #include "value/escape.h"
 #include "value/path.h"
@@ -119,6 +120,10 @@ class Import {
     }
 
     void takeIn(const Entry &entry) {
+        if (entry.kind == Entry::Kind::Recording) {
+            keepRecording(database_, {entry.path, entry.exitCode, *entry.value});
+            return;
+        }
         if (isTemplate(entry)) {
             return;
         }
@@ -226,6 +231,7 @@ void importEntries(Database &database, const Entries &entries, const std::string
 void clearModel(Database &database) {
     database.execute("DELETE FROM parameter; DELETE FROM object; DELETE FROM template_parameter; "
                      "DELETE FROM template_object; DELETE FROM definition;");
+    forgetRecordings(database);
 }
 
 } // namespace sandbox

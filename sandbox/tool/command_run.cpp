@@ -11,6 +11,7 @@ namespace {
 struct Options {
     bool check = false;
     bool trace = false;
+    bool recordedOnly = false;
     std::vector<std::string> shown;
 };
 
@@ -23,6 +24,9 @@ void run(Tool &tool, const Options &options) {
     } else if (tool.words.empty()) {
         throw Failure("run: which command? caltofal-sandbox run -- COMMAND [ARGUMENT...]", kUsage);
     } else {
+        if (options.recordedOnly) {
+            setenv("CALTOFAL_BOX_RECORDED_ONLY", "1", 1);
+        }
         if (options.trace) {
             setenv("CALTOFAL_SANDBOX_TRACE", "-", 1);
         }
@@ -37,6 +41,8 @@ void addRun(Command &root, Tool &tool) {
     Command command = root.add("run", "Run a program where the device's paths, tools and daemons are");
     command.flag("--check", options->check, "Only tell whether it can be done here");
     command.flag("--trace", options->trace, "Show each message to the configuration layer on standard error");
+    command.flag("--recorded-only", options->recordedOnly,
+                 "Of a captured gateway: refuse what was not recorded, instead of making it up");
     addShown(command, options->shown);
     command.footer(R"(Usage: caltofal-sandbox run [-g NAME] [-b DIRECTORY]... -- COMMAND [ARGUMENT...]
 

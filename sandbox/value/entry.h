@@ -19,6 +19,7 @@ struct Entry {
         Object,            // path
         TemplateParameter, // pattern and name
         TemplateObject,    // pattern; `writable` says whether a set may add and delete instances
+        Recording,         // `path` is a file's, or a command; `value` its content or answer
     };
 
     Kind kind;
@@ -32,6 +33,7 @@ struct Entry {
     std::optional<std::string> value;    // stored, and running where that is not said
     std::optional<std::string> running;
     std::optional<int> presence;  // of an object: kRunning or kStored alone
+    std::optional<int> exitCode;  // of a recorded command; empty: a file
     std::optional<uint32_t> last; // of a table: highest instance number ever given
 
     // Type, access and default are a guess: those that the gateway has go before.

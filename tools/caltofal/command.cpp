@@ -22,7 +22,7 @@ void Arguments::set(std::string_view name, std::vector<std::string> words) {
 }
 
 std::vector<std::span<const Command>> commands() {
-    return {networkCommands(), objectCommands(), wifiCommands(), meshCommands()};
+    return {networkCommands(), objectCommands(), captureCommands(), wifiCommands(), meshCommands()};
 }
 
 } // namespace cli

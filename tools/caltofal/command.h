@@ -19,6 +19,7 @@ enum class Take {
     Optional,  // one that may be left out, but not be empty
     MayBeAny,  // one that may be left out, and may be empty
     Words,     // one or more
+    AnyWords,  // none or more
     Flag,      // an option without a value
     Option,    // with one, not empty
     Repeatable // several times, one value each

@@ -7,8 +7,6 @@
 #include "caltofal/printable.h"
 #include "caltofal/signals.h"
 #include "caltofal/trace.h"
-#include "caltofal/typed_words.h"
-#include "caltofal/watch.h"
 #include "pages/layer/request_log.h"
 #include "pages/process/streams.h"
 #include "pages/secret.h"
@@ -30,7 +28,7 @@ constexpr uint16_t kLogToStdout = 2; // of unfaltocalLogType
 
 // A wrong command line is reported in the form that it asks for all the same.
 bool asksForJson(int argc, char **argv) {
-    return std::any_of(argv, argv + argc, [](const std::string_view word) { return word == "--json" || word == "-j"; });
+    return std::any_of(argv, argv + argc, [](const char *word) { return std::string_view(word) == "--json"; });
 }
 
 // A device's console keeps its trace, as with every other program there, unless it is to be shown here.
@@ -66,9 +64,9 @@ pages::Report answerOf(const Task &task) {
     }
 }
 
-void runCommand(const std::vector<std::string> &words) {
+void runCommand(int argc, char **argv) {
     Options options;
-    const Task task = parse(parserWords(words), options);
+    const Task task = parse(argc, argv, options);
     if (!task.command) {
         return;
     }
@@ -78,16 +76,9 @@ void runCommand(const std::vector<std::string> &words) {
     arrangeTrace(options);
     const pages::StreamCapture capture;
     const pages::ShowSecrets secrets(options.secrets);
-    const auto answer = [&] {
-        pages::Report report = answerOf(task);
-        collectConsole();
-        return report;
-    };
-    if (options.watch > 0) {
-        watch(answer, options.form, std::chrono::seconds(options.watch));
-    } else {
-        print(answer(), options.form);
-    }
+    const pages::Report report = answerOf(task);
+    collectConsole();
+    print(report, options.json);
 }
 
 } // namespace
@@ -103,7 +94,7 @@ int main(int argc, char **argv) {
         return static_cast<int>(failure.category());
     };
     try {
-        runCommand({argv + std::min(argc, 1), argv + argc});
+        runCommand(argc, argv);
         return kDone;
     } catch (const Failure &failure) {
         return failed(failure);

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/print.h"
 
-#include "caltofal/columns.h"
 #include "caltofal/printable.h"
 #include "caltofal/render.h"
 #include "pages/json.h"
 
 #include <cstdlib>
 #include <iostream>
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace cli {
@@ -16,14 +14,6 @@ namespace cli {
 using namespace pages;
 
 namespace {
-
-constexpr int kIndent = 2;
-
-// 0 where standard output is not a terminal.
-size_t terminalWidth() {
-    winsize size{};
-    return isatty(STDOUT_FILENO) == 1 && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
-}
 
 bool colourWanted() {
     const char *noColour = getenv("NO_COLOR");
@@ -40,24 +30,13 @@ void flushOutput() {
     }
 }
 
-std::string linesOf(const Report &report, const Form &form, int indent) {
-    if (form.json) {
-        return toJson(report.json, indent) + "\n";
+void print(const Report &report, bool json) {
+    if (json) {
+        std::cout << toJson(report.json, 2) << '\n';
+    } else {
+        std::cout << (report.raw.empty() ? render(report.table, colourWanted()) : report.raw);
     }
-    if (!report.raw.empty()) {
-        return report.raw;
-    }
-    const Table table = form.columns.empty() ? report.table : withColumns(report.table, form.columns);
-    return form.terse ? renderTerse(table) : render(table, {colourWanted(), terminalWidth()});
-}
-
-void print(const Report &report, const Form &form) {
-    std::cout << linesOf(report, form, kIndent);
     flushOutput();
-    printNotes(report);
-}
-
-void printNotes(const Report &report) {
     for (const std::string &note : report.notes) {
         std::cerr << "caltofal: " << printable(note) << '\n';
     }

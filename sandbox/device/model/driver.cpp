@@ -3,6 +3,7 @@
 
 #include "device/model/driver_files.h"
 #include "device/model/neighbours.h"
+#include "device/model/playback.h"
 #include "device/model/wifi.h"
 #include "exchange/gateway.h"
 
@@ -29,8 +30,11 @@ using sandbox::Database;
 constexpr int kLooks = 6;
 constexpr std::chrono::milliseconds kFirstPause(5); // doubled from look to look
 
-// Readers see the old file or the new one.
+// Readers see the old file or the new one. A recorded one stays.
 void replaceFile(const fs::path &file, const std::string &text) {
+    if (isRecordedOnly() || fs::exists(recordingOf(file))) {
+        return;
+    }
     const fs::path draft = file.parent_path() / ("." + file.filename().string());
     std::ofstream(draft) << text;
     fs::rename(draft, file);
@@ -42,7 +46,7 @@ void removeStrangers(const fs::path &directory, const std::vector<Interface> &in
         const bool known = std::any_of(interfaces.begin(), interfaces.end(), [&](const Interface &one) {
             return one.name == entry.path().filename().string();
         });
-        if (!known) {
+        if (!known && !fs::exists(recordingOf(entry.path()))) {
             strangers.push_back(entry.path());
         }
     }
@@ -61,6 +65,12 @@ void writeFiles(const fs::path &directory, const std::vector<Interface> &interfa
         replaceFile(own / "channel", channelFigures(interface.radio));
     }
     removeStrangers(directory, interfaces);
+}
+
+void copyRecorded(const fs::path &directory) {
+    if (const fs::path recorded = recordingOf(directory); fs::exists(recorded)) {
+        fs::copy(recorded, directory, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    }
 }
 
 // What the driver knows of the store. The connection stays open: opening it for each look would itself change files.
@@ -168,6 +178,7 @@ class Watch {
     try {
         Watch watch(location); // before the first look, so that no change is missed
         View view(location, directory);
+        copyRecorded(directory);
         view.refresh();
         close(report);
         keepTrue(view, watch);

@@ -6,6 +6,7 @@
 #include "device/model/driver.h"
 #include "device/model/neighbours.h"
 #include "device/model/notification.h"
+#include "device/model/playback.h"
 #include "device/model/rows.h"
 #include "device/model/update.h"
 #include "device/model/wifi.h"
@@ -158,6 +159,11 @@ int notification(Arguments arguments) {
     return kDone;
 }
 
+int layOutRecordings(Arguments arguments) {
+    layOut(*openGateway(), arguments[0]);
+    return kDone;
+}
+
 int driver(Arguments arguments) {
     startDriver(sandbox::Location::current(), arguments[0]);
     return kDone;
@@ -182,6 +188,7 @@ constexpr Command kCommands[] = {
     {"survey", "INTERFACE SSID", 2, 2, survey, "the networks that it hears; \"\" for all"},
     {"origin", "", 0, 0, origin, "where these networks are known from: file, gateway or made-up"},
     {"notification", "JSON", 1, 1, notification, "a request to the service daemon, as assignments of a shell"},
+    {"recordings", "DIRECTORY", 1, 1, layOutRecordings, "lay out what a captured gateway's files and tools said"},
     {"driver", "DIRECTORY", 1, 1, driver, "write the wireless driver's files, and stay to keep them true"},
 };
 

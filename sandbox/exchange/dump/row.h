@@ -4,6 +4,7 @@
 #pragma once
 
 #include "exchange/import_report.h"
+#include "value/value_type.h"
 
 #include <optional>
 #include <string>
@@ -19,7 +20,9 @@ struct DumpRow {
     bool object = false;
     std::optional<std::string> value;
     Form form = Form::Text;
-    std::string type; // a word or a number; "" for none
+    std::string type;               // a word or a number; "" for none
+    std::optional<ValueType> exact; // the type, where the file has this project's own words for it
+    std::string fallback;           // the default value
     std::optional<bool> writable;
     size_t line = 0;
 };

@@ -70,6 +70,12 @@ void Typing::describe(const DumpRow &row, Entry &entry, ImportReport &report) {
         path_ = entry.path;
         pattern_ = patternOf(path_);
     }
+    if (row.exact) {
+        entry.type = row.exact;
+        entry.writable = row.writable.value_or(false);
+        entry.fallback = row.fallback;
+        return;
+    }
     const KnownParameter *known = knownParameter(pattern_ + entry.name);
     const std::optional<ValueType> said = row.type.empty() ? std::nullopt : typeOfWord(row.type, numbers_);
     if (!row.type.empty() && !said && (numbers_ || !isInteger(row.type))) {

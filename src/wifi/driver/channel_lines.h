@@ -8,8 +8,8 @@ namespace wifi {
 
 // Which of the listed channels are offered.
 struct ChannelRules {
-    bool radar;      // also those that need radar detection
-    bool only2_4GHz; // none above the 2.4 GHz band
+    bool radar;     // also those that need radar detection
+    bool only24GHz; // none above the 2.4 GHz band
 };
 
 // Whether a channel list has room for another entry.

@@ -27,7 +27,7 @@ class SurveyReader {
         const SurveyLine line = splitSurveyLine(text);
         if (!line.isComplete()) {
             report(line);
-        } else if (isWanted(line.column[SurveyLine::Ssid].data) && list_.count >= 0 && list_.count < capacity_) {
+        } else if (isWanted(line.column[SurveyLine::kSsid].data) && list_.count >= 0 && list_.count < capacity_) {
             fillSurveyEntry(line, list_.entries[list_.count++]);
         }
     }

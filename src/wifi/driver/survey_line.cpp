@@ -38,16 +38,16 @@ SurveyLine splitSurveyLine(char *line) {
 }
 
 void fillSurveyEntry(const SurveyLine &line, SiteSurveyEntry &entry) {
-    copyColumn(entry.ssid, line.column[SurveyLine::Ssid]);
-    entry.channel = number(line.column[SurveyLine::Channel].data);
-    entry.rssi = number(line.column[SurveyLine::Rssi].data);
-    copyColumn(entry.security, line.column[SurveyLine::Security]);
-    copyColumn(entry.encryption, line.column[SurveyLine::Encryption]);
-    copyColumn(entry.macaddr, line.column[SurveyLine::MacAddr]);
-    entry.bandwidth = number(line.column[SurveyLine::Bandwidth].data);
-    copyColumn(entry.phymode, line.column[SurveyLine::PhyMode]);
-    copyColumn(entry.sideband, line.column[SurveyLine::SideBand]);
-    entry.product = number(line.column[SurveyLine::Product].data);
+    copyColumn(entry.ssid, line.column[SurveyLine::kSsid]);
+    entry.channel = number(line.column[SurveyLine::kChannel].data);
+    entry.rssi = number(line.column[SurveyLine::kRssi].data);
+    copyColumn(entry.security, line.column[SurveyLine::kSecurity]);
+    copyColumn(entry.encryption, line.column[SurveyLine::kEncryption]);
+    copyColumn(entry.macaddr, line.column[SurveyLine::kMacAddr]);
+    entry.bandwidth = number(line.column[SurveyLine::kBandwidth].data);
+    copyColumn(entry.phymode, line.column[SurveyLine::kPhyMode]);
+    copyColumn(entry.sideband, line.column[SurveyLine::kSideBand]);
+    entry.product = number(line.column[SurveyLine::kProduct].data);
 }
 
 } // namespace wifi

@@ -15,23 +15,23 @@ struct SurveyLine {
         size_t length;
     };
     enum Column : unsigned char {
-        Ssid,
-        Channel,
-        Rssi,
-        Security,
-        Encryption,
-        MacAddr,
-        Bandwidth,
-        PhyMode,
-        SideBand,
-        Product,
-        Columns
+        kSsid,
+        kChannel,
+        kRssi,
+        kSecurity,
+        kEncryption,
+        kMacAddr,
+        kBandwidth,
+        kPhyMode,
+        kSideBand,
+        kProduct,
+        kColumns
     };
 
     // Whether every column holds something.
-    [[nodiscard]] bool isComplete() const { return column[Columns - 1].length > 0; }
+    [[nodiscard]] bool isComplete() const { return column[kColumns - 1].length > 0; }
 
-    Text column[Columns];
+    Text column[kColumns];
 };
 
 // Cuts a line into columns, in place, as the scan format "%[^\t]\t%[^\t]\t..." of ten columns does: a tab ends a

@@ -10,5 +10,6 @@ std::span<const Command> networkCommands();
 std::span<const Command> objectCommands();
 std::span<const Command> wifiCommands();
 std::span<const Command> meshCommands();
+std::span<const Command> captureCommands();
 
 } // namespace cli

@@ -20,8 +20,7 @@ ZintuWanInfo untouchedInfo() {
 }
 
 Page sectionsOf(const ZintuWanInfo &info) {
-    std::vector<std::string> notes;
-    Page page{{
+    return {{
         {"",
          "",
          {
@@ -56,8 +55,8 @@ Page sectionsOf(const ZintuWanInfo &info) {
          "DNS",
          {
              {"automatic", "Automatic", flag(info.bDnsAuto)},
-             {"dns1", "Server 1", server(text(info.sDNS1), notes)},
-             {"dns2", "Server 2", server(text(info.sDNS2), notes)},
+             {"dns1", "Server 1", text(info.sDNS1)},
+             {"dns2", "Server 2", text(info.sDNS2)},
          }},
         {"vlan",
          "VLAN",
@@ -74,8 +73,6 @@ Page sectionsOf(const ZintuWanInfo &info) {
              {"next_hop", "Next hop", text(info.sIpv6NextHop)},
          }},
     }};
-    page.notes = notes;
-    return page;
 }
 
 // The WAN being down is an answer, not a failure: no forwarding entry tells a gateway then.
@@ -104,16 +101,9 @@ Page bridgeWan() {
     const int mode = operationMode();
     ZintuWanInfo info = untouchedInfo();
     ask([&] { return ZintuGet_BrWanInfo(static_cast<uint32_t>(mode), &info); },
-        {"the gateway is not a bridge: its operation mode is " + std::to_string(mode),
+        {"the gateway is no bridge: its operation mode is " + std::to_string(mode),
          {"Device.Routing."},
          CALTOFAL_NO_MATCH});
-    // The library fixes these whatever the device does, and "Down" means no more than that DHCP gave no address.
-    info.bIpv6Enable = kUntouchedFlag;
-    info.sIpv6Type[0] = '\0';
-    untouch(info.bVlanEnable, info.nVlanID, info.bDnsAuto);
-    if (text(info.sStatus) == "Down") {
-        info.sStatus[0] = '\0';
-    }
     return noted(info);
 }
 

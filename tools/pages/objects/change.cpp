@@ -4,7 +4,6 @@
 #include "pages/checked.h"
 #include "pages/failure.h"
 #include "pages/secret.h"
-#include "pages/text.h"
 
 namespace pages::objects {
 namespace {
@@ -12,7 +11,7 @@ namespace {
 Value listOf(const std::vector<Object> &objects) {
     Value list = Value::list();
     for (const Object &object : objects) {
-        Value entry = Value::object({{"object", withoutDot(object.name)}});
+        Value entry = Value::object({{"object", object.name}});
         for (const Parameter &parameter : object.parameters) {
             entry["parameters"][parameter.name] = shownValue(parameter.name, parameter.value);
         }
@@ -42,7 +41,7 @@ Report add(const std::vector<Object> &tables, bool storeOnly) {
     const std::vector<Object> added = change(tables, Change::Add, storeOnly);
     Report result = report("added", added, storeOnly);
     for (const Object &object : added) {
-        result.table.rows.push_back({{std::string(withoutDot(object.name))}});
+        result.table.rows.push_back({{object.name}});
     }
     return result;
 }

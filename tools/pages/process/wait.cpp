@@ -21,16 +21,20 @@ milliseconds since(steady_clock::time_point start) {
 Outcome askAgain(Wait &wait, const Pace &pace, const std::string &what, const std::function<bool()> &done) {
     const milliseconds most = std::accumulate(pace.intervals.begin(), pace.intervals.end(), 0) * pace.unit;
     const steady_clock::time_point start = steady_clock::now();
-    while (!done()) {
-        if (since(start) >= most) {
-            return wait.cancelled() ? Outcome::Cancelled : Outcome::TimeOut;
+    for (const uint8_t interval : pace.intervals) {
+        const steady_clock::time_point end = steady_clock::now() + interval * pace.unit;
+        while (steady_clock::now() < end) {
+            wait.progress(what, since(start), most);
+            const auto left = std::chrono::ceil<milliseconds>(end - steady_clock::now());
+            if (!wait.pause(std::min(kTick, left))) {
+                return Outcome::Cancelled;
+            }
         }
-        wait.progress(what, since(start), most);
-        if (!wait.pause(std::min({kTick, pace.unit, most - since(start)}))) {
-            return Outcome::Cancelled;
+        if (done()) {
+            return Outcome::Done;
         }
     }
-    return Outcome::Done;
+    return wait.cancelled() ? Outcome::Cancelled : Outcome::TimeOut;
 }
 
 bool waitFor(Wait &wait, const std::string &what, const std::function<bool()> &done) {

@@ -4,6 +4,7 @@
 
 var=/opt/lantiq/var # kept with the gateway
 wave=/tmp/wlan_wave
+recorded=/run/recorded # what a captured gateway's files and tools said, laid out when the box opens
 
 # What a program asks of the gateway's model; `device_model` alone tells what there is.
 device_model() {
@@ -23,6 +24,16 @@ complain() {
     shift
     echo "$*" >&2
     exit "$complaint_code"
+}
+
+# Plays back what was recorded of a command, and ends as it did. Goes on where nothing was: play COMMAND [ARGUMENT...]
+play() {
+    answer=$recorded/answers/$(echo "$*" | tr '/ ' ':+')
+    if [ -e "$answer" ]; then
+        cat "$answer"
+        exit "$(cat "$answer.code")"
+    fi
+    [ -z "$CALTOFAL_BOX_RECORDED_ONLY" ] || complain 1 "$*: not recorded"
 }
 
 # Writes standard input to a file at once: readers see all of it or what was there before.

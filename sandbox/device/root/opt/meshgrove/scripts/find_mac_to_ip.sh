@@ -4,6 +4,7 @@
 # when there is none.
 . /opt/lantiq/lib/device.sh
 
+play /opt/meshgrove/scripts/find_mac_to_ip.sh "$(echo "$1" | tr 'A-F' 'a-f')"
 {
     device_model table Device.WiFi.X_ZINTU_RoamingMesh.Satellite. PhysAddress IPAddress
     device_model table Device.Hosts.Host. PhysAddress IPAddress
