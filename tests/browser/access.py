@@ -6,13 +6,15 @@ import subprocess
 from page import FOLDER, VIEWS, WIDTHS, Keys, PageCase
 
 AXE = os.path.join(FOLDER, "node_modules", "axe-core", "axe.min.js")
-RUN = """const done = arguments[0]; axe.run(document, {resultTypes: ["violations"]}).then(result => done(result.violations.map(one =>
+RUN = """const done = arguments[0];
+axe.run(document, {resultTypes: ["violations"]}).then(result => done(result.violations.map(one =>
     [one.id, one.help, one.nodes.map(node => node.html.slice(0, 200))])), error => done(String(error)));"""
 # What reaches beyond the screen or is cut off inside its own element.
 CUT = """return [...document.querySelectorAll("body *")].filter(node => {
   const box = node.getBoundingClientRect(), style = getComputedStyle(node);
   if (style.clipPath !== "none" || node.closest("thead, .skip, option") || !box.width) return false;
-  return box.right > innerWidth + 1 || box.left < -1 || (style.overflowX !== "visible" && node.scrollWidth > node.clientWidth + 1 && node.tagName !== "INPUT");
+  return box.right > innerWidth + 1 || box.left < -1
+    || (style.overflowX !== "visible" && node.scrollWidth > node.clientWidth + 1 && node.tagName !== "INPUT");
 }).map(node => node.tagName + "." + node.className + ": " + node.textContent.slice(0, 60));"""
 
 
@@ -49,8 +51,8 @@ class Access(PageCase):
                 for view in VIEWS:
                     self.open(view)
                     if view == "model":
-                        self.script("""const search = document.getElementById("search"); search.value = "radio.1 channel";
-                            search.dispatchEvent(new Event("input"));""")
+                        self.script("""const search = document.getElementById("search");
+                            search.value = "radio.1 channel"; search.dispatchEvent(new Event("input"));""")
                     with self.subTest(view=view, width=width, scheme=scheme):
                         yield f"{view or 'overview'}-{width}-{scheme}"
 
@@ -80,7 +82,8 @@ class Access(PageCase):
     def test_everything_is_reached_by_the_keyboard_alone(self):
         self.serve()
         keys = lambda *pressed: self.driver.switch_to.active_element.send_keys(*pressed)
-        focused = lambda: self.script("return document.activeElement.getAttribute('aria-label') ?? document.activeElement.textContent")
+        focused = lambda: self.script("""const {activeElement: at} = document;
+            return at.getAttribute("aria-label") ?? at.textContent""")
         self.driver.find_element("tag name", "body").send_keys(Keys.TAB)
         self.assertEqual(focused(), "Skip to content")
         for view in ("Overview", "Internet", "Home network", "Wi-Fi"):

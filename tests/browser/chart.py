@@ -17,20 +17,25 @@ AROUND = [
     ("5GHz", 108, -79, 40, "upper", 108, 112),
     ("5GHz", 140, -84, 20, "auto", 140, 140),
 ]
-# What is drawn in a band: the ticks with their places, and each network with its outline's ends and the box of its name.
+# What is drawn in a band: the ticks with their places, and each network's outline, and the boxes of names.
 DRAWN = """
-const chart = Chart.getChart(document.querySelector('.chart[data-key="' + arguments[0] + '"] canvas')), x = chart.scales.x, y = chart.scales.y;
+const chart = Chart.getChart(document.querySelector('.chart[data-key="' + arguments[0] + '"] canvas'));
+const {x, y} = chart.scales;
 const px = point => [x.getPixelForValue(point.x), y.getPixelForValue(point.y)];
-return {area: chart.chartArea, ticks: Object.fromEntries(x.ticks.map(tick => [tick.label, x.getPixelForValue(tick.value)])),
-  floor: y.getPixelForValue(y.min), mhz: x.getPixelForValue(1) - x.getPixelForValue(0), titles: [x.options.title.text, y.options.title.text],
-  networks: chart.data.datasets.map(({network, data, borderColor}) => ({id: network.id, own: network.own, colour: borderColor,
-    channel: network.channel, names: network.names.map(one => one.ssid), first: px(data[0]), last: px(data.at(-1)), top: Math.min(...data.map(one => px(one)[1])),
+return {area: chart.chartArea, floor: y.getPixelForValue(y.min), mhz: x.getPixelForValue(1) - x.getPixelForValue(0),
+  ticks: Object.fromEntries(x.ticks.map(tick => [tick.label, x.getPixelForValue(tick.value)])),
+  titles: [x.options.title.text, y.options.title.text],
+  networks: chart.data.datasets.map(({network, data, borderColor}) => ({
+    id: network.id, own: network.own, channel: network.channel, colour: borderColor,
+    first: px(data[0]), last: px(data.at(-1)), top: Math.min(...data.map(one => px(one)[1])),
     dbm: network.own ? null : y.getPixelForValue(network.rssi_dbm)})),
   names: chart.names.map(({network, lines, box}) => ({id: network.id, lines, ...box}))};"""
 
 
 def row(number, band, channel, dbm, mhz, side, *_, name="network"):
-    return f"{band}\t{name} {number}\t{channel}\t{dbm}\tWPA2-PSK\tAES\t02:00:5E:66:00:{number:02X}\t{mhz}\t802.11n\t{side}\t0\n"
+    columns = (band, f"{name} {number}", channel, dbm, "WPA2-PSK", "AES",
+               f"02:00:5E:66:00:{number:02X}", mhz, "802.11n", side, 0)
+    return "\t".join(map(str, columns)) + "\n"
 
 
 class Chart(PageCase):
@@ -65,37 +70,42 @@ class Chart(PageCase):
                 if dbm is not None:
                     self.assertAlmostEqual(shown["top"], shown["dbm"], delta=1)
         for band, channels in (("2.4g", range(1, 14)), ("5g", [*range(36, 65, 4), *range(100, 145, 4)])):
-            self.assertEqual(sorted(int(label) for label in drawn[band]["ticks"]), list(channels), "no band has a channel of the other")
+            self.assertEqual(sorted(map(int, drawn[band]["ticks"])), list(channels), "no band has one of the other")
             self.assertEqual(drawn[band]["titles"], ["Channel", "Signal, dBm"])
         table = self.read()["Channels in 5 GHz"]["tables"]["Channels in 5 GHz"]
-        self.assertEqual({row["Network"]: (row["Channel"], row["Takes"]) for row in table if row["Network"].startswith("network")}, {
+        others = [row for row in table if row["Network"].startswith("network")]
+        self.assertEqual({row["Network"]: (row["Channel"], row["Takes"]) for row in others}, {
             "network 4": ("40", "36 + 40"), "network 5": ("48", "36 to 48"), "network 6": ("52 DFS", "52 to 64"),
             "network 7": ("108 DFS", "108 + 112"), "network 8": ("140 DFS", "140")})
 
     def test_in_a_crowd_names_stay_apart_and_own_ones_are_there(self):
-        self.put_around([row(number, "2.4GHz", 1 + number % 13, -35 - number, 20, "auto", name="a rather long name") for number in range(40)]
-                        + [row(100 + number, "5GHz", 36 + 4 * (number % 8), -40 - number, 20, "auto") for number in range(30)])
+        lower = [row(n, "2.4GHz", 1 + n % 13, -35 - n, 20, "auto", name="a rather long name") for n in range(40)]
+        self.put_around(lower + [row(100 + n, "5GHz", 36 + 4 * (n % 8), -40 - n, 20, "auto") for n in range(30)])
         own = {"2.4g": ["VOLA Home", "Café & Friends"], "5g": ["VOLA Home 5G", "Café & Friends"]}
         self.drawn()
         for width in (1280, 768, 360):
             self.resize(width)
-            self.await_script("[...document.querySelectorAll('.chart')].every(one => Math.abs(one.clientWidth - one.firstChild.clientWidth) < 2)")
+            self.await_script("[...document.querySelectorAll('.chart')].every(one => "
+                              "Math.abs(one.clientWidth - one.firstChild.clientWidth) < 2)")
             self.driver.execute_async_script("requestAnimationFrame(() => requestAnimationFrame(arguments[0]))")
             for band in own:
                 drawn = self.script(DRAWN, band)
                 with self.subTest(width=width, band=band):
                     self.assertIn(own[band], [name["lines"] for name in drawn["names"]])
                     for number, one in enumerate(drawn["names"]):
-                        self.assertTrue(drawn["area"]["left"] <= one["left"] and one["left"] + one["width"] <= drawn["area"]["right"] + 1, one)
+                        self.assertGreaterEqual(one["left"], drawn["area"]["left"])
+                        self.assertLessEqual(one["left"] + one["width"], drawn["area"]["right"] + 1)
                         self.assertFalse([other for other in drawn["names"][:number] if covers(one, other)], one)
             self.screenshot(f"crowd-{width}")
-        self.assertEqual(len(self.read()["Channels in 2.4 GHz"]["tables"]["Channels in 2.4 GHz"]), 41, "the table has them all")
+        table = self.read()["Channels in 2.4 GHz"]["tables"]["Channels in 2.4 GHz"]
+        self.assertEqual(len(table), 41, "the table has them all")
 
     def test_a_network_keeps_its_colour_between_scans(self):
         networks = [row(number, *network) for number, network in enumerate(AROUND)]
         self.put_around(networks[1:])
         before = self.drawn()
-        self.put_around([row(0, *AROUND[0][:2], -30, *AROUND[0][3:]), row(77, "2.4GHz", 2, -31, 20, "auto"), *reversed(networks[1:])])
+        self.put_around([row(0, *AROUND[0][:2], -30, *AROUND[0][3:]), row(77, "2.4GHz", 2, -31, 20, "auto"),
+                         *reversed(networks[1:])])
         after = self.drawn()
         for band in before:
             colours = {one["id"]: one["colour"] for one in after[band]["networks"]}

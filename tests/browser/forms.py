@@ -13,7 +13,8 @@ CHANGES = [
     ("wifi", "Change network 1, VOLA Home", {"KeyPassphrase": "a new pass phrase"},
      {f"{SECURITY}.KeyPassphrase": ("(hidden)", "(hidden)")}, {f"{SECURITY}.KeyPassphrase": "a new pass phrase"}),
     ("wifi", "Change network 1, VOLA Home", {"ModeEnabled": "WPA2/WPA-PSK"},
-     {f"{SECURITY}.ModeEnabled": ("WPA2-Personal", "WPA-WPA2-Personal")}, {f"{SECURITY}.ModeEnabled": "WPA-WPA2-Personal"}),
+     {f"{SECURITY}.ModeEnabled": ("WPA2-Personal", "WPA-WPA2-Personal")},
+     {f"{SECURITY}.ModeEnabled": "WPA-WPA2-Personal"}),
     ("wifi", "Change radio 5 GHz", {"Channel": "100"},
      {f"{RADIO}.Channel": ("36", "100"), f"{RADIO}.AutoChannelEnable": ("true", "false")},
      {f"{RADIO}.Channel": "100", f"{RADIO}.AutoChannelEnable": "false"}),
@@ -58,7 +59,8 @@ class Forms(PageCase):
                 self.save()
                 self.assertEqual({path: stored_now(server, path) for path in stored}, stored)
                 self.open("written")
-                rows = self.script("return [...document.querySelectorAll('main tbody tr')].map(row => [...row.cells].map(c => c.innerText))")
+                rows = self.script("return [...document.querySelectorAll('main tbody tr')]"
+                                   ".map(row => [...row.cells].map(cell => cell.innerText))")
                 self.assertEqual({path: (old, new) for path, old, new, _ in rows[:len(foreseen)]}, foreseen)
                 self.assertNotIn("pass phrase", self.script("return JSON.stringify(sessionStorage)"))
             self.doCleanups()
@@ -88,7 +90,7 @@ class Forms(PageCase):
         self.assertEqual((field.get_attribute("type"), field.get_attribute("value")), ("password", ""))
         self.press("Show Pass phrase", "dialog")
         self.await_script("arguments[0].value === 'correct-horse-battery' && arguments[0].type === 'text'", field)
-        self.assertIsNone(self.script("return document.querySelector('dialog button.main:enabled')"), "nothing has changed")
+        self.assertIsNone(self.script("return document.querySelector('dialog button.main:enabled')"), "no change yet")
 
     def test_any_parameter_can_be_found_and_changed(self):
         server = self.serve()
@@ -108,7 +110,8 @@ class Forms(PageCase):
         self.press("Scan: Scan in 2.4 GHz")
         self.await_script("document.querySelector('progress')")
         self.assertRegex(self.script("return document.querySelector('.progress').innerText"), r"\d+ s( left)?")
-        self.await_script("!document.querySelector('progress') && document.body.innerText.includes('5 networks found')", timeout=60)
+        self.await_script("!document.querySelector('progress') && document.body.innerText.includes('5 networks found')",
+                          timeout=60)
         self.await_script("document.querySelector('main').innerText.includes('cafe-open')")
 
     def test_a_scan_can_be_cancelled(self):
@@ -122,6 +125,7 @@ class Forms(PageCase):
         self.serve(CALTOFAL_BOX_WPS_MS="2500")
         self.open("wifi")
         self.press("Start push-button: WPS")
-        first = self.await_script("document.querySelector('.progress')?.innerText.match(/(\\d+) s left/)?.[1]")
-        self.await_script("Number(document.querySelector('.progress')?.innerText.match(/(\\d+) s left/)?.[1]) < arguments[0]", int(first))
+        left = "Number(document.querySelector('.progress')?.innerText.match(/(\\d+) s left/)?.[1])"
+        first = self.await_script(left)
+        self.await_script(f"{left} < arguments[0]", first)
         self.await_script("document.getElementById('said').innerText === 'WPS: Success.'")

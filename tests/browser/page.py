@@ -17,7 +17,8 @@ from selenium.webdriver.common.keys import Keys
 from selenium.webdriver.support.ui import Select, WebDriverWait
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "web"))
-from server import GATEWAYS, SANDBOX, Server, environment, has_box  # noqa: E402 pylint: disable=wrong-import-position,unused-import
+# pylint: disable-next=wrong-import-position,unused-import
+from server import GATEWAYS, SANDBOX, Server, environment, has_box
 
 FOLDER = os.path.abspath(sys.argv[4])
 SOURCES = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "tools", "web", "page")
@@ -29,15 +30,16 @@ OPTIONS = """--headless=new --no-sandbox --disable-gpu --disable-background-netw
 # What stands in the sections: {section: {"text", "facts": {"part/term": text}, "tables": {label: [{head: text}]}}}.
 READ = """
 const text = node => node.innerText.trim();
-return Object.fromEntries([...document.querySelectorAll("main section")].map(section => [section.getAttribute("aria-label"), {
+const object = (nodes, pair) => Object.fromEntries([...nodes].map(pair));
+return object(document.querySelectorAll("main section"), section => [section.getAttribute("aria-label"), {
   text: text(section),
-  facts: Object.fromEntries([...section.querySelectorAll("dl > div")].map(pair => {
+  facts: object(section.querySelectorAll("dl > div"), pair => {
     const part = pair.parentNode.parentNode.querySelector(":scope > h3");
     return [(part ? part.innerText + "/" : "") + pair.firstChild.innerText, text(pair.lastChild)];
-  })),
-  tables: Object.fromEntries([...section.querySelectorAll("table")].map(table => [table.getAttribute("aria-label"),
-    [...table.querySelectorAll("tbody tr")].map(row => Object.fromEntries([...row.cells].map(cell => [cell.dataset.head, text(cell)])))])),
-}]));"""
+  }),
+  tables: object(section.querySelectorAll("table"), table => [table.getAttribute("aria-label"),
+    [...table.querySelectorAll("tbody tr")].map(row => object(row.cells, cell => [cell.dataset.head, text(cell)]))]),
+}]);"""
 
 
 @functools.lru_cache(None)
@@ -61,8 +63,8 @@ def quit_browser():
 class Boxed(Server):
     """In the device box, whose exit code after a signal is the signal's."""
 
-    def __init__(self, **options):
-        super().__init__(box=True, **options)
+    def __init__(self, options=(), **variables):
+        super().__init__(*options, box=True, **variables)
 
     def end(self):
         if self.process.poll() is None:
@@ -82,9 +84,9 @@ class PageCase(unittest.TestCase):
         self.addCleanup(self.check_console)
 
     def check_console(self):
-        allowed = "|".join(f"status of {status}" for status in self.expected) or "nothing"
+        allowed = "|".join(["wifi/survey .*status of 404", *(f"status of {status}" for status in self.expected)])
         errors = [entry["message"] for entry in self.driver.get_log("browser")
-                  if entry["level"] == "SEVERE" and not re.search(f"{allowed}|wifi/survey .*status of 404", entry["message"])]
+                  if entry["level"] == "SEVERE" and not re.search(allowed, entry["message"])]
         self.assertEqual(errors, [])
         self.resize(1280)
 
@@ -99,11 +101,13 @@ class PageCase(unittest.TestCase):
     def scan(self, server):
         """Looks for networks in both bands, without the waits that a page's own scan has."""
         jobs = [server.post("/wifi/scans", {"interface": wlan, "pace": 20}).json["id"] for wlan in ("wlan0", "wlan2")]
-        WebDriverWait(None, 20, 0.05).until(lambda _: all(server.get(f"/jobs/{job}").json["state"] == "done" for job in jobs))
+        done = lambda job: server.get(f"/jobs/{job}").json["state"] == "done"
+        WebDriverWait(None, 20, 0.05).until(lambda _: all(map(done, jobs)))
 
     @staticmethod
     def sandbox(server, *words, data=b""):
-        subprocess.run([SANDBOX, *words], env=environment(server.folder), input=data, check=True, capture_output=True, timeout=60)
+        subprocess.run([SANDBOX, *words], env=environment(server.folder), input=data, check=True, capture_output=True,
+                       timeout=60)
 
     def script(self, text, *arguments):
         return self.driver.execute_script(text, *arguments)

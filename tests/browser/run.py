@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""run.py WEB TOOL SANDBOX FOLDER [MODULE[.CLASS[.TEST]]...]: the page in headless Chromium. FOLDER takes the screenshots
-and what npm brings. Exit code 77 where there is no browser or no device box."""
+"""run.py WEB TOOL SANDBOX FOLDER [MODULE[.CLASS[.TEST]]...]: the page in headless Chromium. FOLDER takes the
+screenshots and what npm brings. Exit code 77 where there is no browser or no device box."""
 import shutil
 import sys
 import unittest

@@ -17,9 +17,11 @@ FACTS = [
     ("internet", "Name servers", "First", "/dns", "dns1", None),
     ("internet", "IPv6", "Address", "/ipv6", "address", None),
     ("internet", "IPv6", "State", "/ipv6", "enabled", lambda on: "On" if on else "Off"),
-    ("internet", "DSL line", "Downstream/Rate", "/dsl", "downstream.rate_kbit_s", lambda kbit: f"{kbit / 1000:.1f} Mbit/s"),
+    ("internet", "DSL line", "Downstream/Rate", "/dsl", "downstream.rate_kbit_s",
+     lambda kbit: f"{kbit / 1000:.1f} Mbit/s"),
     ("internet", "DSL line", "Upstream/Noise margin", "/dsl", "upstream.noise_margin_db", lambda db: f"{db:.1f} dB"),
-    ("internet", "DSL line", "Downstream/Attenuation", "/dsl", "downstream.attenuation_db", lambda db: f"{db[0]:.1f} dB"),
+    ("internet", "DSL line", "Downstream/Attenuation", "/dsl", "downstream.attenuation_db",
+     lambda db: f"{db[0]:.1f} dB"),
     ("internet", "ATM link", "VPI / VCI", "/atm", "", lambda atm: f"{atm['vpi']} / {atm['vci']}"),
     ("internet", "Multi-WAN", "Two WANs", "/multiwan", "enabled", lambda on: "On" if on else "Off"),
     ("home", "LAN", "IPv4/Address", "/lan", "ipv4.address", None),
@@ -42,18 +44,22 @@ def members(value):
 # View, section, table, resource, its list, column by column what a row shows; only rows of which the last holds.
 TABLES = [
     ("", "Wi-Fi", "Radios", "/wifi/radios", "radios",
-     {"Radio": lambda one: BANDS[one["band"]], "Channel": lambda one: str(one["channel"]), "Clients": lambda one: str(one["clients"])}, None),
+     {"Radio": lambda one: BANDS[one["band"]], "Channel": lambda one: str(one["channel"]),
+      "Clients": lambda one: str(one["clients"])}, None),
     ("home", "Hosts", "Hosts", "/hosts", "hosts",
      {"Host": lambda one: one["name"] or "(no name)", "Address": lambda one: one["address"],
       "State": lambda one: "Connected" if one["active"] else "Away"}, None),
     ("wifi", "Radios", "Radios", "/wifi/radios", "radios",
-     {"Radio": lambda one: BANDS[one["band"]], "Width": lambda one: f"{one['bandwidth_mhz']} MHz", "Standards": lambda one: one["standards"]},
+     {"Radio": lambda one: BANDS[one["band"]], "Width": lambda one: f"{one['bandwidth_mhz']} MHz",
+      "Standards": lambda one: one["standards"]},
      None),
     ("wifi", "Networks", "Networks that are on", "/wifi/ssids", "ssids",
-     {"Name": lambda one: one["ssid"] or "(no name)", "BSSID": lambda one: one["bssid"], "For": lambda one: one["network"]},
+     {"Name": lambda one: one["ssid"] or "(no name)", "BSSID": lambda one: one["bssid"],
+      "For": lambda one: one["network"]},
      lambda one: one["enabled"]),
     ("mesh", "Mesh", "Satellites", "/mesh", "satellites",
-     {"Satellite": lambda one: one["name"], "Address": lambda one: one["ip"], "MAC address": lambda one: one["mac"]}, None),
+     {"Satellite": lambda one: one["name"], "Address": lambda one: one["ip"],
+      "MAC address": lambda one: one["mac"]}, None),
 ]
 
 
@@ -96,9 +102,11 @@ class Views(PageCase):
                 self.assertEqual(got, expected)
 
     def check_stations(self, shown):
-        serving = [one for one in self.answers("/wifi/ssids")["ssids"] if one["enabled"] and one["active"] and one["network"] != "uplink"]
+        serving = [one for one in self.answers("/wifi/ssids")["ssids"]
+                   if one["enabled"] and one["active"] and one["network"] != "uplink"]
+        stations = {one["interface"]: self.answers(f"/wifi/stations/{one['interface']}")["stations"] for one in serving}
         expected = sorted((station["mac"], one["ssid"] + " " + one["interface"], f"{station['rssi_dbm']} dBm")
-                          for one in serving for station in self.answers(f"/wifi/stations/{one['interface']}")["stations"])
+                          for one in serving for station in stations[one["interface"]])
         rows = shown["Stations"]["tables"].get("Stations", [])
         self.assertEqual(sorted((row["MAC address"], row["Network"], row["Signal"]) for row in rows), expected)
 

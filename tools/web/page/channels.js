@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The geometry of the channel chart: which frequencies a network takes, where they are on the axis, its shape there, the
-// place of its name, its colour. Numbers in, numbers out: nothing here draws or asks.
+// The geometry of the channel chart: which frequencies a network takes, where they are on the axis, its shape there,
+// the place of its name, its colour. Numbers in, numbers out: nothing here draws or asks.
 
 // The 20 MHz channels of 5 GHz lie in runs without gaps, in which wider channels are formed from the first one on.
 const RUNS = [[36, 64], [100, 144], [149, 177]];
@@ -65,8 +65,8 @@ export function humpOf(axis, {low, high}, top, floor) {
     y: floor + (top - floor) * Math.max(0, 1 - across ** 4)}));
 }
 
-// Boxes in `area` for names {x: middle, y: wanted lower edge, width, height}, the most important first. They do not cover
-// each other; null where there is no room within four heights.
+// Boxes in `area` for names {x: middle, y: wanted lower edge, width, height}, the most important first. They do not
+// cover each other; null where there is no room within four heights.
 export function placeLabels(labels, area) {
   const placed = [];
   const covers = (a, b) => a.left < b.left + b.width && b.left < a.left + a.width
@@ -81,7 +81,8 @@ export function placeLabels(labels, area) {
   });
 }
 
-// One of `count` colours for a network. `taken` remembers those given; a new network gets a free one while there are some.
+// One of `count` colours for a network. `taken` remembers those given; a new network gets a free one while there
+// are some.
 export function colourOf(id, taken, count) {
   if (!taken.has(id)) {
     const hash = [...id].reduce((sum, letter) => (sum * 31 + letter.codePointAt(0)) % 9973, 7);
@@ -91,8 +92,9 @@ export function colourOf(id, taken, count) {
   return taken.get(id);
 }
 
-// The networks on the air: the own ones of a radio as one, then the others, strongest first. One that several interfaces
-// heard stands there once; own ones that were heard are no others. `sides`: of the secondary channel, by radio.
+// The networks on the air: the own ones of a radio as one, then the others, strongest first. One that several
+// interfaces heard stands there once; own ones that were heard are no others. `sides`: of the secondary channel, by
+// radio.
 export function networksOf(radios, ssids, sides, heard) {
   const own = radios.filter(radio => radio.enabled && radio.status === "Up" && bandOf(radio.channel) === radio.band)
     .map(radio => ({...radio, own: true, id: radio.interface, secondary_side: sides[radio.radio], names:

@@ -22,12 +22,13 @@ class Field {
     if (options) {
       const pairs = options.map(option => [option].flat());
       if (!pairs.some(([one]) => one === value)) pairs.unshift([value, value]);
-      return el("select", common, pairs.map(([one, label = one]) => el("option", {value: one, selected: one === value}, label)));
+      return el("select", common, pairs.map(([one, label = one]) =>
+        el("option", {value: one, selected: one === value}, label)));
     }
     if (typeof value === "boolean") return el("input", {...common, type: "checkbox", checked: value});
     const hidden = value === HIDDEN;
-    return el("input", {...common, type: hidden ? "password" : "text", value: hidden ? "" : value, autocomplete: "new-password",
-      spellcheck: "false"});
+    return el("input", {...common, type: hidden ? "password" : "text", value: hidden ? "" : value,
+      autocomplete: "new-password", spellcheck: "false"});
   }
 
   get value() { return this.input.type === "checkbox" ? this.input.checked : this.input.value; }
@@ -55,8 +56,9 @@ class Field {
   element() {
     const label = el("label", {for: this.id}, this.spec.label);
     if (this.input.type === "checkbox") return el("div.field.check", this.input, label, this.note);
-    return el("div.field", label, el("div.entry", this.input, this.spec.reveal
-      && button("Show", ({target}) => this.reveal(target).catch(error => this.say(error.message)), this.spec.label)), this.note);
+    const show = ({target}) => this.reveal(target).catch(error => this.say(error.message));
+    const shower = this.spec.reveal && button("Show", show, this.spec.label);
+    return el("div.field", label, el("div.entry", this.input, shower), this.note);
   }
 }
 

@@ -6,7 +6,8 @@ const ipv4 = lan => facts(["Address", lan.address], ["Subnet mask", lan.subnet_m
   ["DHCP server", onOff(lan.dhcp_active)], ["Hands out", lan.dhcp_start && `${lan.dhcp_start} to ${lan.dhcp_end}`],
   ["For", figure(lan.lease_time_s / 3600, "hours")]);
 
-const ipv6 = lan => facts(["State", onOff(lan.active)], ["Address", lan.address && `${lan.address}/${lan.prefix_length_bits}`],
+const ipv6 = lan => facts(["State", onOff(lan.active)],
+  ["Address", lan.address && `${lan.address}/${lan.prefix_length_bits}`],
   ["Mode", lan.mode], ["Hands out", lan.dhcp_start && `${lan.dhcp_start} to ${lan.dhcp_end}`],
   ["Name servers", [lan.dns1, lan.dns2].filter(Boolean).join(", ")], ["Domain", lan.domain]);
 
@@ -26,6 +27,7 @@ export default {
     part("LAN", lan, value => pair(el("div", el("h3", "IPv4"), value.ipv4 && ipv4(value.ipv4)),
       el("div", el("h3", "IPv6"), value.ipv6 && ipv6(value.ipv6)))),
     part("Hosts", hosts, hostTable, "list of hosts"),
-    part("IPTV", iptv, value => note(`${value.set_top_box ? "A" : "No"} LAN port belongs to a set-top box.`), "IPTV bridge"),
+    part("IPTV", iptv, value =>
+      note(`${value.set_top_box ? "A" : "No"} LAN port belongs to a set-top box.`), "IPTV bridge"),
   ],
 };

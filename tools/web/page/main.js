@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The page: asking the gateway; what views are made of; the overview; the way between the views and their refreshing.
-// One file, as the first view is to need few; the other views are loaded when they are first shown. Text from the gateway
-// only ever becomes text: nothing here parses markup.
+// One file, as the first view is to need few; the other views are loaded when they are first shown. Text from the
+// gateway only ever becomes text: nothing here parses markup.
 
 export class ApiError extends Error {
   constructor(status, error) {
@@ -132,7 +132,8 @@ export function bar(label, part, whole, weak) {
   return el(`span.bar${weak ? ".weak" : ""}`, {role: "meter", "aria-label": label, "aria-valuenow": share}, fill);
 }
 
-export const facts = (...rows) => el("dl", rows.filter(Boolean).map(([term, value]) => el("div", el("dt", term), el("dd", shown(value)))));
+export const facts = (...rows) => el("dl", rows.filter(Boolean).map(([term, value]) =>
+  el("div", el("dt", term), el("dd", shown(value)))));
 
 // Columns of [head, content, kind]: content is a member's name or content(row), kind "count" for figures and "act" for
 // buttons. On a narrow screen a row becomes a list of heads and cells, which is why the roles are spelled out. `key` is
@@ -142,15 +143,18 @@ export function table(label, columns, rows, key, empty) {
   const of = (content, row) => typeof content === "function" ? content(row) : row[content];
   const row = (cells, attributes) => el("tr", {role: "row", ...attributes}, columns.map(cells));
   return el("table", {role: "table", "aria-label": label},
-    el("thead", {role: "rowgroup"}, row(([head, , kind = "text"]) => el(`th.${kind}`, {role: "columnheader"}, el("span", head)))),
-    el("tbody", {role: "rowgroup"}, rows.map(one => row(([head, content, kind = "text"], index) => el(`${index ? "td" : "th"}.${kind}`,
-      {role: index ? "cell" : "rowheader", "data-head": head}, shown(of(content, one))), {"data-key": of(key, one)}))));
+    el("thead", {role: "rowgroup"}, row(([head, , kind = "text"]) =>
+      el(`th.${kind}`, {role: "columnheader"}, el("span", head)))),
+    el("tbody", {role: "rowgroup"}, rows.map(one => row(([head, content, kind = "text"], index) =>
+      el(`${index ? "td" : "th"}.${kind}`, {role: index ? "cell" : "rowheader", "data-head": head},
+        shown(of(content, one))), {"data-key": of(key, one)}))));
 }
 
 // `title` may go with buttons: [title, ...buttons].
 export function section(title, ...content) {
   const [text, ...buttons] = [title].flat(9);
-  return el("section", {"aria-label": text, "data-key": text}, el("div.head", el("h2", text), el("div.actions", buttons)), content);
+  return el("section", {"aria-label": text, "data-key": text},
+    el("div.head", el("h2", text), el("div.actions", buttons)), content);
 }
 export const pair = (...parts) => el("div.pair", parts);
 
@@ -182,15 +186,17 @@ const overview = {
       ["Address", value.ip_address], ["IPv6 address", value.ipv6?.address], ["Gateway", value.gateway])),
     part("Home network", lan, ({ipv4, ipv6}) => facts(["Role", mode.value && (mode.value.router ? "router" : "bridge")],
       ["Address", ipv4?.address], ["IPv6 address", ipv6?.address], ["DHCP server", onOff(ipv4?.dhcp_active)])),
-    part("Wi-Fi", radios, value => table("Radios", [["Radio", radio => bandName(radio.band)], ["State", radio => onOff(radio.enabled)],
-      ["Channel", "channel", "count"], ["Clients", "clients", "count"]], value.radios, "radio", "No radio."), "Wi-Fi")),
+    part("Wi-Fi", radios, value => table("Radios", [["Radio", radio => bandName(radio.band)],
+      ["State", radio => onOff(radio.enabled)], ["Channel", "channel", "count"],
+      ["Clients", "clients", "count"]], value.radios, "radio", "No radio."), "Wi-Fi")),
 };
 
 // A view: load() asks for what it shows, render(data) makes elements of it, shown(data) is told when they stand there.
 const VIEWS = Object.entries({"": "Overview", internet: "Internet", home: "Home network", wifi: "Wi-Fi", mesh: "Mesh",
   model: "Data model", written: "Written"}).map(([route, title]) => ({route, title, view: route ? null : overview}));
 
-const [content, freshness, trouble, views] = ["content", "freshness", "trouble", "views"].map(id => document.getElementById(id));
+const [content, freshness, trouble, views] = ["content", "freshness", "trouble", "views"]
+  .map(id => document.getElementById(id));
 let current, timer, turn = 0, data, lastGood = "";
 
 function showLink() {

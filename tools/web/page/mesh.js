@@ -15,7 +15,8 @@ const SATELLITES = [
 
 const satellites = mesh => [progress("Synchronisation"),
   facts(["State", onOff(mesh.enabled)], ["Role", mesh.master ? "master" : "satellite"], ["Satellites", mesh.connected]),
-  table("Satellites", SATELLITES, mesh.satellites, "mac", mesh.enabled ? "No satellite has joined yet." : "The mesh is off.")];
+  table("Satellites", SATELLITES, mesh.satellites, "mac",
+    mesh.enabled ? "No satellite has joined yet." : "The mesh is off.")];
 
 const uplink = point => facts(["State", connected(point.connected, "Not connected", "bad")],
   ["Interface", el("code", point.interface)], ["To", point.peer], ["Channel", point.channel],
@@ -29,8 +30,9 @@ export default {
     return {...answers, endpoint: {error: {status: 404}}, ...(on ? await getAll({endpoint: "wifi/endpoint"}) : {})};
   },
   render: ({mesh, endpoint}) => [
-    part(["Mesh", mesh.value && button("Change", () => change(mesh.value), "mesh"), mesh.value?.enabled && mesh.value.master
-      && jobButton("Synchronise", "Synchronisation", "mesh/sync", {}, () => "the satellites have the settings.")],
+    part(["Mesh", mesh.value && button("Change", () => change(mesh.value), "mesh"),
+      mesh.value?.enabled && mesh.value.master && jobButton("Synchronise", "Synchronisation",
+        "mesh/sync", {}, () => "the satellites have the settings.")],
     mesh, satellites, "mesh"),
     part("Repeater uplink", endpoint, uplink, "repeater uplink that is on"),
   ],

@@ -50,8 +50,9 @@ function results(all) {
 export default {
   load: () => getAll({all: "objects?path=Device."}),
   render: ({all}) => [
-    el("p.search", el("label", {for: "search"}, "Words of a path or a value"), el("input", {id: "search", type: "search",
-      autocomplete: "off", spellcheck: "false", value: words, oninput: event => search(event.target.value)})),
+    el("div.field.search", el("label", {for: "search"}, "Words of a path or a value"), el("input", {id: "search",
+      type: "search", autocomplete: "off", spellcheck: "false", value: words,
+      oninput: event => search(event.target.value)})),
     part("Parameters", all, value => results(parametersOf(value))),
   ],
 };

@@ -15,7 +15,10 @@ let script;
 const chartJs = () => script ??= new Promise((resolve, reject) => {
   const element = document.createElement("script");
   element.onload = () => resolve(globalThis.Chart);
-  element.onerror = () => reject(new Error("The chart cannot be loaded."));
+  element.onerror = () => {
+    script = null; // the next turn tries again
+    reject(new Error("The chart cannot be loaded."));
+  };
   element.src = "/chart.js";
   document.head.append(element);
 });
@@ -48,7 +51,8 @@ function drawNames(chart) {
   Object.assign(context, {textAlign: "center", textBaseline: "top", direction: "ltr", lineWidth: 4, lineJoin: "round"});
   const labels = chart.data.datasets.map(({network, data}) => {
     context.font = fontOf(network);
-    const lines = network.names.map(one => cut(context, visible(one.ssid) || "(no name)")), middle = data[data.length >> 1];
+    const lines = network.names.map(one => cut(context, visible(one.ssid) || "(no name)"));
+    const middle = data[data.length >> 1];
     return {network, lines, x: x.getPixelForValue(middle.x), y: y.getPixelForValue(middle.y) - 3,
       width: Math.max(...lines.map(line => context.measureText(line).width)) + 6, height: lines.length * LINE_PX};
   });
@@ -56,7 +60,8 @@ function drawNames(chart) {
   chart.names = labels.map(({network, lines}, index) => ({network, lines, box: boxes[index]})).filter(({box}) => box);
   for (const {network, lines, box} of chart.names) {
     // A rim in the background's colour, as lines may cross a name.
-    Object.assign(context, {font: fontOf(network), strokeStyle: css("--paper"), fillStyle: css(network.own ? "--accent" : "--ink")});
+    Object.assign(context, {font: fontOf(network), strokeStyle: css("--paper"),
+      fillStyle: css(network.own ? "--accent" : "--ink")});
     lines.forEach((line, index) => {
       const place = [line, box.left + box.width / 2, box.top + index * LINE_PX + 1];
       context.strokeText(...place);
@@ -99,7 +104,8 @@ function optionsOf(axis) {
       x: {type: "linear", min: 0, max: axis.end, title: title("Channel"), grid: {display: false},
         afterBuildTicks: scale => { scale.ticks = ticksOf(axis, scale.chart.width - 60); },
         ticks: {color, font, autoSkip: false, maxRotation: 0, callback: (_, index, ticks) => ticks[index].label}},
-      y: {min: FLOOR_DBM, max: TOP_DBM, title: title("Signal, dBm"), grid: {color: grid}, ticks: {color, font, stepSize: 20}}}};
+      y: {min: FLOOR_DBM, max: TOP_DBM, title: title("Signal, dBm"), grid: {color: grid},
+        ticks: {color, font, stepSize: 20}}}};
 }
 
 // Shows networks of a band in `place`; `possible` are the channels that the radio may use.

@@ -11,25 +11,30 @@ const possible = new Map(); // interface → its channels, which do not change w
 let scanned = true; // false when there is no result of a scan to ask for
 
 async function load() {
-  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", hosts: "hosts", ...scanned && {survey: "wifi/survey"}});
+  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", hosts: "hosts",
+    ...scanned && {survey: "wifi/survey"}});
   scanned = base.survey?.error?.status !== 404 && scanned;
   const radios = base.radios.value?.radios ?? [], ssids = base.ssids.value?.ssids ?? [];
   const serving = ssids.filter(ssid => ssid.enabled && ssid.active && ssid.network !== "uplink");
   const each = (list, key, path) => getAll(Object.fromEntries(list.map(one => [one[key], path + one[key]])));
+  const unknown = radios.filter(radio => !possible.has(radio.interface));
   const [stations, settings, channels] = await Promise.all([each(serving, "interface", "wifi/stations/"),
-    each(radios, "radio", "wifi/radios/"), each(radios.filter(radio => !possible.has(radio.interface)), "interface", "wifi/channels/")]);
+    each(radios, "radio", "wifi/radios/"), each(unknown, "interface", "wifi/channels/")]);
   for (const [wlan, {value}] of Object.entries(channels)) if (value) possible.set(wlan, value.channels);
-  const sides = radios.map(({radio}) => [radio, settings[radio].value?.user_interface[`Device.WiFi.Radio.${radio}`]?.ExtensionChannel]);
+  const sides = radios.map(({radio}) => [radio,
+    settings[radio].value?.user_interface[`Device.WiFi.Radio.${radio}`]?.ExtensionChannel]);
   return {...base, serving, stations, settings,
     networks: networksOf(radios, ssids, Object.fromEntries(sides), base.survey?.value?.networks ?? [])};
 }
 
 const channelsOf = radio => possible.get(radio.interface) ?? [];
-const channel = ({channel: number, auto_channel: auto}) => [String(number), auto && quiet(" automatic"), isRadar(number) && quiet(" DFS")];
+const channel = ({channel: number, auto_channel: auto}) => [String(number), auto && quiet(" automatic"),
+  isRadar(number) && quiet(" DFS")];
 
 const radioTable = (radios, settings) => table("Radios", [
   ["Radio", radio => bandName(radio.band)],
-  ["State", radio => radio.status === "Up" ? state("On the air", "good") : radio.enabled ? state(radio.status, "bad") : onOff(false)],
+  ["State", radio => radio.status === "Up" ? state("On the air", "good")
+    : radio.enabled ? state(radio.status, "bad") : onOff(false)],
   ["Channel", channel, "count"],
   ["Width", radio => figure(radio.bandwidth_mhz, "MHz"), "count"],
   ["Standards", "standards"],
@@ -47,7 +52,8 @@ function ssidTable(label, ssids, radios) {
     ["State", ssid => ssid.enabled && !ssid.active ? state("Not on the air", "bad") : onOff(ssid.enabled)],
     ["BSSID", "bssid"],
     ["Change", ssid => ssid.network !== "uplink" && button("Change", () =>
-      get(`wifi/ssids/${ssid.number}`).then(settings => editSsid(ssid, settings, refresh), error => say(error.message)), `network ${ssid.number}, ${ssid.ssid}`), "act"],
+      get(`wifi/ssids/${ssid.number}`).then(settings => editSsid(ssid, settings, refresh), error => say(error.message)),
+    `network ${ssid.number}, ${ssid.ssid}`), "act"],
   ], ssids, "number", "None is on.");
 }
 
@@ -63,7 +69,8 @@ function swatch(network) {
   return [mark, network.names.map((one, index) => [index > 0 && ", ", name(one.ssid)])];
 }
 
-const taken = ({channels, sure}) => [channels.length > 2 ? `${channels[0]} to ${channels.at(-1)}` : channels.join(" + "), !sure && quiet(" perhaps")];
+const taken = ({channels, sure}) => [
+  channels.length > 2 ? `${channels[0]} to ${channels.at(-1)}` : channels.join(" + "), !sure && quiet(" perhaps")];
 
 const AROUND = [
   ["Network", swatch],
@@ -76,7 +83,8 @@ const AROUND = [
 const inBand = (data, radio) => data.networks.filter(network => network.span.band === radio.band);
 
 function spectrum(radio, data) {
-  const band = bandName(radio.band), shown = inBand(data, radio), title = `Channels in ${band}`, label = `Scan in ${band}`;
+  const band = bandName(radio.band), shown = inBand(data, radio);
+  const title = `Channels in ${band}`, label = `Scan in ${band}`;
   return section([title, jobButton("Scan", label, "wifi/scans", {interface: radio.interface}, ({networks}) => {
     scanned = true;
     return `${networks.length} networks found.`;

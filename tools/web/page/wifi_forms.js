@@ -8,7 +8,8 @@ const STANDARDS = {"2.4g": ["b", "g", "n", "b+g", "g+n", "b+g+n"], "5g": ["a", "
 
 // The fields of those parameters that the snapshot has.
 function fieldsOf({settings, user_interface: words}, fields) {
-  const values = Object.assign({}, ...Object.entries(settings).map(([object, values]) => ({...values, ...words[object]})));
+  const values = Object.assign({}, ...Object.entries(settings).map(([object, values]) =>
+    ({...values, ...words[object]})));
   return fields.filter(field => field.name in values).map(field =>
     ({...field, value: values[field.name], ...field.from?.(values)}));
 }
@@ -18,7 +19,8 @@ const channelChoice = channels => ({Channel: now, AutoChannelEnable: auto}) => (
   value: auto ? "auto" : String(now),
   options: [["auto", auto ? `automatic (now ${now})` : "automatic"],
     ...channels.map(({channel}) => [String(channel), `${channel}${isRadar(channel) ? " (DFS)" : ""}`])],
-  write: chosen => chosen === "auto" ? {AutoChannelEnable: "true"} : {...auto && {AutoChannelEnable: "false"}, Channel: chosen}});
+  write: chosen => chosen === "auto" ? {AutoChannelEnable: "true"}
+    : {...auto && {AutoChannelEnable: "false"}, Channel: chosen}});
 
 export function editRadio({radio, band}, snapshot, channels, done) {
   const widths = [...new Set(channels.flatMap(one => one.bandwidths_mhz))].sort((a, b) => a - b);
@@ -26,8 +28,10 @@ export function editRadio({radio, band}, snapshot, channels, done) {
     {name: "Enable", label: "On"},
     {name: "Channel", label: "Channel", from: channelChoice(channels),
       hint: band === "5g" ? "On a DFS channel the radio first listens for radar." : ""},
-    {name: "OperatingChannelBandwidth", label: "Width", options: [["auto", "automatic"], ...widths.map(mhz => [String(mhz), `${mhz} MHz`])]},
-    {name: "ExtensionChannel", label: "Secondary channel", options: [["upper", "above"], ["lower", "below"], ["auto", "automatic"]]},
+    {name: "OperatingChannelBandwidth", label: "Width",
+      options: [["auto", "automatic"], ...widths.map(mhz => [String(mhz), `${mhz} MHz`])]},
+    {name: "ExtensionChannel", label: "Secondary channel",
+      options: [["upper", "above"], ["lower", "below"], ["auto", "automatic"]]},
     {name: "OperatingStandards", label: "Standards", options: STANDARDS[band].map(letters => `802.11${letters}`)},
     {name: "TransmitPower", label: "Transmit power", options: ["high", "medium", "low"]}])});
 }
