@@ -25,7 +25,7 @@ std::string valueOf(const JsonNode &node) {
         return bytesOfHex(hex->text);
     }
     if (!node.isScalar() || node.kind == JsonNode::Kind::Null) {
-        throw std::invalid_argument("a value is text, a number, a flag or {\"hex\": \"digits\"}");
+        throw std::invalid_argument(R"(a value is text, a number, a flag or {"hex": "digits"})");
     }
     return node.text;
 }

@@ -43,11 +43,13 @@ std::string_view wordBefore(const Place &place) {
 // Walks the text and tells where the parser is.
 class Walker {
   public:
+    // NOLINTBEGIN(readability-identifier-naming): the names that iterators have
     using iterator_category = std::input_iterator_tag;
     using value_type = char;
     using difference_type = std::ptrdiff_t;
     using pointer = const char *;
     using reference = const char &;
+    // NOLINTEND(readability-identifier-naming)
 
     Walker(const char *at, Place *place) : at_(at), place_(place) {}
     reference operator*() const { return *at_; }
@@ -102,14 +104,19 @@ class Builder : public nlohmann::json_sax<json> {
 
   private:
     bool add(JsonNode::Kind kind, std::string text) {
-        JsonNode &node =
-            open_.empty() ? root : open_.back()->children.emplace_back(std::move(name_), JsonNode()).second;
+        JsonNode &node = open_.empty() ? root : newChild();
         name_.clear();
         node.kind = kind;
         node.line = place_.line;
         node.text = std::move(text);
         last_ = &node;
         return true;
+    }
+
+    JsonNode &newChild() {
+        std::vector<JsonMember> &siblings = open_.back()->children;
+        siblings.push_back({std::move(name_), {}});
+        return siblings.back().node;
     }
 
     bool open(JsonNode::Kind kind) {
@@ -155,12 +162,9 @@ std::vector<JsonNode> parse(std::string_view text, const std::string &file, bool
 } // namespace
 
 const JsonNode *JsonNode::member(std::string_view name) const {
-    for (auto at = children.rbegin(); at != children.rend(); ++at) {
-        if (at->first == name) {
-            return &at->second;
-        }
-    }
-    return nullptr;
+    const auto found = std::find_if(children.rbegin(), children.rend(),
+                                    [name](const JsonMember &child) { return child.name == name; });
+    return found == children.rend() ? nullptr : &found->node;
 }
 
 std::vector<JsonNode> parseJson(std::string_view text, const std::string &file) {

@@ -6,22 +6,28 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace sandbox {
+
+struct JsonMember;
 
 struct JsonNode {
     enum class Kind { Null, Flag, Number, Text, Object, Array };
 
     Kind kind = Kind::Null;
     size_t line = 0;
-    std::string text;                                       // of a flag, number or text
-    std::vector<std::pair<std::string, JsonNode>> children; // an array's have no names
+    std::string text;                 // of a flag, number or text
+    std::vector<JsonMember> children; // an array's have no names
 
     bool isScalar() const { return kind != Kind::Object && kind != Kind::Array; }
     // The last member of that name, as the last one holds; NULL for none.
     const JsonNode *member(std::string_view name) const;
+};
+
+struct JsonMember {
+    std::string name;
+    JsonNode node;
 };
 
 // One value after another, as in JSON Lines; usually a single one. Text that other programs get wrong is read as it

@@ -32,7 +32,7 @@ bool isPathLike(std::string_view text) {
 
 bool areScalars(const JsonNode &array) {
     return std::all_of(array.children.begin(), array.children.end(),
-                       [](const auto &child) { return child.second.isScalar(); });
+                       [](const auto &child) { return child.node.isScalar(); });
 }
 
 std::string withDot(std::string path) {
@@ -43,10 +43,8 @@ std::string withDot(std::string path) {
 class JsonDump {
   public:
     Dump run(const std::vector<JsonNode> &values) {
-        std::vector<const JsonNode *> nodes;
-        for (const JsonNode &value : values) {
-            nodes.push_back(&value);
-        }
+        std::vector<const JsonNode *> nodes(values.size());
+        std::transform(values.begin(), values.end(), nodes.begin(), [](const JsonNode &value) { return &value; });
         pieces(nodes);
         if (dump_.rows.empty()) {
             for (const JsonNode *node : nodes) {
@@ -77,13 +75,13 @@ class JsonDump {
     // ["Device.DeviceInfo.UpTime", 77, "xsd:unsignedInt"]
     static bool isTuple(const JsonNode &node) {
         return node.kind == JsonNode::Kind::Array && node.children.size() >= 2 && areScalars(node) &&
-               beginsWithRoot(node.children.front().second.text);
+               beginsWithRoot(node.children.front().node.text);
     }
 
     void tuple(const JsonNode &node) {
-        DumpRow row = rowOf(node.children[0].second.text, node);
-        readLeaf(node.children[1].second, row);
-        row.type = node.children.size() > 2 ? node.children[2].second.text : "";
+        DumpRow row = rowOf(node.children[0].node.text, node);
+        readLeaf(node.children[1].node, row);
+        row.type = node.children.size() > 2 ? node.children[2].node.text : "";
         dump_.rows.push_back(std::move(row));
     }
 
@@ -122,12 +120,12 @@ class JsonDump {
     // A branch that begins below Device.
     void withoutRoot(const JsonNode &node) {
         const bool branch = std::any_of(node.children.begin(), node.children.end(), [](const auto &child) {
-            return isKnownTop(child.first.substr(0, child.first.find('.')));
+            return isKnownTop(child.name.substr(0, child.name.find('.')));
         });
         if (branch) {
             members(node, "Device.");
         } else if (node.children.size() == 1) {
-            withoutRoot(node.children[0].second);
+            withoutRoot(node.children[0].node);
         }
     }
 
@@ -234,7 +232,7 @@ class JsonDump {
             return true;
         }
         const bool bare = std::all_of(node.children.begin(), node.children.end(), [](const auto &child) {
-            return child.first.starts_with('_') || roleOf(child.first) != Role::None;
+            return child.name.starts_with('_') || roleOf(child.name) != Role::None;
         });
         const JsonNode *object = memberOf(node, Role::Object);
         return node.kind == JsonNode::Kind::Object && bare && !node.children.empty() &&
@@ -244,13 +242,13 @@ class JsonDump {
     // An array's items are the instances of a table, by the numbers they give or by their place.
     void instances(const JsonNode &array, const std::string &path, bool top) {
         if (top) {
-            document(array.children.size() == 1 && !isNamed(array.children[0].second)
-                         ? wrapped(path, array.children[0].second)
+            document(array.children.size() == 1 && !isNamed(array.children[0].node)
+                         ? wrapped(path, array.children[0].node)
                          : array);
             return;
         }
         for (size_t i = 0; i < array.children.size(); ++i) {
-            const JsonNode &item = array.children[i].second;
+            const JsonNode &item = array.children[i].node;
             const JsonNode *number = memberOf(item, Role::Instance);
             const bool given = number && isInteger(number->text);
             member(item, withDot(path) + (given ? number->text : std::to_string(i + 1)), false);
@@ -261,7 +259,7 @@ class JsonDump {
         JsonNode holder;
         holder.kind = JsonNode::Kind::Object;
         holder.line = node.line;
-        holder.children.emplace_back(name, node);
+        holder.children.push_back({name, node});
         return holder;
     }
 

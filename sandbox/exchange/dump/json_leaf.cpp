@@ -55,7 +55,7 @@ bool isXsd(const JsonNode &node) {
 
 // A value with its type behind it.
 bool isTypedPair(const JsonNode &node) {
-    return node.kind == JsonNode::Kind::Array && node.children.size() == 2 && isXsd(node.children[1].second);
+    return node.kind == JsonNode::Kind::Array && node.children.size() == 2 && isXsd(node.children[1].node);
 }
 
 void readScalar(const JsonNode &node, DumpRow &row) {
@@ -70,8 +70,8 @@ void readScalar(const JsonNode &node, DumpRow &row) {
 
 void readValue(const JsonNode &node, DumpRow &row) {
     if (isTypedPair(node)) {
-        readScalar(node.children[0].second, row);
-        row.type = node.children[1].second.text;
+        readScalar(node.children[0].node, row);
+        row.type = node.children[1].node.text;
     } else if (node.kind == JsonNode::Kind::Array) {
         row.value = joinedItems(node);
     } else if (node.isScalar()) {
@@ -84,7 +84,7 @@ void readValue(const JsonNode &node, DumpRow &row) {
 // An access may be a flag, a word, or a flag in a list of one.
 std::optional<bool> accessOf(const JsonNode &node) {
     const bool list = node.kind == JsonNode::Kind::Array && !node.children.empty();
-    return writableOfWord(list ? node.children[0].second.text : node.text);
+    return writableOfWord(list ? node.children[0].node.text : node.text);
 }
 
 } // namespace
@@ -116,7 +116,7 @@ bool isLeaf(const JsonNode &node) {
     if (node.kind != JsonNode::Kind::Object) {
         return false;
     }
-    if (node.children.size() == 1 && node.children[0].first == "hex") {
+    if (node.children.size() == 1 && node.children[0].name == "hex") {
         return true;
     }
     const JsonNode *value = memberOf(node, Role::Value);

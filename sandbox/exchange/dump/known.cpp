@@ -13,7 +13,7 @@ namespace sandbox {
 namespace {
 
 struct Hash {
-    using is_transparent = void;
+    using is_transparent = void; // NOLINT(readability-identifier-naming): the name that containers look for
     size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
 };
 
