@@ -61,6 +61,11 @@ function(caltofal_install_completion program component)
 endfunction()
 
 caltofal_install_page(libcaltofal.3 development)
+if(CALTOFAL_PLATFORM STREQUAL "sandbox") # a device's staging directory needs no guide
+  set(guide_directory ${CMAKE_INSTALL_DATADIR}/doc/libcaltofal-dev)
+  install(FILES docs/host-guide.md DESTINATION ${guide_directory} COMPONENT development)
+  install(DIRECTORY examples DESTINATION ${guide_directory} COMPONENT development)
+endif()
 if(TARGET caltofal_tool)
   caltofal_install_page(caltofal.1 tools)
   caltofal_install_completion(caltofal tools)

@@ -27,7 +27,8 @@ caltofal_package(library ${library_package} libs
                  "The shared library, for programs that were built with it.")
 caltofal_package(development libcaltofal-dev libdevel
                  "develop programs for a residential gateway's TR-181 configuration"
-                 "The header of libcaltofal, its pkg-config file, CMake package and manual page.")
+                 "The header of libcaltofal, its pkg-config file, CMake package and manual page,
+a guide for host programs and its examples.")
 caltofal_package(tools caltofal net
                  "command line for a residential gateway's TR-181 configuration"
                  "Shows the pages of a gateway, reads and changes any object, readable or as JSON.")
