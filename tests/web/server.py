@@ -13,6 +13,7 @@ from dataclasses import dataclass
 WEB, TOOL, SANDBOX = (os.path.abspath(program) for program in sys.argv[1:4])
 GATEWAYS = ("atm", "bridge", "dhcp", "dual", "home", "mesh", "repeater", "static")
 JSON = "application/json"
+SANITIZED = bool(os.environ.get("CALTOFAL_WEB_SANITIZED"))  # slow, and with memory of its own
 
 
 @dataclass

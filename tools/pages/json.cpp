@@ -111,6 +111,8 @@ Value fromJson(std::string_view text, int depthMax) {
         return valueOf(Json::parse(text.begin(), text.end(), [&](int depth, Event event, const Json &parsed) {
             return watch(depth, event, parsed);
         }));
+    } catch (const Json::out_of_range &) {
+        throw Usage("the JSON has a number that is too large");
     } catch (const Json::parse_error &error) {
         const std::string where = error.byte > text.size() ? "the end" : "byte " + std::to_string(error.byte);
         throw Usage("the text is not JSON: mistake at " + where);

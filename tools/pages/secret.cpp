@@ -11,7 +11,8 @@ namespace pages {
 namespace {
 
 // Endings of names; a key that only names an entry ends otherwise.
-constexpr std::string_view kEndings[] = {"Passphrase", "Password", "Secret", "WEPKey", "PreSharedKey", "PIN", "Pin"};
+constexpr std::string_view kEndings[] = {"Passphrase",   "Password",   "Secret", "WEPKey",
+                                         "PreSharedKey", "PrivateKey", "PIN",    "Pin"};
 
 thread_local bool showing = false;
 

@@ -17,6 +17,19 @@ void sayGoodbye(int descriptor, Status status, const std::string &message, std::
     static_cast<void>(send(descriptor, bytes.data(), bytes.size(), MSG_DONTWAIT | MSG_NOSIGNAL));
 }
 
+// A connection that was silent since its last answer is closed without a word: a client could take it for the answer
+// to what it is about to ask.
+void expire(Connections::Entry &entry) {
+    using State = Connections::State;
+    if (entry.state == State::Receiving || (entry.state == State::Idle && entry.fresh)) {
+        sayGoodbye(entry.descriptor, Status::RequestTimeout,
+                   "the request did not come whole within " + std::to_string(Connections::kRequestTime.count()) +
+                       " seconds");
+    }
+    shutdown(entry.descriptor, SHUT_RDWR);
+    entry.deadline = steady_clock::time_point::max();
+}
+
 } // namespace
 
 Connections::Connections(Limits limits) : limits_(limits), watcher_([this] { watch(); }) {}
@@ -36,7 +49,7 @@ Connections::Handle Connections::opened(int descriptor, std::string address) {
     const bool full = served_ >= limits_.connections;
     const bool refused = full || ofAddress >= limits_.perAddress;
     entries_.push_front({descriptor, std::move(address), State::Idle, true, steady_clock::now() + kRequestTime});
-    const Handle entry = entries_.begin();
+    const auto entry = entries_.begin();
     if (refused) {
         entry->state = State::Refused;
         entry->deadline = steady_clock::now() + std::chrono::seconds(1);
@@ -105,17 +118,6 @@ void Connections::drain(steady_clock::time_point deadline) {
         return !busy;
     };
     changed_.wait_until(lock, deadline, done);
-}
-
-// A connection that was silent since its last answer is closed without a word: a client could take it for the answer
-// to what it is about to ask.
-void Connections::expire(Entry &entry) {
-    if (entry.state == State::Receiving || (entry.state == State::Idle && entry.fresh)) {
-        sayGoodbye(entry.descriptor, Status::RequestTimeout,
-                   "the request did not come whole within " + std::to_string(kRequestTime.count()) + " seconds");
-    }
-    shutdown(entry.descriptor, SHUT_RDWR);
-    entry.deadline = steady_clock::time_point::max();
 }
 
 steady_clock::time_point Connections::expireAll(steady_clock::time_point now) {

@@ -51,9 +51,8 @@ class Connections {
 
   private:
     void watch();
-    // All with the mutex held.
+    // Both with the mutex held.
     void wakeBefore(std::chrono::steady_clock::time_point deadline);
-    void expire(Entry &entry);
     std::chrono::steady_clock::time_point expireAll(std::chrono::steady_clock::time_point now);
 
     const Limits limits_;

@@ -15,7 +15,7 @@ namespace web {
 
 struct Exchange {
     // What the server still reads of a body that it has refused, so that the client comes to read why.
-    static constexpr uint64_t kDrainMax = 1024 * 1024;
+    static constexpr uint64_t kDrainMax = 1048576;
 
     Connections::Handle connection;
     Request request;

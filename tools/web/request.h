@@ -8,9 +8,9 @@
 
 namespace web {
 
-constexpr size_t kBodyMax = 64 * 1024;    // bytes of a body
-constexpr size_t kHeadersMax = 16 * 1024; // bytes of the request line and all headers
-constexpr int kDepthMax = 16;             // of JSON in a body
+constexpr size_t kBodyMax = 65536;    // bytes of a body
+constexpr size_t kHeadersMax = 16384; // bytes of the request line and all headers
+constexpr int kDepthMax = 16;         // of JSON in a body
 
 struct Request {
     std::string method;
