@@ -4,6 +4,7 @@
 #include "response.h"
 
 #include <algorithm>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 
 namespace web {
@@ -15,6 +16,12 @@ using std::chrono::steady_clock;
 void sayGoodbye(int descriptor, Status status, const std::string &message, std::vector<Header> headers = {}) {
     const std::string bytes = closingBytes(errorResponse(Refusal(status, message, std::move(headers))));
     static_cast<void>(send(descriptor, bytes.data(), bytes.size(), MSG_DONTWAIT | MSG_NOSIGNAL));
+}
+
+// Whether something came that the server has not read yet.
+bool hasBytes(int descriptor) {
+    int count = 0;
+    return ioctl(descriptor, FIONREAD, &count) == 0 && count > 0;
 }
 
 // A connection that was silent since its last answer is closed without a word: a client could take it for the answer
@@ -106,18 +113,16 @@ bool Connections::isRefused(Handle entry) {
 void Connections::drain(steady_clock::time_point deadline) {
     std::unique_lock lock(mutex_);
     ending_ = true;
-    const auto done = [this] {
-        bool busy = false;
+    const auto allGone = [this] {
         for (Entry &entry : entries_) {
-            if (entry.state == State::Idle || entry.state == State::Refused) {
-                shutdown(entry.descriptor, SHUT_RDWR);
-            } else {
-                busy = true;
+            const bool silent = entry.state == State::Idle && !hasBytes(entry.descriptor);
+            if (silent || entry.state == State::Refused) {
+                shutdown(entry.descriptor, SHUT_RD); // what is being read at this moment is still answered
             }
         }
-        return !busy;
+        return entries_.empty();
     };
-    changed_.wait_until(lock, deadline, done);
+    changed_.wait_until(lock, deadline, allGone);
 }
 
 steady_clock::time_point Connections::expireAll(steady_clock::time_point now) {

@@ -46,7 +46,7 @@ class Connections {
     void become(Handle entry, State state);
     bool isRefused(Handle entry);
 
-    // Closes those that are idle, and waits until the others have their answers, at most until then.
+    // Has those that are idle closed, the others when they have their answers; waits for that, at most until then.
     void drain(std::chrono::steady_clock::time_point deadline);
 
   private:
