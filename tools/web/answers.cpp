@@ -104,7 +104,7 @@ Report changeObjects(const Call &call) {
 Report changeMesh(const Call &call) {
     allowMembers(call.body, {"enabled"});
     if (!call.body["enabled"].isFlag()) {
-        throw Usage("give {\"enabled\": true} or {\"enabled\": false}");
+        throw Usage(R"(give {"enabled": true} or {"enabled": false})");
     }
     const std::string wanted = call.body["enabled"].flag() ? "true" : "false";
     return pages::objects::setDiffering({{"Device.WiFi.X_ZINTU_RoamingMesh.", {{"Enable", wanted}}}},

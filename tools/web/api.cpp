@@ -60,7 +60,7 @@ Response Api::answerCall(const Request &request, const Target &target) {
     if (call.method == kGet) {
         return tagged(answerRead(call), request.ifNoneMatch);
     }
-    const Response response = answered([&] { return answerChange(call); });
+    Response response = answered([&] { return answerChange(call); });
     if (!call.flag("dry_run")) {
         logChange(changeText(call, request), request, response.status);
     }

@@ -51,7 +51,7 @@ std::vector<pages::Parameter> parametersOf(const Value &object) {
         result.push_back({name, valueText(name, value)});
     }
     if (result.empty()) {
-        throw Usage("there is nothing to set: give {\"NAME\": VALUE}");
+        throw Usage(R"(there is nothing to set: give {"NAME": VALUE})");
     }
     return result;
 }
@@ -60,12 +60,12 @@ std::vector<pages::Object> objectsOf(const Value &object) {
     std::vector<pages::Object> result;
     for (const auto &[path, values] : object.members()) {
         if (!path.starts_with("Device.") || !isName(path) || !values.isObject()) {
-            throw Usage(pages::quoted(path) + ": give {\"Device.OBJECT.\": {\"NAME\": VALUE}}");
+            throw Usage(pages::quoted(path) + R"(: give {"Device.OBJECT.": {"NAME": VALUE}})");
         }
         result.push_back({pages::checkedPath(path), parametersOf(values)});
     }
     if (result.empty()) {
-        throw Usage("there is nothing to set: give {\"Device.OBJECT.\": {\"NAME\": VALUE}}");
+        throw Usage(R"(there is nothing to set: give {"Device.OBJECT.": {"NAME": VALUE}})");
     }
     return result;
 }

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "change_log.h"
 
+#include "pages/text.h"
+
 #include <ctime>
 #include <unistd.h>
+#include <vector>
 
 namespace web {
 namespace {
@@ -30,16 +33,20 @@ std::string now() {
 } // namespace
 
 std::string changeText(const Call &call, const Request &request) {
-    std::string names;
+    std::vector<std::string> names;
     for (const auto &[name, value] : call.body.members()) {
         if (!value.isObject()) {
-            names += (names.empty() ? "" : ",") + name;
+            names.push_back(name);
         }
         for (const auto &[parameter, unused] : value.members()) {
-            names += (names.empty() ? "" : ",") + name + (name.ends_with('.') ? "" : ".") + parameter;
+            names.push_back(std::string(pages::withoutDot(name)) + "." + parameter);
         }
     }
-    return request.method + " " + plain(request.target) + (names.empty() ? "" : " " + plain(names));
+    std::string text = request.method + " " + plain(request.target);
+    for (const std::string &name : names) {
+        text += (&name == names.data() ? " " : ",") + plain(name);
+    }
+    return text;
 }
 
 void logChange(const std::string &text, const Request &request, Status status) {

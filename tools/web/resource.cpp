@@ -8,35 +8,35 @@ namespace web {
 namespace {
 
 constexpr Resource kResources[] = {
-    {"", Subject::Index, kGet},
-    {"/status", Subject::Status, kGet},
-    {"/mode", Subject::Mode, kGet},
-    {"/gateway", Subject::Gateway, kGet},
-    {"/wan", Subject::Wan, kGet},
-    {"/dns", Subject::Dns, kGet},
-    {"/ipv6", Subject::Ipv6, kGet},
-    {"/dsl", Subject::Dsl, kGet},
-    {"/atm", Subject::Atm, kGet},
-    {"/lan", Subject::Lan, kGet},
-    {"/multiwan", Subject::MultiWan, kGet},
-    {"/iptv", Subject::Iptv, kGet},
-    {"/hosts", Subject::Hosts, kGet},
-    {"/mesh", Subject::Mesh, kGet | kPatch, true, "dry_run "},
-    {"/mesh/sync", Subject::MeshSync, kPost},
-    {"/objects", Subject::Objects, kGet | kPatch, false, "path leaf where dry_run db_only "},
-    {"/wifi/radios", Subject::WifiRadios, kGet},
-    {"/wifi/radios/{N}", Subject::WifiRadio, kGet | kPatch, false, "dry_run db_only "},
-    {"/wifi/ssids", Subject::WifiSsids, kGet},
-    {"/wifi/ssids/{N}", Subject::WifiSsid, kGet | kPatch, false, "dry_run db_only "},
-    {"/secrets/wifi/ssids/{N}", Subject::WifiSecret, kGet},
-    {"/wifi/channels/{IF}", Subject::WifiChannels, kGet, true},
-    {"/wifi/stations/{IF}", Subject::WifiStations, kGet, true},
-    {"/wifi/survey", Subject::WifiSurvey, kGet, true},
-    {"/wifi/endpoint", Subject::WifiEndpoint, kGet, true},
-    {"/wifi/scans", Subject::WifiScans, kPost},
-    {"/wifi/wps", Subject::WifiWps, kPost},
-    {"/jobs", Subject::Jobs, kGet},
-    {"/jobs/{ID}", Subject::Job, kGet | kDelete},
+    {"", kGet, Subject::Index},
+    {"/status", kGet, Subject::Status},
+    {"/mode", kGet, Subject::Mode},
+    {"/gateway", kGet, Subject::Gateway},
+    {"/wan", kGet, Subject::Wan},
+    {"/dns", kGet, Subject::Dns},
+    {"/ipv6", kGet, Subject::Ipv6},
+    {"/dsl", kGet, Subject::Dsl},
+    {"/atm", kGet, Subject::Atm},
+    {"/lan", kGet, Subject::Lan},
+    {"/multiwan", kGet, Subject::MultiWan},
+    {"/iptv", kGet, Subject::Iptv},
+    {"/hosts", kGet, Subject::Hosts},
+    {"/mesh", kGet | kPatch, Subject::Mesh, true, "dry_run "},
+    {"/mesh/sync", kPost, Subject::MeshSync},
+    {"/objects", kGet | kPatch, Subject::Objects, false, "path leaf where dry_run db_only "},
+    {"/wifi/radios", kGet, Subject::WifiRadios},
+    {"/wifi/radios/{N}", kGet | kPatch, Subject::WifiRadio, false, "dry_run db_only "},
+    {"/wifi/ssids", kGet, Subject::WifiSsids},
+    {"/wifi/ssids/{N}", kGet | kPatch, Subject::WifiSsid, false, "dry_run db_only "},
+    {"/secrets/wifi/ssids/{N}", kGet, Subject::WifiSecret},
+    {"/wifi/channels/{IF}", kGet, Subject::WifiChannels, true},
+    {"/wifi/stations/{IF}", kGet, Subject::WifiStations, true},
+    {"/wifi/survey", kGet, Subject::WifiSurvey, true},
+    {"/wifi/endpoint", kGet, Subject::WifiEndpoint, true},
+    {"/wifi/scans", kPost, Subject::WifiScans},
+    {"/wifi/wps", kPost, Subject::WifiWps},
+    {"/jobs", kGet, Subject::Jobs},
+    {"/jobs/{ID}", kGet | kDelete, Subject::Job},
 };
 
 constexpr std::pair<unsigned, std::string_view> kMethods[] = {
@@ -75,7 +75,7 @@ Route findRoute(std::string_view path) {
     if (path == "/") {
         path = {};
     }
-    const auto found = std::find_if(std::begin(kResources), std::end(kResources), [&](const Resource &resource) {
+    const auto *const found = std::find_if(std::begin(kResources), std::end(kResources), [&](const Resource &resource) {
         return matches(resource.path, path, route.argument);
     });
     route.resource = found == std::end(kResources) ? nullptr : found;

@@ -45,8 +45,8 @@ enum class Subject : uint8_t {
 
 struct Resource {
     std::string_view path; // below kApi; a last component in braces stands for any text
+    unsigned methods;      // of Method
     Subject subject;
-    unsigned methods; // of Method
     // Runs the device's tools, or waits for others that do: kept away from the threads that serve the connections.
     bool slow = false;
     std::string_view queries = {}; // the names that its query may have, each with a blank after it
