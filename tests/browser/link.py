@@ -72,6 +72,8 @@ class Link(PageCase):
         server.end()
         self.await_script(f"{TROUBLE}.includes('connection to the server is lost')", timeout=REFRESH + 5)
         self.assertIn("IPv4/Address", self.read()["LAN"]["facts"])
+        self.script("location.hash = '#/mesh'")  # which was not loaded before
+        self.await_script("document.querySelector('main').innerText.includes('Not available.')")
         self.driver.get_log("browser")  # the browser's own words on the refused connection
 
     def test_an_ended_session_is_said_and_nothing_more_asked(self):

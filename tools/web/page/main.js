@@ -221,12 +221,14 @@ export async function refresh() {
   clearTimeout(timer);
   const mine = ++turn;
   try {
-    const fresh = await current.view.load();
+    current.view ??= (await import(`./${current.route}.js`)).default;
+    const fresh = mine === turn && await current.view.load();
     if (mine !== turn) return;
     data = fresh;
     lastGood = new Date().toLocaleTimeString();
     redraw();
   } catch (error) {
+    if (!(error instanceof ApiError)) console.error(error);
     if (mine !== turn) return;
     if (link.state === "ok" || !data) morph(content, [title(), answered({error})]);
   }
@@ -235,14 +237,13 @@ export async function refresh() {
   if (!document.hidden && link.state !== "ended") timer = setTimeout(refresh, REFRESH_MS);
 }
 
-async function open() {
+function open() {
   const route = location.hash.replace(/^#\/?/, "");
   const next = VIEWS.find(view => view.route === route) ?? VIEWS[0];
   if (next === current) return;
   const first = !current;
   current = next;
   data = null;
-  turn++;
   morph(views, VIEWS.map(view => el("li",
     el("a", {href: `#/${view.route}`, "aria-current": view === next && "page"}, view.title))));
   document.title = `${next.title} – Gateway`;
@@ -251,8 +252,7 @@ async function open() {
     morph(content, [title(), note("Loading…")]);
     content.focus();
   }
-  next.view ??= (await import(`./${route}.js`)).default;
-  if (next === current) await refresh();
+  refresh();
 }
 
 addEventListener("hashchange", open);
