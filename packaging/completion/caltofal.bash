@@ -57,6 +57,19 @@ _caltofal_names() {
         sed -nE "s/^${object//./\\.}\.([0-9]+\.)?([^.]+)$/\2/p" 2>/dev/null | sort -u
 }
 
+# _caltofal_writable OBJECT PROGRAM [-g NAME]: those of these names that can be set; only the sandbox tells
+_caltofal_writable() {
+    local sandbox=caltofal-sandbox writable
+    [[ $2 == */* ]] && sandbox=${2%/*}/caltofal-sandbox
+    writable=$("$sandbox" export --format csv "${4:-${CALTOFAL_GATEWAY:-home}}" "${1%.}." 2>/dev/null |
+        sed -n 's/^[^,]*\.\([^.,]*\),.*,rw,.*/\1/p' | sort -u)
+    if [[ -n $writable ]]; then
+        _caltofal_names "$@" | grep -Fx -e "$writable"
+    else
+        _caltofal_names "$@"
+    fi
+}
+
 # _caltofal_reply CURRENT WORD...: the words that begin like the current one; a path or NAME= goes on without a blank
 _caltofal_reply() {
     local word
@@ -97,8 +110,10 @@ _caltofal_option_values() {
 _caltofal_objects() {
     local words
     words=$(_caltofal_paths "$1" "${@:4}")
-    if [[ -n $3 && $1 != Device.* ]]; then
-        words+=" $(_caltofal_names "$3" "${@:4}" | sed "s/\$/$2/")"
+    if [[ -n $3 && $1 != Device.* && -n $2 ]]; then
+        words+=" $(_caltofal_writable "$3" "${@:4}" | sed "s/\$/$2/")"
+    elif [[ -n $3 && $1 != Device.* ]]; then
+        words+=" $(_caltofal_names "$3" "${@:4}")"
     fi
     # shellcheck disable=SC2086
     _caltofal_reply "$1" $words

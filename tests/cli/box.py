@@ -7,6 +7,7 @@ import os
 import signal
 import subprocess
 import sys
+import time
 import unittest
 
 sys.dont_write_bytecode = True
@@ -16,6 +17,7 @@ from expect import check_examples, check_pages, write_pages
 from tool import HERE, Tool, interrupted
 
 tool = Tool(sys.argv[1], sys.argv[2])
+SLOW = {"CALTOFAL_BOX_SCAN_MS": "20000"}
 QUICK = {"CALTOFAL_BOX_SCAN_MS": "50", "CALTOFAL_BOX_WPS_MS": "50"}
 
 
@@ -49,12 +51,12 @@ class Box(unittest.TestCase):
         self.assertIn("[request] get Device.WiFi.EndPoint.1, Device.WiFi.EndPoint.2 -> 0\n", result.err)
         for words, code, message in (
                 ("wifi endpoint", 10, "no end point is enabled"),
-                ("wifi endpoint wlan0", 10, "wlan0 is no end point"),
+                ("wifi endpoint wlan0", 10, "wlan0 is not an end point"),
                 ("wifi scan wlan0 --ssid nope --pace 20", 10, 'the network "nope" was not found'),
                 ("wifi survey --ssid nope", 10, 'the network "nope" was not found'),
                 ("wifi stations wlan9", 10, "wlan9: no SSID of the gateway is on that interface"),
                 ("wifi survey wlan2", 10, "wlan2 has no result; caltofal wifi scan wlan2 makes one"),
-                ("wifi stations wlan2 --mac 00:00:5e:00:53:99", 10, "00:00:5e:00:53:99 is no station of wlan2"),
+                ("wifi stations wlan2 --mac 00:00:5e:00:53:99", 10, "00:00:5e:00:53:99 is not a station of wlan2"),
                 ("mesh ip 02:00:5e:20:00:99", 10, "02:00:5e:20:00:99: no satellite and no host has that MAC address"),
                 ("wifi scan wlan2 --pace 1", 3, "the scan on wlan2 brought no result: is its radio on?")):
             with self.subTest(words):
@@ -69,6 +71,11 @@ class Box(unittest.TestCase):
         tool.sandbox("import", "nameless", gateway, folder=self.folder)
         result = self.run_tool("-g", "nameless", "wifi", "endpoint")
         self.assertEqual((result.code, result.err), (10, "caltofal: end point 1 names no interface\n"))
+
+    def test_a_scan_ends_when_its_result_is_there(self):
+        start = time.monotonic()
+        self.assertEqual(self.run_tool("wifi", "scan", "wlan0", CALTOFAL_BOX_SCAN_MS="500").code, 0)
+        self.assertLess(time.monotonic() - start, 12, "its first interval lasts 15 seconds")
 
     def test_a_stale_result_is_not_taken_for_a_new_one(self):
         self.assertEqual(self.run_tool("wifi", "scan", "wlan0", "--pace", "10", **QUICK).code, 0)
@@ -98,7 +105,7 @@ class Box(unittest.TestCase):
                 ("wifi wps start", signal.SIGINT, "interrupted: WPS cancelled"),
                 ("mesh sync -g mesh", signal.SIGTERM, "interrupted: the satellites take the settings all the same")):
             with self.subTest(words):
-                result = interrupted(tool, words.split(), number, 2.5, self.folder)
+                result = interrupted(tool, words.split(), number, 2.5, self.folder, **SLOW)
                 self.assertEqual((result.code, result.out, result.err), (128 + number, b"", f"caltofal: {message}\n"))
         for delay in (0.03, 0.06, 0.1, 0.15, 0.2, 0.3, 0.4, 1.5):
             for number, send in ((signal.SIGINT, os.killpg), (signal.SIGHUP, os.kill), (signal.SIGQUIT, os.kill)):
@@ -107,7 +114,8 @@ class Box(unittest.TestCase):
                                          send=send)
                     self.assertEqual((result.code, result.out), (128 + number, b""), result.err)
                     self.assertEqual(json.loads(result.err)["error"]["exit"], 128 + number)
-        on_terminal = interrupted(tool, ["wifi", "scan", "wlan0"], signal.SIGINT, 2, self.folder, terminal=True)
+        on_terminal = interrupted(tool, ["wifi", "scan", "wlan0"], signal.SIGINT, 2, self.folder, terminal=True,
+                                  **SLOW)
         self.assertRegex(on_terminal.err, r"scanning on wlan0: 1 s\r\x1b\[Kcaltofal: interrupted: [^\r]+\r\n$")
 
     def test_one_scan_at_a_time(self):

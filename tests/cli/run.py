@@ -5,6 +5,7 @@ caltofal-sandbox, by which requests are made to fail."""
 import json
 import os
 import re
+import signal
 import subprocess
 import sys
 import tempfile
@@ -14,7 +15,7 @@ sys.dont_write_bytecode = True
 
 from cases import BOX_PAGES, BOX_VERBS, CONVERSIONS, FAILURES, PAGES
 from expect import check_examples, check_pages, every_page, write_pages
-from tool import HERE, Tool, expected_file
+from tool import HERE, Tool, expected_file, interrupted
 
 tool = Tool(sys.argv[1], sys.argv[2])
 
@@ -127,7 +128,7 @@ class Changes(unittest.TestCase):
         result = self.run_tool("set", "Device.WiFi.Radio.1", "AutoChannelEnable=false", "Channel=3",
                                "Device.WiFi.Radio.2.Channel=36", "--trace")
         self.assertEqual((result.code, result.out), (0, b""))
-        self.assertEqual(result.err, "[request] set Device.WiFi.Radio.1, Device.WiFi.Radio.2. -> 0\n")
+        self.assertEqual(result.err, "[request] set Device.WiFi.Radio.1, Device.WiFi.Radio.2 -> 0\n")
         self.assertEqual(self.value("Device.WiFi.Radio.1.Channel"), "3\n")
         self.assertEqual(self.value("Device.WiFi.Radio.2.Channel"), "36\n")
 
@@ -143,7 +144,7 @@ class Changes(unittest.TestCase):
 
     def test_db_only_is_stored_and_not_in_force(self):
         self.assertEqual(self.run_tool("set", "Device.WiFi.Radio.1.Channel=11", "--db-only", "--trace").err,
-                         "[request] store Device.WiFi.Radio.1. -> 0\n")
+                         "[request] store Device.WiFi.Radio.1 -> 0\n")
         self.assertEqual(self.value("Device.WiFi.Radio.1.Channel"), "6\n")
 
     def test_values_travel_unchanged(self):
@@ -244,19 +245,19 @@ class FailedRequests(unittest.TestCase):
 
     def test_a_late_request_of_a_page_is_named(self):
         self.make_fail("Device.DSL.Channel.1.Stats.Total", "store-busy")
-        self.assert_fails("dsl", 4, "request on Device.DSL.Channel.1.Stats.Total. failed: fault 1 hit "
+        self.assert_fails("dsl", 4, "request on Device.DSL.Channel.1.Stats.Total failed: fault 1 hit "
                           "Device.DSL.Channel.1.Stats.Total")
 
     def test_one_of_several_objects_of_a_request(self):
         self.make_fail("Device.DHCPv4.Server.Pool.1", "no-memory")
-        self.assert_fails("lan --ipv4", 1, "request on Device.IP.Interface.1.IPv4Address.1., "
-                          "Device.DHCPv4.Server.Pool.1., Device.Ethernet.Interface.1. failed: fault 1 hit "
+        self.assert_fails("lan --ipv4", 1, "request on Device.IP.Interface.1.IPv4Address.1, "
+                          "Device.DHCPv4.Server.Pool.1, Device.Ethernet.Interface.1 failed: fault 1 hit "
                           "Device.DHCPv4.Server.Pool.1")
 
     def test_requests_that_a_page_can_do_without_are_not_blamed(self):
         self.make_fail("Device.Ethernet.VLANTermination.1", "store-busy")
         self.make_fail("Device.Routing.Router.1.IPv6Forwarding.3", "absent-object")
-        self.assert_fails("wan", 4, "request on Device.Ethernet.VLANTermination.1. failed: fault 1 hit "
+        self.assert_fails("wan", 4, "request on Device.Ethernet.VLANTermination.1 failed: fault 1 hit "
                           "Device.Ethernet.VLANTermination.1")
 
     def test_a_gateway_without_uci_section_is_still_shown(self):
@@ -264,7 +265,7 @@ class FailedRequests(unittest.TestCase):
         result = tool.run("gateway", folder=self.folder)
         self.assertEqual(result.code, 0)
         self.assertIn(b"UCI section         -\n", result.out)
-        self.assertIn("WANConnection. failed", result.err)
+        self.assertIn("WANConnection failed", result.err)
 
     def test_a_wan_without_route_is_shown_with_a_note(self):
         for entry in ("1", "2"):
@@ -282,6 +283,45 @@ class FailedRequests(unittest.TestCase):
         self.assertEqual((pages["dsl"]["error"]["exit"], pages["lan"]["ipv4"]["dhcp_active"]), (4, True))
 
 
+class Lacking(unittest.TestCase):
+    """Gateways that do not have all that a page can show."""
+
+    def setUp(self):
+        self.folder = tool.folder()
+
+    def without(self, *paths):
+        for path in paths:
+            tool.sandbox("fault", "add", path, "--code", "absent-object", folder=self.folder)
+
+    def run_tool(self, *words):
+        return tool.run(*words, folder=self.folder)
+
+    def test_one_half_of_the_lan_is_shown_without_the_other(self):
+        self.without("Device.DHCPv4.Server.Pool.1")
+        result = self.run_tool("lan", "--json")
+        self.assertEqual((result.code, list(json.loads(result.out))), (0, ["ipv6"]))
+        self.assertIn("DHCPv4.Server.Pool.1", result.err)
+        self.assertEqual(self.run_tool("lan", "--ipv4").code, 10)
+
+    def test_what_a_gateway_does_not_have_is_none_in_the_status(self):
+        self.without("Device.DSL")
+        self.assertRegex(self.run_tool("status").out.decode(), r"\nDSL +none\n")
+
+    def test_a_cut_list_of_name_servers_is_told(self):
+        path = "Device.DNS.Client.Server.1"
+        self.assertEqual(self.run_tool("set", path, "DNSServer=198.51.100.53,198.51.100.54,198.51.100.55").code, 0)
+        result = self.run_tool("dns")
+        self.assertRegex(result.err, r'DNS server "[0-9.,]{15}" is not an address: the record holds 15 characters')
+
+    def test_a_list_longer_than_the_record_is_told_and_shown(self):
+        layers = ",".join(f"Device.Ethernet.Interface.{i}." for i in range(1, 9))
+        self.assertEqual(self.run_tool("set", "Device.IP.Interface.3", "LowerLayers=" + layers).code, 0)
+        result = self.run_tool("lower-layers", "Device.IP.Interface.3")
+        self.assertIn("--all shows the whole one", result.err)
+        whole = self.run_tool("lower-layers", "Device.IP.Interface.3", "--all")
+        self.assertEqual(whole.out.decode(), layers.replace(".,", ",").rstrip(".") + "\n")
+
+
 class Words(unittest.TestCase):
     def test_the_library_is_silent_without_trace(self):
         result = tool.run("-g", "static", "dsl")
@@ -290,16 +330,48 @@ class Words(unittest.TestCase):
     def test_trace_shows_requests_and_the_librarys_lines_in_order(self):
         result = tool.run("-g", "static", "dsl", "--trace")
         lines = result.err.splitlines()
-        self.assertEqual(lines[:2], ["[request] get Device.DSL.Line.1. -> -202 (Device.DSL.Line.1: no such object)",
+        self.assertEqual(lines[:2], ["[request] get Device.DSL.Line.1 -> -202 (Device.DSL.Line.1: no such object)",
                                      "[stderr] Get test failure"])
         self.assertRegex(lines[2], r"^\[console\] \[ZintuGet_LineInfo : \d+\] \(-1\)faltocal_SendMultiObj is Failure")
-        self.assertEqual(lines[3:], ["caltofal: request on Device.DSL.Line.1. failed: no such object"])
+        self.assertEqual(lines[3:], ["caltofal: request on Device.DSL.Line.1 failed: no such object"])
 
     def test_colour_is_for_terminals_only(self):
         self.assertIn(b"\x1b[", tool.on_terminal("status"))
         self.assertNotIn(b"\x1b[", tool.on_terminal("status", NO_COLOR="1"))
         self.assertNotIn(b"\x1b[", tool.on_terminal("status", TERM="dumb"))
         self.assertNotIn(b"\x1b[", tool.run("status").out)
+
+    def test_short_forms_mean_the_long_ones(self):
+        for short, whole in (("-j hosts", "hosts --json"), ("gat --mode", "gateway --mode-section"), ("-V", "--version"),
+                             ("wifi con -j", "wifi convert --json"), ("help wifi acl", "wifi acl --help"),
+                             ("help", "--help"), ("lo Device.IP.Interface.3", "lower-layers Device.IP.Interface.3"),
+                             ("-g bridge mo", "mode -g bridge"), ("mul", "multiwan"), ("m", "m")):
+            with self.subTest(short):
+                # "--mode" is not an option: only words are completed
+                first, second = (tool.run(*words.split()) for words in (short.replace("--mode", "--mode-section"), whole))
+                self.assertEqual((first.code, first.out), (second.code, second.out), first.err)
+
+    def test_columns_and_cells_for_scripts(self):
+        self.assertEqual(tool.run("hosts", "--columns", "name,addr", "--terse").out.splitlines()[0],
+                         b"study-laptop\t192.168.1.10")
+        self.assertEqual(tool.run("hosts", "--columns", "Mac").out.splitlines()[0], b"MAC")
+        self.assertIn(b"PPP\t\nInterface\tDevice.PPP.Interface.1\n", tool.run("wan", "--terse").out)
+        for words, message in (("hosts --columns name,nope", '"nope" is not a column; there are HOST, NAME, ADDRESS, MAC,'),
+                               ("mode --columns name", "has no columns"), ("mode --json --terse", "--json goes with"),
+                               ("wifi ssids --columns n", '"n" is the beginning of several columns')):
+            self.assertIn(message, tool.run(*words.split()).err)
+
+    def test_tables_fold_at_the_terminals_width(self):
+        text = tool.on_terminal("wifi", "ssids", NO_COLOR="1", columns=60).decode()
+        self.assertLessEqual(max(len(line) for line in text.splitlines()), 60)
+        self.assertIn("VOLA Home", text)
+
+    def test_watch_shows_a_page_again_until_the_key(self):
+        folder = tool.folder()
+        shown = interrupted(tool, ["mode", "--json", "--watch", "1"], signal.SIGINT, 1.6, folder)
+        self.assertEqual((shown.code, shown.err), (0, ""))
+        self.assertEqual(shown.out, b'{"mode":4,"router":true,"wifi_wan":false}\n' * 2)
+        self.assertEqual(interrupted(tool, ["mode", "--watch"], signal.SIGTERM, 0.5, folder).code, 143)
 
     def test_common_options_stand_anywhere(self):
         self.assertEqual(tool.run("mode", "-g", "bridge", "--json").out, tool.run("--json", "-g", "bridge", "mode").out)

@@ -1,11 +1,14 @@
 # SPDX-License-Identifier: MIT
 """Running the tool in a sandbox folder of its own."""
+import fcntl
 import os
 import pty
 import re
 import signal
+import struct
 import subprocess
 import tempfile
+import termios
 import time
 from dataclasses import dataclass
 
@@ -50,9 +53,10 @@ class Tool:
         return subprocess.run([self.sandbox_executable, *words], env=self.environment(folder), stdout=subprocess.PIPE,
                               timeout=60, check=True).stdout
 
-    def on_terminal(self, *words, **variables):
-        """What the tool writes when its standard output is a terminal."""
+    def on_terminal(self, *words, columns=200, **variables):
+        """What the tool writes when its standard output is a terminal of that width."""
         ours, theirs = pty.openpty()
+        fcntl.ioctl(theirs, termios.TIOCSWINSZ, struct.pack("HHHH", 50, columns, 0, 0))
         with subprocess.Popen([self.executable, *words], env={**self.environment(None), **variables}, stdout=theirs,
                               stderr=subprocess.DEVNULL) as process:
             os.close(theirs)
@@ -67,10 +71,10 @@ class Tool:
         return text
 
 
-def interrupted(tool, words, number, delay, folder, terminal=False, send=os.killpg):
+def interrupted(tool, words, number, delay, folder, terminal=False, send=os.killpg, **variables):
     """The tool with a signal after a while: to its process group as a terminal's key sends it, or with os.kill."""
     ours, theirs = pty.openpty() if terminal else os.pipe()
-    with subprocess.Popen([tool.executable, *words], env=tool.environment(folder), stdin=subprocess.DEVNULL,
+    with subprocess.Popen([tool.executable, *words], env={**tool.environment(folder), **variables}, stdin=subprocess.DEVNULL,
                           stdout=subprocess.PIPE, stderr=theirs, start_new_session=True) as process:
         os.close(theirs)
         time.sleep(delay)

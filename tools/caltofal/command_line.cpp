@@ -2,6 +2,8 @@
 #include "caltofal/command_line.h"
 
 #include "caltofal/print.h"
+#include "pages/checked.h"
+#include "pages/similar.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -22,22 +24,49 @@ Exit codes: 0 done, 1 failed, 2 wrong usage, 3 time out, 4 no gateway,
 
 `caltofal NOUN --help` shows a noun's arguments and examples.)";
 
+constexpr int kWatchMax = 86400; // a day
+
 constexpr const char *kVerbMissing = "A subcommand is required"; // the parser's words
 
 std::string notEmpty(const std::string &value) {
     return value.empty() ? "is empty" : "";
 }
 
-void addCommonOptions(CLI::App &app, Options &options) {
-    app.add_flag("--json", options.json, "Print JSON, errors too");
-    app.add_flag("--trace", options.trace, "Show what the library prints, and its requests, on standard error");
-    app.add_flag("--show-secrets", options.secrets, "Show pass phrases, passwords and keys");
-    app.add_option("-g,--gateway", options.gateway, "The sandbox's gateway to talk to")
-        ->type_name("NAME")
-        ->check(notEmpty);
-    app.set_version_flag("--version", std::string("caltofal ") + CALTOFAL_VERSION, "Print the version");
-    app.set_help_flag("-h,--help", "Print this help");
-}
+struct Common {
+    Options &options;
+    std::string columns, watch;
+
+    void add(CLI::App &app) {
+        app.add_flag("-j,--json", options.form.json, "Print JSON, errors too");
+        app.add_flag("--terse", options.form.terse, "For scripts: no headings, a tab between the cells");
+        app.add_option("--columns", columns, "Only these columns, by their headings, in this order")
+            ->type_name("NAMES")
+            ->check(notEmpty);
+        app.add_flag("--show-secrets", options.secrets, "Show pass phrases, passwords and keys");
+        app.add_option("--watch", watch, "Show the page anew every so many seconds, 2 where not given")
+            ->type_name("[SECONDS]");
+        app.add_flag("--trace", options.trace, "Show what the library prints, and its requests, on standard error");
+        app.add_option("-g,--gateway", options.gateway, "The sandbox's gateway to talk to")
+            ->type_name("NAME")
+            ->check(notEmpty);
+        app.set_version_flag("-V,--version", std::string("caltofal ") + CALTOFAL_VERSION, "Print the version");
+        app.set_help_flag("-h,--help", "Print this help");
+    }
+
+    void take() const {
+        if (options.form.json && (options.form.terse || !columns.empty())) {
+            throw Usage("--json goes with neither --terse nor --columns");
+        }
+        if (!watch.empty()) {
+            options.watch = pages::checkedNumber(watch, "--watch", 1, kWatchMax);
+        }
+        for (size_t at = 0; at < columns.size();) {
+            const size_t end = std::min(columns.find(',', at), columns.size());
+            options.form.columns.push_back(columns.substr(at, end - at));
+            at = end + 1;
+        }
+    }
+};
 
 // "wifi channels": the noun, and the verb where it has some.
 std::string chosenWords(const CLI::App &app) {
@@ -47,6 +76,14 @@ std::string chosenWords(const CLI::App &app) {
         words += (words.empty() ? "" : " ") + command->get_name();
     }
     return words;
+}
+
+const CLI::App &chosen(const CLI::App &app) {
+    const CLI::App *command = &app;
+    while (!command->get_subcommands().empty()) {
+        command = command->get_subcommands().front();
+    }
+    return *command;
 }
 
 // What the parser wrote between two texts; "" where they are not there.
@@ -66,13 +103,33 @@ std::string culpritOf(const std::vector<std::string> &words) {
     return option == words.end() ? words.front() : *option;
 }
 
+// What the parser knows below a command: nouns or verbs, or options.
+std::vector<std::string> knownTo(const CLI::App &app, bool options) {
+    std::vector<std::string> names;
+    for (const CLI::App *one : app.get_subcommands([](const CLI::App *) { return true; })) {
+        if (!options) {
+            names.push_back(one->get_name());
+        }
+    }
+    for (const CLI::App *level = &app; level && options; level = level->get_parent()) {
+        for (const CLI::Option *option : level->get_options()) {
+            for (const std::string &name : option->get_lnames()) {
+                names.push_back("--" + name);
+            }
+        }
+    }
+    return names;
+}
+
 // A word where a noun or a verb should be, or none.
-std::string nothingToDo(const std::vector<std::string> &rest, bool verb) {
+std::string nothingToDo(const CLI::App &command, const std::vector<std::string> &rest, bool verb) {
     if (rest.empty()) {
         return "what to do is missing";
     }
-    const char *const ofNoun = isOption(rest.front()) ? "no option of it" : "no verb of it";
-    return "\"" + rest.front() + "\" is " + (verb ? ofNoun : "neither a noun nor an option");
+    const std::string &word = rest.front();
+    const char *const ofNoun = isOption(word) ? "not an option of it" : "not a verb of it";
+    return "\"" + word + "\" is " + (verb ? ofNoun : "neither a noun nor an option") +
+           pages::didYouMean(word, knownTo(command, isOption(word)));
 }
 
 // What is wrong, in the tool's words. The parser's begin with the argument's name, up to a colon or a blank.
@@ -81,11 +138,13 @@ std::string faultOf(const CLI::App &app, const std::string &words, const CLI::Pa
     const std::string name = message.substr(0, message.find_first_of(": "));
     const std::vector<std::string> rest = app.remaining(true);
     if (message.starts_with(kVerbMissing) || (words.empty() && !rest.empty())) {
-        return nothingToDo(rest, !words.empty());
+        return nothingToDo(chosen(app), rest, !words.empty());
     }
     if (dynamic_cast<const CLI::ExtrasError *>(&error) && !rest.empty()) {
         const std::string culprit = culpritOf(rest);
-        return "\"" + culprit + (isOption(culprit) ? "\" is no option of it" : "\" is one argument too many");
+        return "\"" + culprit +
+               (isOption(culprit) ? "\" is not an option of it" + pages::didYouMean(culprit, knownTo(chosen(app), true))
+                                  : "\" is one argument too many");
     }
     if (dynamic_cast<const CLI::RequiredError *>(&error)) {
         return name + " is missing";
@@ -191,9 +250,10 @@ struct Parser {
 
 } // namespace
 
-Task parse(int argc, char **argv, Options &options) {
+Task parse(const std::vector<std::string> &words, Options &options) {
     CLI::App app("Reads and changes a residential gateway's TR-181 configuration.", "caltofal");
-    addCommonOptions(app, options);
+    Common common{options, {}, {}};
+    common.add(app);
     app.require_subcommand(1);
     app.footer(kExitCodes);
     app.get_formatter()->column_width(26);
@@ -202,7 +262,7 @@ Task parse(int argc, char **argv, Options &options) {
         parser.addCommands(app, "caltofal", group);
     }
     try {
-        app.parse(argc, argv);
+        app.parse(std::vector<std::string>(words.rbegin(), words.rend())); // from the last to the first
     } catch (const CLI::Success &success) {
         app.exit(success, std::cout, std::cerr);
         flushOutput();
@@ -210,6 +270,7 @@ Task parse(int argc, char **argv, Options &options) {
     } catch (const CLI::ParseError &error) {
         throw Usage(reasonOf(app, error));
     }
+    common.take();
     return {parser.command, parser.command->prepare(parser.arguments())};
 }
 

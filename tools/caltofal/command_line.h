@@ -3,16 +3,19 @@
 #pragma once
 
 #include "caltofal/command.h"
+#include "caltofal/print.h"
 
 #include <string>
+#include <vector>
 
 namespace cli {
 
 struct Options {
-    bool json = false;
-    bool trace = false;
+    Form form;
     bool secrets = false; // are shown
-    std::string gateway;  // "": the environment's, else the sandbox's own choice
+    bool trace = false;
+    std::string gateway; // "": the environment's, else the sandbox's own choice
+    int watch = 0;       // seconds after which the page is shown anew; 0: once
 };
 
 struct Task {
@@ -20,7 +23,8 @@ struct Task {
     Show show;
 };
 
-// What to do. Prints help or version and answers no command where that was asked for; throws Usage.
-Task parse(int argc, char **argv, Options &options);
+// What to do; the words are those of typed_words.h. Prints help or version and answers no command where that was asked
+// for; throws Usage.
+Task parse(const std::vector<std::string> &words, Options &options);
 
 } // namespace cli

@@ -7,6 +7,8 @@
 #include "caltofal/printable.h"
 #include "caltofal/signals.h"
 #include "caltofal/trace.h"
+#include "caltofal/typed_words.h"
+#include "caltofal/watch.h"
 #include "pages/layer/request_log.h"
 #include "pages/process/streams.h"
 #include "pages/secret.h"
@@ -28,7 +30,7 @@ constexpr uint16_t kLogToStdout = 2; // of unfaltocalLogType
 
 // A wrong command line is reported in the form that it asks for all the same.
 bool asksForJson(int argc, char **argv) {
-    return std::any_of(argv, argv + argc, [](const char *word) { return std::string_view(word) == "--json"; });
+    return std::any_of(argv, argv + argc, [](const std::string_view word) { return word == "--json" || word == "-j"; });
 }
 
 // A device's console keeps its trace, as with every other program there, unless it is to be shown here.
@@ -64,9 +66,9 @@ pages::Report answerOf(const Task &task) {
     }
 }
 
-void runCommand(int argc, char **argv) {
+void runCommand(const std::vector<std::string> &words) {
     Options options;
-    const Task task = parse(argc, argv, options);
+    const Task task = parse(parserWords(words), options);
     if (!task.command) {
         return;
     }
@@ -76,9 +78,16 @@ void runCommand(int argc, char **argv) {
     arrangeTrace(options);
     const pages::StreamCapture capture;
     const pages::ShowSecrets secrets(options.secrets);
-    const pages::Report report = answerOf(task);
-    collectConsole();
-    print(report, options.json);
+    const auto answer = [&] {
+        pages::Report report = answerOf(task);
+        collectConsole();
+        return report;
+    };
+    if (options.watch > 0) {
+        watch(answer, options.form, std::chrono::seconds(options.watch));
+    } else {
+        print(answer(), options.form);
+    }
 }
 
 } // namespace
@@ -94,7 +103,7 @@ int main(int argc, char **argv) {
         return static_cast<int>(failure.category());
     };
     try {
-        runCommand(argc, argv);
+        runCommand({argv + std::min(argc, 1), argv + argc});
         return kDone;
     } catch (const Failure &failure) {
         return failed(failure);

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/print.h"
 
+#include "caltofal/columns.h"
 #include "caltofal/printable.h"
 #include "caltofal/render.h"
 #include "pages/json.h"
 
 #include <cstdlib>
 #include <iostream>
+#include <sstream>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace cli {
@@ -15,11 +18,28 @@ using namespace pages;
 
 namespace {
 
+constexpr int kIndent = 2;
+
+// 0 where standard output is not a terminal.
+size_t terminalWidth() {
+    winsize size{};
+    return isatty(STDOUT_FILENO) == 1 && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
+}
+
 bool colourWanted() {
     const char *noColour = getenv("NO_COLOR");
     const char *terminal = getenv("TERM");
     const bool refused = (noColour && *noColour) || !terminal || std::string_view(terminal) == "dumb";
     return !refused && isatty(STDOUT_FILENO) == 1;
+}
+
+std::string printableLines(const std::string &text) {
+    std::istringstream lines(text);
+    std::string result;
+    for (std::string line; std::getline(lines, line);) {
+        result += printable(line) + "\n";
+    }
+    return result;
 }
 
 } // namespace
@@ -30,13 +50,27 @@ void flushOutput() {
     }
 }
 
-void print(const Report &report, bool json) {
-    if (json) {
-        std::cout << toJson(report.json, 2) << '\n';
-    } else {
-        std::cout << (report.raw.empty() ? render(report.table, colourWanted()) : report.raw);
+std::string linesOf(const Report &report, const Form &form, int indent) {
+    if (form.json) {
+        return toJson(report.json, indent) + "\n";
     }
+    if (!report.raw.empty()) {
+        return report.raw;
+    }
+    if (!report.chart.empty()) {
+        return printableLines(report.chart);
+    }
+    const Table table = form.columns.empty() ? report.table : withColumns(report.table, form.columns);
+    return form.terse ? renderTerse(table) : render(table, {colourWanted(), terminalWidth()});
+}
+
+void print(const Report &report, const Form &form) {
+    std::cout << linesOf(report, form, kIndent);
     flushOutput();
+    printNotes(report);
+}
+
+void printNotes(const Report &report) {
     for (const std::string &note : report.notes) {
         std::cerr << "caltofal: " << printable(note) << '\n';
     }

@@ -5,13 +5,28 @@
 #include "pages/failure.h"
 #include "pages/report.h"
 
+#include <string>
+#include <vector>
+
 namespace cli {
+
+// How an answer is printed.
+struct Form {
+    bool json = false;
+    bool terse = false;                    // for scripts: no headings, tabs between the cells
+    std::vector<std::string> columns = {}; // by heading, or the beginning of one; none: all
+};
 
 // Throws Failure when standard output did not take all of it.
 void flushOutput();
 
-// The data, then the notes. Throws like flushOutput().
-void print(const pages::Report &report, bool json);
+// The data as lines; JSON with that indentation. Throws Usage for a column that is not there.
+std::string linesOf(const pages::Report &report, const Form &form, int indent);
+
+// The data, then the notes. Throws like linesOf() and flushOutput().
+void print(const pages::Report &report, const Form &form);
+
+void printNotes(const pages::Report &report);
 
 void printError(const pages::Failure &failure, bool json);
 

@@ -27,10 +27,6 @@ uint32_t codePoint(std::string_view character) {
     return code;
 }
 
-bool localeIsUtf8() {
-    return std::string_view(nl_langinfo(CODESET)) == "UTF-8";
-}
-
 // One character of valid UTF-8, or a byte of something else.
 bool isShown(std::string_view character) {
     const auto byte = static_cast<unsigned char>(character[0]);
@@ -43,6 +39,10 @@ bool isShown(std::string_view character) {
 }
 
 } // namespace
+
+bool localeIsUtf8() {
+    return std::string_view(nl_langinfo(CODESET)) == "UTF-8";
+}
 
 void useUtf8Locale() {
     setlocale(LC_CTYPE, "");

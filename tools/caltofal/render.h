@@ -7,7 +7,15 @@
 
 namespace cli {
 
+struct Look {
+    bool colour = false;
+    size_t width = 0; // of the terminal: longer lines are folded within their columns; 0: as wide as they are
+};
+
 // The lines of a table; what is not printable is escaped. Nothing is ever cut.
-std::string render(const pages::Table &table, bool colour);
+std::string render(const pages::Table &table, const Look &look);
+
+// The cells alone, with a tab between two.
+std::string renderTerse(const pages::Table &table);
 
 } // namespace cli

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "pages/page.h"
 
+#include "caltofal.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
@@ -34,10 +36,17 @@ std::string plain(const Value &value) {
     return list;
 }
 
-// The unspecified address is what a gateway holds where nothing was configured.
+// The unspecified address is what a gateway holds where nothing was configured; references may
+// end in a dot.
+Value shown(const Field &field) {
+    if (field.value == "0.0.0.0") {
+        return {};
+    }
+    return field.value.text().starts_with("Device.") ? Value(plainPaths(field.value.text())) : field.value;
+}
+
 bool isKnown(const Field &field) {
-    const std::string text = plain(field.value);
-    return !text.empty() && text != "0.0.0.0";
+    return !plain(shown(field)).empty();
 }
 
 bool isKnown(const Section &section) {
@@ -48,7 +57,7 @@ bool isKnown(const Section &section) {
 Value valueOf(const Section &section) {
     Value object = Value::object();
     for (const Field &field : section.fields) {
-        object[field.key] = field.value;
+        object[field.key] = shown(field);
     }
     return object;
 }
@@ -68,7 +77,7 @@ void addRows(Table &table, const Section &section) {
         table.rows.push_back({{section.title, Style::Heading}, {}});
     }
     for (const Field &field : section.fields) {
-        table.rows.push_back({{field.label}, {readable(field.value, field.unit), styleOf(field.value)}});
+        table.rows.push_back({{field.label}, cellOf(shown(field), field.unit)});
     }
 }
 
@@ -82,12 +91,24 @@ std::string readable(const Value &value, const std::string &unit) {
     return unit.empty() ? text : text + " " + unit;
 }
 
+Cell cellOf(const Value &value, const std::string &unit) {
+    return {readable(value, unit), styleOf(value)};
+}
+
 Row rowOf(const Value &object, std::initializer_list<const char *> keys) {
     Row row;
     for (const char *key : keys) {
-        row.push_back({readable(object[key])});
+        row.push_back(cellOf(object[key]));
     }
     return row;
+}
+
+Value flagOf(const std::string &text) {
+    return text.empty() ? Value() : Value(ConvStrToBool(text.c_str()) != 0);
+}
+
+Value numberOf(const std::string &text) {
+    return text.empty() ? Value() : Value(ConvInt(text.c_str()));
 }
 
 Value decibels(const std::string &list) {
@@ -113,7 +134,7 @@ Value Page::value(std::string_view path) const {
     for (const Section &section : sections) {
         for (const Field &field : section.fields) {
             if (section.key == sectionKey && field.key == fieldKey) {
-                return field.value;
+                return shown(field);
             }
         }
     }
@@ -128,7 +149,7 @@ Page::operator Report() const {
             result.json[section.key] = known ? valueOf(section) : Value();
         } else {
             for (const Field &field : section.fields) {
-                result.json[field.key] = field.value;
+                result.json[field.key] = shown(field);
             }
         }
         if (known) {

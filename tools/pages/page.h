@@ -43,6 +43,9 @@ inline Page pageOf(std::vector<Field> fields) {
 // The value as people read it: "-" for nothing, "yes" and "no" for flags.
 std::string readable(const Value &value, const std::string &unit = {});
 
+// A cell with a value as people read it.
+Cell cellOf(const Value &value, const std::string &unit = {});
+
 // A table's row from members of an object.
 Row rowOf(const Value &object, std::initializer_list<const char *> keys);
 
@@ -64,6 +67,10 @@ inline Value flag(int32_t value) {
 inline Value flag(uint8_t value) {
     return value == kUntouchedFlag ? Value() : Value(value != 0);
 }
+// An answer's text as a flag or a number; null where there is none.
+Value flagOf(const std::string &text);
+Value numberOf(const std::string &text);
+
 // Units of 0.1.
 inline Value tenths(int32_t value) {
     return value == kUntouched ? Value() : Value(value / 10.0);

@@ -13,6 +13,7 @@ namespace pages {
 struct Report {
     Value json = {};
     Table table = {};
+    std::string chart = {};              // lines for people, instead of the table; any bytes in the names
     std::string raw = {};                // for scripts, byte for byte; instead of the table where not empty
     std::vector<std::string> notes = {}; // words for people, beside the data
 };

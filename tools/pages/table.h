@@ -12,6 +12,7 @@ enum class Style { Plain, Heading, Good, Bad };
 struct Cell {
     std::string text; // any bytes
     Style style = Style::Plain;
+    int bars = -1; // 0 to 4: the text is a signal, which bars show as well
 };
 
 using Row = std::vector<Cell>;

@@ -86,6 +86,18 @@ std::string quoted(std::string_view text) {
     return '"' + std::string(text.substr(0, kQuotedMax)) + '"';
 }
 
+std::string plainPaths(const std::string &text) {
+    if (!text.starts_with("Device.")) {
+        return text;
+    }
+    std::string result;
+    for (size_t i = 0; i < text.size(); ++i) {
+        const bool last = text[i] == '.' && (i + 1 == text.size() || text[i + 1] == ',');
+        result += last ? "" : std::string(1, text[i]);
+    }
+    return result;
+}
+
 Value typed(std::string_view parameter, std::string_view value) {
     if (isFreeText(parameter)) {
         return value;

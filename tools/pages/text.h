@@ -37,6 +37,9 @@ inline std::string_view withoutDot(std::string_view path) {
     return path.substr(0, path.find_last_not_of('.') + 1);
 }
 
+// A list of paths in the form of answered names, none with a last dot; any other text as it is.
+std::string plainPaths(const std::string &text);
+
 // A parameter's value with the type that it looks like: flag, number or text. What people choose freely (names,
 // descriptions, SSIDs, keys) is always text.
 Value typed(std::string_view parameter, std::string_view value);

@@ -15,6 +15,42 @@ const Kind &heldBy(const Data &data) {
 
 } // namespace
 
+Value::Value() = default;
+Value::Value(bool flag) : data_(flag) {}
+Value::Value(int32_t number) : data_(static_cast<int64_t>(number)) {}
+Value::Value(int64_t number) : data_(number) {}
+Value::Value(uint64_t number) : data_(number) {}
+Value::Value(double number) : data_(number) {}
+Value::Value(const char *text) : data_(std::string(text)) {}
+Value::Value(std::string_view text) : data_(std::string(text)) {}
+Value::Value(std::string text) : data_(std::move(text)) {}
+Value::Value(const Value &other) = default;
+Value::Value(Value &&other) noexcept = default;
+Value &Value::operator=(const Value &other) = default;
+Value &Value::operator=(Value &&other) noexcept = default;
+Value::~Value() = default;
+
+bool operator==(const Value &one, const Value &other) {
+    return one.data_ == other.data_;
+}
+
+Member::Member(std::string name, Value held) : key(std::move(name)), value(std::move(held)) {}
+Member::Member(const Member &other) = default;
+Member::Member(Member &&other) noexcept = default;
+Member &Member::operator=(const Member &other) = default;
+Member &Member::operator=(Member &&other) noexcept = default;
+Member::~Member() = default;
+
+bool operator==(const Member &one, const Member &other) {
+    return one.key == other.key && one.value == other.value;
+}
+
+Value Value::list() {
+    Value result;
+    result.data_ = List();
+    return result;
+}
+
 Value Value::object(std::initializer_list<Member> members) {
     Value result;
     result.data_ = Object(members);
@@ -63,7 +99,7 @@ Value &Value::operator[](std::string_view key) {
     }
     auto &all = std::get<Object>(data_);
     const auto found = std::find_if(all.begin(), all.end(), [&](const Member &member) { return member.key == key; });
-    return found == all.end() ? all.emplace_back(Member{std::string(key), {}}).value : found->value;
+    return found == all.end() ? all.emplace_back(std::string(key), Value()).value : found->value;
 }
 
 void Value::push(Value item) {

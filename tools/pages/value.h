@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 // A value of a page: what JSON knows, members in the order in which they were set. Most files that make pages need no
-// more than this; json.h prints and reads it.
+// more than this; json.h prints and reads it. Nothing is defined here, so that those files compile quickly.
 #pragma once
 
 #include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <string_view>
-#include <type_traits>
 #include <variant>
 #include <vector>
 
@@ -20,16 +19,22 @@ class Value {
     using List = std::vector<Value>;
     using Object = std::vector<Member>;
 
-    Value() = default; // null
-    template <class Number>
-    requires std::is_arithmetic_v<Number> Value(Number number)
-        : data_(stored(number)) {} // NOLINT(google-explicit-constructor)
-    Value(const char *text) : data_(std::string(text)) {}
-    Value(std::string_view text) : data_(std::string(text)) {}
-    Value(std::string text) : data_(std::move(text)) {}
-    Value(List list) : data_(std::move(list)) {}
+    Value(); // null
+    Value(bool flag);
+    Value(int32_t number);
+    Value(int64_t number);
+    Value(uint64_t number);
+    Value(double number);
+    Value(const char *text);
+    Value(std::string_view text);
+    Value(std::string text);
+    Value(const Value &other);
+    Value(Value &&other) noexcept;
+    Value &operator=(const Value &other);
+    Value &operator=(Value &&other) noexcept;
+    ~Value();
 
-    static Value list() { return List(); }
+    static Value list();
     static Value object(std::initializer_list<Member> members = {});
 
     [[nodiscard]] bool isNull() const { return std::holds_alternative<std::monostate>(data_); }
@@ -60,28 +65,24 @@ class Value {
         return std::visit(visitor, data_);
     }
 
-    friend bool operator==(const Value &, const Value &) = default;
+    friend bool operator==(const Value &one, const Value &other);
 
   private:
-    template <class Number>
-    static auto stored(Number number) {
-        if constexpr (std::is_same_v<Number, bool> || std::is_same_v<Number, double>) {
-            return number;
-        } else if constexpr (std::is_unsigned_v<Number>) {
-            return static_cast<uint64_t>(number);
-        } else {
-            return static_cast<int64_t>(number);
-        }
-    }
-
     std::variant<std::monostate, bool, int64_t, uint64_t, double, std::string, List, Object> data_;
 };
 
 struct Member {
+    Member(std::string name, Value held);
+    Member(const Member &other);
+    Member(Member &&other) noexcept;
+    Member &operator=(const Member &other);
+    Member &operator=(Member &&other) noexcept;
+    ~Member();
+
     std::string key;
     Value value;
 
-    friend bool operator==(const Member &, const Member &) = default;
+    friend bool operator==(const Member &one, const Member &other);
 };
 
 } // namespace pages

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/commands/commands.h"
+#include "caltofal/typed_words.h"
 #include "pages/failure.h"
 #include "pages/network/pages.h"
 
@@ -27,6 +28,9 @@ Show prepareWan(const Arguments &given) {
 }
 
 Show prepareGateway(const Arguments &given) {
+    if (given.word("--mode-section") == kAllModes) {
+        return connectionModes;
+    }
     if (given.given("--mode-section")) {
         return [mode = given.word("--mode-section")] { return uciSectionOfMode(mode); };
     }
@@ -48,7 +52,12 @@ Show prepareHost(const Arguments &given) {
 }
 
 Show prepareLowerLayers(const Arguments &given) {
-    return [object = given.word("OBJECT"), walk = given.given("--walk")] { return lowerLayers(object, walk); };
+    if (given.given("--walk") && given.given("--all")) {
+        throw Usage("--walk and --all exclude each other");
+    }
+    const LowerLayers rest = given.given("--all") ? LowerLayers::Whole : LowerLayers::Next;
+    const LowerLayers how = given.given("--walk") ? LowerLayers::Walk : rest;
+    return [object = given.word("OBJECT"), how] { return lowerLayers(object, how); };
 }
 
 Show prepareAddress(const Arguments &given) {
@@ -60,9 +69,10 @@ const Command kCommands[] = {
     {"mode", "The operation mode", "", just<mode>},
     {"gateway",
      "The WAN connection that carries the default route",
-     "\n--mode-section VDSL_PTM",
+     "\n--mode-section\n--mode-section VDSL_PTM",
      prepareGateway,
-     {{"--mode-section", Take::Option, "Only the UCI section of the WAN connection of that mode", "WORD"}}},
+     {{"--mode-section", Take::Option,
+       "Only the UCI section of the WAN connection of that mode; without one, the modes that there are", "[WORD]"}}},
     {"wan",
      "The default WAN connection",
      "\n--bridge -g bridge\n--if-name\n--ethernet",
@@ -85,9 +95,9 @@ const Command kCommands[] = {
      {{"--ipv4", Take::Flag, "Only IPv4"}, {"--ipv6", Take::Flag, "Only IPv6"}}},
     {"multiwan", "Fail-over and load balancing between two WANs", "", just<multiWan>},
     {"iptv", "Whether an IPTV set-top box port is bridged", "", just<iptv>},
-    {"hosts", "The clients of the LAN", "", just<hosts>},
+    {"hosts", "All clients of the LAN", "\n--columns name,address", just<hosts>},
     {"host",
-     "Find a host of the LAN by its address",
+     "One client of the LAN, by its address",
      "00:00:5e:00:53:10\n192.168.1.10",
      prepareHost,
      {{"ADDRESS", Take::Word, "A MAC or IPv4 address"}}},
@@ -96,7 +106,8 @@ const Command kCommands[] = {
      "Device.IP.Interface.3 --walk",
      prepareLowerLayers,
      {{"OBJECT", Take::Word, "An object of the interface stack"},
-      {"--walk", Take::Flag, "Go on downwards to the physical interface"}}},
+      {"--walk", Take::Flag, "Go on downwards to the physical interface"},
+      {"--all", Take::Flag, "The whole list, also where it is longer than the library's record"}}},
     {"address",
      "Tell what kind of address a text is",
      "192.168.1.1\nfe80::1",

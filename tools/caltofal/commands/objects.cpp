@@ -13,6 +13,7 @@ Show prepareGet(const Arguments &given) {
     objects::Query query{.objects = objectsToRead(given.words("OBJECT")),
                          .leaf = given.given("--leaf"),
                          .defaults = given.given("--defaults"),
+                         .names = given.given("--names"),
                          .valuesOnly = given.given("--values")};
     for (const std::string &word : given.words("--where")) {
         query.where.push_back(assignment(word));
@@ -47,6 +48,8 @@ const Command kCommands[] = {
      "Device.IP.Interface.1 Status Name\n"
      "Device.Hosts.Host --where Active=true HostName IPAddress\n"
      "Device.WiFi.Radio.1 --leaf --json\n"
+     "Device.Hosts.Host.*.HostName\n"
+     "Device.WiFi --names\n"
      "Device.WiFi.Radio.1.Channel --values",
      prepareGet,
      {{"OBJECT", Take::Words, "An object, the names of the parameters wanted (none: all), then more objects",
@@ -54,6 +57,7 @@ const Command kCommands[] = {
       {"--where", Take::Repeatable, "Only instances whose parameter has that value; repeatable", "NAME=VALUE"},
       {"--leaf", Take::Flag, "The object's own parameters, nothing below it"},
       {"--defaults", Take::Flag, "The values after a factory reset"},
+      {"--names", Take::Flag, "What stands directly below: parameters, and objects with a dot behind"},
       {"--values", Take::Flag, "The values alone, one a line"}}},
     {"set",
      "Change parameters, all or nothing",

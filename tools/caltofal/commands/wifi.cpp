@@ -87,6 +87,12 @@ std::optional<InterfaceName> interfaceOf(const Arguments &given) {
 }
 
 Show prepareSurvey(const Arguments &given) {
+    if (given.given("--chart")) {
+        if (given.given("--ssid")) {
+            throw Usage("--chart and --ssid exclude each other");
+        }
+        return [interface = interfaceOf(given)] { return wifi::surveyChart(interface); };
+    }
     return [interface = interfaceOf(given), ssid = checkedSsid(given.word("--ssid"))] {
         return wifi::survey(interface, ssid);
     };
@@ -201,10 +207,11 @@ const Command kVerbs[] = {
      true},
     {"survey",
      "The networks that the last scans found",
-     "\nwlan0",
+     "\nwlan0\n--chart",
      prepareSurvey,
      {{"INTERFACE", Take::Optional, "Only the result of that interface"},
-      {"--ssid", Take::Option, "Only that network", "SSID"}},
+      {"--ssid", Take::Option, "Only that network", "SSID"},
+      {"--chart", Take::Flag, "Draw which channels the networks take; the own ones are marked"}},
      true},
     {"wps", "WPS by push-button", "start --pace 200", nullptr, {}, false, kWpsVerbs},
     {"endpoint",

@@ -15,10 +15,6 @@
 namespace pages {
 namespace {
 
-constexpr uint32_t kGet = 1;
-constexpr uint32_t kSet = 2;
-constexpr uint32_t kGetOne = 8;
-
 struct Release {
     void operator()(MsgHeader *header) const {
         faltocal_finalize(header);
@@ -93,16 +89,16 @@ class Message {
 } // namespace
 
 std::vector<Object> get(const std::vector<Object> &objects, Reading reading) {
-    Message message(kGet, static_cast<uint32_t>(reading));
+    Message message(CALTOFAL_OPER_GET, static_cast<uint32_t>(reading));
     for (const Object &object : objects) {
-        message.add(object, kGetOne);
+        message.add(object, CALTOFAL_SUBOPER_GET);
     }
     message.send(false, objects);
     return message.objects();
 }
 
 std::vector<Object> change(const std::vector<Object> &objects, Change what, bool storeOnly) {
-    Message message(kSet, SOPT_OBJVALUE);
+    Message message(CALTOFAL_OPER_SET, SOPT_OBJVALUE);
     for (const Object &object : objects) {
         message.add(object, static_cast<uint32_t>(what));
     }

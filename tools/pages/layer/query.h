@@ -2,6 +2,8 @@
 // Messages of one's own: several objects, one exchange with the configuration layer.
 #pragma once
 
+#include "caltofal.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -23,13 +25,17 @@ struct Object {
 
 // How a get goes about it: the message's list flags.
 enum class Reading : uint32_t {
-    Whole = 0x1004,  // the object and all below it
-    Leaf = 0x1100,   // its own parameters; with filters, the instances that match
-    Defaults = 0x44, // the values after a factory reset
+    Whole = CALTOFAL_LIST_GET,            // the object and all below it
+    Leaf = CALTOFAL_LIST_GET_LEAF,        // its own parameters; with filters, the instances that match
+    Defaults = CALTOFAL_LIST_GET_DEFAULT, // the values after a factory reset
 };
 
 // Sub-operations of a change.
-enum class Change : uint32_t { Add = 1, Delete = 2, Set = 4 };
+enum class Change : uint32_t {
+    Add = CALTOFAL_SUBOPER_ADD,
+    Delete = CALTOFAL_SUBOPER_DELETE,
+    Set = CALTOFAL_SUBOPER_SET
+};
 
 // The objects of the answer. Parameters' values count in filters only. Throws Failure.
 std::vector<Object> get(const std::vector<Object> &objects, Reading reading);

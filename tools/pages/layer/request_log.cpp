@@ -27,7 +27,7 @@ auto findReason() {
 
 std::vector<std::string> objectsOf(const MsgHeader *message) {
     std::vector<std::string> names;
-    const bool ofValues = (message->listFlags & 0x147) != 0;
+    const bool ofValues = (message->listFlags & CALTOFAL_VALUE_KINDS) != 0;
     if (!ofValues) {
         return names;
     }
@@ -80,7 +80,12 @@ void RequestLog::note(const Request &request) {
 }
 
 std::string objectNames(const Request &request) {
-    return joined(request.objects);
+    std::string names;
+    for (const std::string &object : request.objects) {
+        names += names.empty() ? "" : ", ";
+        names += withoutDot(object);
+    }
+    return names;
 }
 
 std::string reasonOf(const Request &request) {

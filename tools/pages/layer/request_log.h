@@ -38,7 +38,7 @@ class RequestLog {
     std::vector<Request> requests_;
 };
 
-// "Device.A." or "Device.A., Device.B.".
+// "Device.A" or "Device.A, Device.B".
 std::string objectNames(const Request &request);
 
 // Why a request was refused: the layer's own words, else what its code means.

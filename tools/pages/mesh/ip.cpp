@@ -29,7 +29,7 @@ Report ip(const std::string &mac) {
         throw Failure(Category::Absent, mac + ": no satellite and no host has that MAC address");
     }
     if (zintu_isValidIPv4Address(ip.c_str()) != 0) {
-        throw Failure(Category::Failed, "the mesh names \"" + ip + "\", which is no IP address");
+        throw Failure(Category::Failed, "the mesh names \"" + ip + "\", which is not an IP address");
     }
     return {.json = Value::object({{"mac", mac}, {"ip", ip}}), .raw = ip + "\n"};
 }

@@ -2,7 +2,10 @@
 // The current network, on which several pages hang.
 #pragma once
 
+#include "pages/value.h"
+
 #include <string>
+#include <vector>
 
 namespace pages {
 
@@ -14,6 +17,9 @@ inline constexpr const char *kNoDefaultWan = "Device.X_ZINTU_CurrentNetwork: no 
 int operationMode();
 inline constexpr int kWifiWanBit = 2;
 inline constexpr int kRouterBit = 4; // a router, or the master of a mesh
+
+// A DNS server as a record holds it: what is not an address is shown as it is, and told in a note.
+Value server(const std::string &text, std::vector<std::string> &notes);
 
 // The IP interface object of the default WAN.
 std::string gatewayInterface();

@@ -26,17 +26,31 @@ Page dns(const std::string &given) {
     char static2[kAddressSize] = "";
     ask([&] { return ZintuGet_WanStaticDns(interface.c_str(), &automatic, static1, static2); },
         {interface + ": no static DNS servers"});
-    return {{
+    std::vector<std::string> notes;
+    Page page{{
         {"",
          "",
          {
              {"interface", "Interface", interface},
-             {"dns1", "Server 1", text(used1)},
-             {"dns2", "Server 2", text(used2)},
+             {"dns1", "Server 1", server(text(used1), notes)},
+             {"dns2", "Server 2", server(text(used2), notes)},
              {"automatic", "Automatic", flag(automatic)},
          }},
-        {"static", "Static", {{"dns1", "Server 1", text(static1)}, {"dns2", "Server 2", text(static2)}}},
+        {"static",
+         "Static",
+         {{"dns1", "Server 1", server(text(static1), notes)}, {"dns2", "Server 2", server(text(static2), notes)}}},
     }};
+    page.notes = notes;
+    return page;
+}
+
+Value server(const std::string &text, std::vector<std::string> &notes) {
+    const bool address = zintu_isValidIPv4Address(text.c_str()) == 0 || validationCheck_IPv6Addr(text.c_str()) == 0;
+    if (!text.empty() && !address) {
+        notes.push_back("DNS server " + quoted(text) + " is not an address: the record holds " +
+                        std::to_string(kAddressSize - 1) + " characters, a longer list is cut");
+    }
+    return text;
 }
 
 } // namespace pages

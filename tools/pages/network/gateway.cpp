@@ -4,12 +4,16 @@
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
+#include "pages/layer/query.h"
 #include "pages/network/current.h"
+
+#include <algorithm>
 
 namespace pages {
 namespace {
 
 constexpr size_t kSectionSize = 128;
+constexpr const char *kConnections = "Device.X_LANTIQ_COM_NwHardware.WANConnection";
 
 ZintuWanInfo defaultGateway() {
     ZintuWanInfo info{};
@@ -35,9 +39,34 @@ Value sectionOfDefaultGateway(std::vector<std::string> &notes) {
     }
 }
 
+std::vector<std::string> modes() {
+    std::vector<std::string> result;
+    for (const Object &connection : get({{kConnections, {{"ConnMode"}}}}, Reading::Whole)) {
+        const std::string mode = valueOf(connection, "ConnMode");
+        if (!mode.empty() && std::find(result.begin(), result.end(), mode) == result.end()) {
+            result.push_back(mode);
+        }
+    }
+    return result;
+}
+
 } // namespace
 
+Report connectionModes() {
+    Report result{.json = Value::object({{"modes", Value::list()}})};
+    for (const std::string &mode : modes()) {
+        result.json["modes"].push(mode);
+        result.raw += mode + "\n";
+    }
+    return result;
+}
+
 Report uciSectionOfMode(const std::string &mode) {
+    const std::vector<std::string> known = modes();
+    if (std::find(known.begin(), known.end(), mode) == known.end()) {
+        throw Failure(Category::Absent,
+                      "no WAN connection has the mode " + quoted(mode) + "; there are " + joined(known), kConnections);
+    }
     char section[kSectionSize] = "";
     ask([&] { return ZintuGet_UciSectionByConnMode(mode.c_str(), section); },
         {"no WAN connection of mode \"" + mode + "\" has a UCI section"});
@@ -57,8 +86,8 @@ Page gateway() {
         {"link_type", "Link type", text(info.sWanLinkType)},
         {"ipv4_mode", "IPv4 mode", text(info.sIpv4Mode)},
         {"ppp_static_address", "PPP static address", text(info.sPppStaticAddress)},
-        {"dns1", "DNS server 1", text(info.sDNS1)},
-        {"dns2", "DNS server 2", text(info.sDNS2)},
+        {"dns1", "DNS server 1", server(text(info.sDNS1), notes)},
+        {"dns2", "DNS server 2", server(text(info.sDNS2), notes)},
         {"uci_section", "UCI section", sectionOfDefaultGateway(notes)},
     });
     page.notes = notes;

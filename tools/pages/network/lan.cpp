@@ -5,6 +5,8 @@
 #include "caltofal.h"
 #include "pages/layer/call.h"
 
+#include <optional>
+
 namespace pages {
 namespace {
 
@@ -51,16 +53,29 @@ Section ipv6Section() {
             }};
 }
 
+// A half that the gateway does not have is told in a note.
+void addHalf(Page &page, Section (*half)(), std::optional<Failure> &missing) {
+    try {
+        page.sections.push_back(half());
+    } catch (const Failure &failure) {
+        if (failure.category() != Category::Absent || missing) {
+            throw;
+        }
+        missing = failure;
+        page.notes.emplace_back(failure.what());
+    }
+}
+
 } // namespace
 
 Page lan(LanPart part) {
+    if (part != LanPart::Both) {
+        return {{part == LanPart::Ipv4 ? ipv4Section() : ipv6Section()}};
+    }
     Page page;
-    if (part != LanPart::Ipv6) {
-        page.sections.push_back(ipv4Section());
-    }
-    if (part != LanPart::Ipv4) {
-        page.sections.push_back(ipv6Section());
-    }
+    std::optional<Failure> missing;
+    addHalf(page, ipv4Section, missing);
+    addHalf(page, ipv6Section, missing);
     return page;
 }
 

@@ -26,18 +26,20 @@ Page wholeLan();
 Page multiWan();
 Page iptv();
 
-Report hosts(); // all of the LAN
-
-// By MAC or IPv4 address. Throws Usage for what is neither.
+// Every client of the LAN.
+Report hosts();
+// One of them by MAC or IPv4 address. Throws Usage for what is neither.
 Page host(const std::string &address);
 
-// What lies below an object of the interface stack; with `walk`, on down to the physical interface.
-Report lowerLayers(const std::string &object, bool walk);
+// What lies below an object of the interface stack. Whole: also what the library's record has no room for.
+enum class LowerLayers { Next, Walk /* on down to the physical interface */, Whole };
+Report lowerLayers(const std::string &object, LowerLayers how);
 
 // What kind of address a text is.
 Page address(const std::string &text);
 
 // Single values.
+Report connectionModes(); // the words that uciSectionOfMode() takes
 Report uciSectionOfMode(const std::string &mode);
 Report wanInterfaceName();     // the Linux name
 Report ethernetWanInterface(); // the IP interface object

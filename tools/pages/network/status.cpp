@@ -51,8 +51,10 @@ Report status() {
             result.table.rows.push_back({{glance.title, Style::Heading}, {summary(page, glance)}});
         } catch (const Failure &failure) {
             result.json[glance.key] = errorValue(failure);
-            result.table.rows.push_back(
-                {{glance.title, Style::Heading}, {std::string("(") + failure.what() + ")", Style::Bad}});
+            const Cell words = failure.category() == Category::Absent
+                                   ? Cell{"none"}
+                                   : Cell{std::string("(") + failure.what() + ")", Style::Bad};
+            result.table.rows.push_back({{glance.title, Style::Heading}, words});
             first = first ? first : failure;
             ++failed;
         }

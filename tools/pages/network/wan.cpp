@@ -20,7 +20,8 @@ ZintuWanInfo untouchedInfo() {
 }
 
 Page sectionsOf(const ZintuWanInfo &info) {
-    return {{
+    std::vector<std::string> notes;
+    Page page{{
         {"",
          "",
          {
@@ -55,8 +56,8 @@ Page sectionsOf(const ZintuWanInfo &info) {
          "DNS",
          {
              {"automatic", "Automatic", flag(info.bDnsAuto)},
-             {"dns1", "Server 1", text(info.sDNS1)},
-             {"dns2", "Server 2", text(info.sDNS2)},
+             {"dns1", "Server 1", server(text(info.sDNS1), notes)},
+             {"dns2", "Server 2", server(text(info.sDNS2), notes)},
          }},
         {"vlan",
          "VLAN",
@@ -73,6 +74,8 @@ Page sectionsOf(const ZintuWanInfo &info) {
              {"next_hop", "Next hop", text(info.sIpv6NextHop)},
          }},
     }};
+    page.notes = notes;
+    return page;
 }
 
 // The WAN being down is an answer, not a failure: no forwarding entry tells a gateway then.
@@ -101,9 +104,16 @@ Page bridgeWan() {
     const int mode = operationMode();
     ZintuWanInfo info = untouchedInfo();
     ask([&] { return ZintuGet_BrWanInfo(static_cast<uint32_t>(mode), &info); },
-        {"the gateway is no bridge: its operation mode is " + std::to_string(mode),
+        {"the gateway is not a bridge: its operation mode is " + std::to_string(mode),
          {"Device.Routing."},
          CALTOFAL_NO_MATCH});
+    // The library fixes these whatever the device does, and "Down" means no more than that DHCP gave no address.
+    info.bIpv6Enable = kUntouchedFlag;
+    info.sIpv6Type[0] = '\0';
+    untouch(info.bVlanEnable, info.nVlanID, info.bDnsAuto);
+    if (text(info.sStatus) == "Down") {
+        info.sStatus[0] = '\0';
+    }
     return noted(info);
 }
 

@@ -4,6 +4,7 @@
 #include "pages/checked.h"
 #include "pages/failure.h"
 #include "pages/secret.h"
+#include "pages/text.h"
 
 namespace pages::objects {
 namespace {
@@ -11,7 +12,7 @@ namespace {
 Value listOf(const std::vector<Object> &objects) {
     Value list = Value::list();
     for (const Object &object : objects) {
-        Value entry = Value::object({{"object", object.name}});
+        Value entry = Value::object({{"object", withoutDot(object.name)}});
         for (const Parameter &parameter : object.parameters) {
             entry["parameters"][parameter.name] = shownValue(parameter.name, parameter.value);
         }
@@ -41,7 +42,7 @@ Report add(const std::vector<Object> &tables, bool storeOnly) {
     const std::vector<Object> added = change(tables, Change::Add, storeOnly);
     Report result = report("added", added, storeOnly);
     for (const Object &object : added) {
-        result.table.rows.push_back({{object.name}});
+        result.table.rows.push_back({{std::string(withoutDot(object.name))}});
     }
     return result;
 }

@@ -2,77 +2,45 @@
 #include "pages/objects/pages.h"
 
 #include "pages/failure.h"
+#include "pages/objects/select.h"
+#include "pages/page.h"
 #include "pages/secret.h"
-#include "pages/text.h"
+#include "pages/similar.h"
 
 #include <algorithm>
 
 namespace pages::objects {
 namespace {
 
-std::string withDot(const std::string &path) {
-    return path.ends_with('.') ? path : path + ".";
-}
-
-bool has(const Object &object, const std::string &parameter) {
-    return std::any_of(object.parameters.begin(), object.parameters.end(),
-                       [&](const Parameter &candidate) { return candidate.name == parameter; });
-}
-
-bool isWanted(const std::vector<Parameter> &names, const Parameter &candidate) {
-    return std::any_of(names.begin(), names.end(), [&](const Parameter &name) { return name.name == candidate.name; });
+// The names that stand in an object, or in the objects of its table.
+std::vector<std::string> namesIn(const std::string &object) {
+    std::vector<std::string> names;
+    for (const Object &one : get({{object}}, Reading::Leaf)) {
+        for (const Parameter &parameter : one.parameters) {
+            names.push_back(parameter.name);
+        }
+    }
+    return names;
 }
 
 // Layers differ in whether they refuse a name that an object does not have, or leave it out of the answer.
 void checkAnswered(const Object &asked, const std::vector<Object> &answer) {
     const std::string branch = withDot(asked.name);
+    std::vector<std::string> missing;
     for (const Parameter &parameter : asked.parameters) {
         const bool found = std::any_of(answer.begin(), answer.end(), [&](const Object &object) {
             return withDot(object.name).starts_with(branch) && has(object, parameter.name);
         });
         if (!found) {
-            throw Failure(Category::Absent, branch + parameter.name + ": no object here has that parameter",
-                          asked.name);
+            missing.push_back(parameter.name);
         }
     }
-}
-
-// Whether an object of an answer is an instance of the table asked for (or the object itself), not one below.
-bool isInstance(const Object &asked, const Object &object) {
-    const std::string name = withDot(object.name);
-    return name.find('.', withDot(asked.name).size()) + 1 >= name.size() || name == withDot(asked.name);
-}
-
-// Leaves the wanted parameters. What the instances have themselves is not sought below them, as in a plain get.
-void narrow(const Object &asked, std::vector<Object> &answer) {
-    std::vector<Parameter> ofInstances;
-    for (const Parameter &wanted : asked.parameters) {
-        if (std::any_of(answer.begin(), answer.end(),
-                        [&](const Object &object) { return isInstance(asked, object) && has(object, wanted.name); })) {
-            ofInstances.push_back(wanted);
-        }
+    if (!missing.empty()) {
+        throw Failure(Category::Absent,
+                      branch + joined(missing) + ": no object here has that parameter" +
+                          didYouMean(missing.front(), namesIn(asked.name)),
+                      asked.name);
     }
-    for (Object &object : answer) {
-        const bool instance = isInstance(asked, object);
-        std::erase_if(object.parameters, [&](const Parameter &parameter) {
-            return !isWanted(asked.parameters, parameter) || (!instance && isWanted(ofInstances, parameter));
-        });
-    }
-    std::erase_if(answer, [](const Object &object) { return object.parameters.empty(); });
-}
-
-// With a filter the layer answers all below the matching instances; what was not asked for goes out here.
-std::vector<Object> matching(const Object &asked, bool leaf) {
-    Object request = asked;
-    request.parameters.clear();
-    std::vector<Object> result = get({request}, Reading::Leaf);
-    if (leaf) {
-        std::erase_if(result, [&](const Object &object) { return !isInstance(asked, object); });
-    }
-    if (!asked.parameters.empty()) {
-        narrow(asked, result);
-    }
-    return result;
 }
 
 // "OBJECT.PARAM" as it stands in this command's own output; empty when the last word can be no parameter.
@@ -83,7 +51,7 @@ std::vector<Object> asParameter(const std::vector<Object> &objects) {
         dot + 1 == path.size()) {
         return {};
     }
-    return {{path.substr(0, dot + 1), {{path.substr(dot + 1), {}}}}};
+    return {{path.substr(0, dot), {{path.substr(dot + 1)}}}};
 }
 
 std::vector<Object> getObjects(const std::vector<Object> &objects, Reading reading) {
@@ -108,17 +76,35 @@ std::vector<Object> getObjects(const std::vector<Object> &objects, Reading readi
 }
 
 std::vector<Object> answer(const Query &query) {
-    std::vector<Object> objects = query.objects;
+    const Reading plain = query.leaf ? Reading::Leaf : Reading::Whole;
     std::vector<Object> result;
-    if (!query.where.empty()) {
-        objects.front().filters = query.where;
-        result = matching(objects.front(), query.leaf);
-    } else {
-        const Reading plain = query.leaf ? Reading::Leaf : Reading::Whole;
-        result = getObjects(objects, query.defaults ? Reading::Defaults : plain);
+    if (std::any_of(query.objects.begin(), query.objects.end(), isPattern)) {
+        for (const Object &object : query.objects) {
+            const std::vector<Object> some = isPattern(object) ? matchingPattern(object) : get({object}, plain);
+            result.insert(result.end(), some.begin(), some.end());
+        }
+        return result;
     }
-    for (const Object &object : objects) {
+    if (!query.where.empty()) {
+        result = matching(query.objects.front(), query.where, query.leaf);
+    } else {
+        result = getObjects(query.objects, query.defaults ? Reading::Defaults : plain);
+    }
+    for (const Object &object : query.objects) {
         checkAnswered(object, result);
+    }
+    return result;
+}
+
+Report namesBelow(const Query &query) {
+    Report result{.json = Value::object()};
+    for (const Object &object : query.objects) {
+        Value &list = result.json[withoutDot(object.name)];
+        list = Value::list();
+        for (const std::string &name : directlyBelow(object.name, get({object}, Reading::Whole))) {
+            list.push(name);
+            result.table.rows.push_back({{withDot(object.name) + name}});
+        }
     }
     return result;
 }
@@ -132,16 +118,23 @@ void check(const Query &query) {
     if (!query.where.empty() && query.objects.size() > 1) {
         throw Usage("--where goes with one object");
     }
+    const bool pattern = std::any_of(query.objects.begin(), query.objects.end(), isPattern);
+    if (pattern && (query.defaults || query.names || !query.where.empty())) {
+        throw Usage("\"*\" in a path goes with none of --defaults, --names and --where");
+    }
 }
 
 Report read(const Query &query) {
     check(query);
+    if (query.names) {
+        return namesBelow(query);
+    }
     Report result{.json = Value::object()};
     for (const Object &object : answer(query)) {
-        Value &parameters = result.json[object.name];
+        Value &parameters = result.json[withoutDot(object.name)];
         parameters = parameters.isNull() ? Value::object() : parameters;
         if (object.parameters.empty()) {
-            result.table.rows.push_back({{withDot(object.name)}, {}});
+            result.table.rows.push_back({{std::string(withoutDot(object.name))}, {}});
         }
         for (const Parameter &parameter : object.parameters) {
             parameters[parameter.name] = shownValue(parameter.name, parameter.value);

@@ -10,11 +10,13 @@
 
 namespace pages::objects {
 
+// "*" in a path stands for any instance or name.
 struct Query {
     std::vector<Object> objects;       // with the parameters wanted; none: all
     std::vector<Parameter> where = {}; // of the one object: only instances whose parameters have those values
     bool leaf = false;                 // its own parameters, nothing below it
     bool defaults = false;             // the values after a factory reset
+    bool names = false;                // what stands directly below, without values
     bool valuesOnly = false;           // a line each, in the raw text
 };
 

@@ -21,20 +21,16 @@ milliseconds since(steady_clock::time_point start) {
 Outcome askAgain(Wait &wait, const Pace &pace, const std::string &what, const std::function<bool()> &done) {
     const milliseconds most = std::accumulate(pace.intervals.begin(), pace.intervals.end(), 0) * pace.unit;
     const steady_clock::time_point start = steady_clock::now();
-    for (const uint8_t interval : pace.intervals) {
-        const steady_clock::time_point end = steady_clock::now() + interval * pace.unit;
-        while (steady_clock::now() < end) {
-            wait.progress(what, since(start), most);
-            const auto left = std::chrono::ceil<milliseconds>(end - steady_clock::now());
-            if (!wait.pause(std::min(kTick, left))) {
-                return Outcome::Cancelled;
-            }
+    while (!done()) {
+        if (since(start) >= most) {
+            return wait.cancelled() ? Outcome::Cancelled : Outcome::TimeOut;
         }
-        if (done()) {
-            return Outcome::Done;
+        wait.progress(what, since(start), most);
+        if (!wait.pause(std::min({kTick, pace.unit, most - since(start)}))) {
+            return Outcome::Cancelled;
         }
     }
-    return wait.cancelled() ? Outcome::Cancelled : Outcome::TimeOut;
+    return Outcome::Done;
 }
 
 bool waitFor(Wait &wait, const std::string &what, const std::function<bool()> &done) {

@@ -38,7 +38,7 @@ struct Pace {
 
 enum class Outcome { Done, TimeOut, Cancelled };
 
-// Asks `done` after each interval.
+// Asks `done` again and again, until the intervals are over.
 Outcome askAgain(Wait &wait, const Pace &pace, const std::string &what, const std::function<bool()> &done);
 
 // Waits until `done`, however long that takes; false when it was cancelled.

@@ -70,7 +70,7 @@ Report channels(const InterfaceName &name) {
                                          {"radio", interface.radio},
                                          {"phy", phy < 0 ? Value() : Value(phy)},
                                          {"channels", Value::list()}})};
-    result.table.headings = {"CHANNEL", "FREQUENCY", "BANDWIDTHS", "2ND LOWER", "2ND UPPER"};
+    result.table.headings = {"CHANNEL", "FREQUENCY MHZ", "WIDTHS MHZ", "2ND LOWER", "2ND UPPER"};
     const std::span entries(list.entries, static_cast<size_t>(count));
     for (const WifiChannelEntry &entry : entries) {
         result.json["channels"].push(jsonOf(entry));

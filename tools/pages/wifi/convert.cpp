@@ -31,7 +31,7 @@ struct Converter {
 int numberIn(const std::string &value, int least, int most) {
     const size_t sign = value.starts_with('-') ? 1 : 0;
     if (value.size() == sign || value.find_first_not_of("0123456789", sign) != std::string::npos) {
-        throw Usage("value " + quoted(value) + " is no number");
+        throw Usage("value " + quoted(value) + " is not a number");
     }
     int number = 0;
     const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
@@ -136,7 +136,7 @@ const Converter &converterNamed(const std::string &name) {
     const auto *const found = std::find_if(std::begin(kConverters), std::end(kConverters),
                                            [&](const Converter &one) { return one.name == name; });
     if (found == std::end(kConverters)) {
-        throw Usage(quoted(name) + " is no conversion; caltofal wifi convert lists them");
+        throw Usage(quoted(name) + " is not a conversion; caltofal wifi convert lists them");
     }
     return *found;
 }

@@ -64,7 +64,7 @@ void checkUplink(const Interface &interface) {
             return;
         }
     }
-    throw Failure(Category::Absent, interface.name + " is no end point", "Device.WiFi.EndPoint");
+    throw Failure(Category::Absent, interface.name + " is not an end point", "Device.WiFi.EndPoint");
 }
 
 // The enabled end point, with its interface's name where its reference leads to one. An empty reference is asked for

@@ -53,6 +53,9 @@ Report endPoint(const InterfaceName &interface);
 // device.
 Report survey(const std::optional<InterfaceName> &interface, const std::string &ssid);
 
+// The same drawn by channels: which each network takes, and how strongly. Needs the device.
+Report surveyChart(const std::optional<InterfaceName> &interface);
+
 struct ScanRequest {
     InterfaceName interface;
     std::string ssid;                     // "": all networks

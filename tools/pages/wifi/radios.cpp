@@ -12,7 +12,7 @@
 namespace pages::wifi {
 namespace {
 
-constexpr int kFapiToUi = 1;
+constexpr int kFapiToUi = 1; // direction of the library's converters
 
 // Of radios 1 and 2; others the library does not count.
 Value clientsOf(int radio) {
@@ -20,6 +20,18 @@ Value clientsOf(int radio) {
         return {};
     }
     return askEvery([&] { return GetAssociatedDeviceNumberOfEntries(radio); });
+}
+
+// Null where the gateway does not count them.
+Value knownClientsOf(int radio) {
+    try {
+        return clientsOf(radio);
+    } catch (const Failure &failure) {
+        if (failure.category() == Category::Absent) {
+            return {};
+        }
+        throw;
+    }
 }
 
 Value jsonOf(const Object &radio) {
@@ -31,21 +43,21 @@ Value jsonOf(const Object &radio) {
     json["radio"] = number;
     json["interface"] = valueOf(radio, "Name");
     json["band"] = FapiToUi_Str(band.c_str(), Interface_FapiToUi_Table, std::size(Interface_FapiToUi_Table));
-    json["enabled"] = ConvStrToBool(valueOf(radio, "Enable").c_str()) != 0;
+    json["enabled"] = flagOf(valueOf(radio, "Enable"));
     json["status"] = valueOf(radio, "Status");
-    json["channel"] = ConvInt(valueOf(radio, "Channel").c_str());
-    json["auto_channel"] = ConvStrToBool(valueOf(radio, "AutoChannelEnable").c_str()) != 0;
+    json["channel"] = numberOf(valueOf(radio, "Channel"));
+    json["auto_channel"] = flagOf(valueOf(radio, "AutoChannelEnable"));
     json["bandwidth_mhz"] = typed("bandwidth", BandWidth_ConvStr(width.c_str(), kFapiToUi));
     json["standards"] = OperatingStandards_ConvStr(standards.c_str(), kFapiToUi);
-    json["clients"] = clientsOf(number);
+    json["clients"] = knownClientsOf(number);
     return json;
 }
 
 Row rowOf(const Value &radio) {
     Row row = pages::rowOf(
         radio, {"radio", "interface", "band", "status", "channel", "bandwidth_mhz", "standards", "clients"});
-    row[3].style = radio["status"] == "Up" ? Style::Good : Style::Bad;
-    if (!radio["enabled"].flag()) {
+    row[3].style = radio["status"] == "Up" ? Style::Good : radio["status"] == "" ? Style::Plain : Style::Bad;
+    if (radio["enabled"] == false) {
         row[3].text = "off";
     }
     row[4].text += radio["auto_channel"].flag() ? " (auto)" : "";
@@ -56,7 +68,7 @@ Row rowOf(const Value &radio) {
 
 Report radios() {
     Report result{.json = Value::object({{"radios", Value::list()}})};
-    result.table.headings = {"RADIO", "INTERFACE", "BAND", "STATUS", "CHANNEL", "MHZ", "STANDARDS", "CLIENTS"};
+    result.table.headings = {"RADIO", "INTERFACE", "BAND", "STATUS", "CHANNEL", "WIDTH MHZ", "STANDARDS", "CLIENTS"};
     const std::vector<Parameter> wanted = {{"Name"},
                                            {"OperatingFrequencyBand"},
                                            {"Enable"},

@@ -11,6 +11,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace pages::wifi {
 namespace {
@@ -50,17 +51,19 @@ struct FileMark {
     bool present = false;
     ino_t inode = 0;
     timespec changed{};
+    off_t size = 0;
 
     explicit FileMark(const std::string &path) {
         struct stat status {};
         present = stat(path.c_str(), &status) == 0;
         inode = status.st_ino;
         changed = status.st_mtim;
+        size = status.st_size;
     }
 
     [[nodiscard]] bool isNewerThan(const FileMark &before) const {
-        return present && (!before.present || inode != before.inode || changed.tv_sec != before.changed.tv_sec ||
-                           changed.tv_nsec != before.changed.tv_nsec);
+        return present && (!before.present || inode != before.inode || size != before.size ||
+                           changed.tv_sec != before.changed.tv_sec || changed.tv_nsec != before.changed.tv_nsec);
     }
 };
 
@@ -99,7 +102,12 @@ void request(const ScanRequest &wanted, Wait &wait) {
 
 void await(Wait &wait, const Pace &pace, const InterfaceName &interface, const FileMark &before) {
     const std::string &name = interface.text();
-    const auto done = [&] { return FileMark(surveyFile(interface)).isNewerThan(before); };
+    // Whole once it stays as it is.
+    FileMark last = before;
+    const auto done = [&] {
+        const FileMark now(surveyFile(interface));
+        return now.isNewerThan(before) && !now.isNewerThan(std::exchange(last, now));
+    };
     switch (askAgain(wait, pace, "scanning on " + name, done)) {
     case Outcome::Done:
         return;

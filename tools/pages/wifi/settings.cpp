@@ -61,7 +61,7 @@ void checkWord(const Words &row, const std::string &word) {
         words += (words.empty() ? "" : ", ") + known;
     }
     throw Failure(Category::Refused, std::string(row.parameter) + ": " + quoted(word) +
-                                         " is no word of the user interface; there are " + words);
+                                         " is not a word of the user interface; there are " + words);
 }
 
 std::string lastPart(const std::string &object) {

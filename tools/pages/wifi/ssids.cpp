@@ -10,15 +10,14 @@ namespace {
 
 Value jsonOf(const Object &ssid) {
     const int radio = instanceOf(valueOf(ssid, "LowerLayers"));
-    const auto isSet = [&](const char *name) { return ConvStrToBool(valueOf(ssid, name).c_str()) != 0; };
     Value json = Value::object({{"number", instanceOf(ssid.name)}});
     json["interface"] = valueOf(ssid, "Name");
     json["radio"] = radio == 0 ? Value() : Value(radio);
     json["ssid"] = valueOf(ssid, "SSID");
     json["bssid"] = valueOf(ssid, "BSSID");
     json["network"] = valueOf(ssid, "X_ZINTU_NetworkType");
-    json["enabled"] = isSet("Enable");
-    json["active"] = isSet("X_ZINTU_Active");
+    json["enabled"] = flagOf(valueOf(ssid, "Enable"));
+    json["active"] = flagOf(valueOf(ssid, "X_ZINTU_Active"));
     return json;
 }
 

@@ -6,6 +6,7 @@
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
 #include "pages/wifi/interface.h"
+#include "pages/wifi/signal.h"
 
 #include <iterator>
 
@@ -29,7 +30,7 @@ Value jsonOf(const WifiStaEntry &station) {
 }
 
 Row rowOf(const Value &station) {
-    Row row = pages::rowOf(station, {"mac", "rssi_dbm"});
+    Row row = {cellOf(station["mac"]), signalCell(station["rssi_dbm"])};
     for (const Value &rssi : station["antennas_dbm"].items()) {
         row.push_back({readable(rssi)});
     }
@@ -49,10 +50,10 @@ Report stations(const InterfaceName &interface, const std::string &mac) {
         failOfShell("the driver tells no stations of " + interface.text(), complaint);
     }
     if (count == 0 && !mac.empty()) {
-        throw Failure(Category::Absent, mac + " is no station of " + interface.text());
+        throw Failure(Category::Absent, mac + " is not a station of " + interface.text());
     }
     Report result{.json = Value::object({{"interface", interface.text()}, {"stations", Value::list()}})};
-    result.table.headings = {"STATION", "DBM", "ANT1", "ANT2", "ANT3", "ANT4"};
+    result.table.headings = {"STATION", "SIGNAL DBM", "ANT1 DBM", "ANT2 DBM", "ANT3 DBM", "ANT4 DBM"};
     for (int i = 0; i < count; ++i) {
         const Value station = jsonOf(list.entries[i]);
         result.table.rows.push_back(rowOf(station));

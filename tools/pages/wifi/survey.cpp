@@ -8,6 +8,7 @@
 #include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
 #include "pages/wifi/radar.h"
+#include "pages/wifi/signal.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -67,7 +68,7 @@ Value jsonOf(const SiteSurveyEntry &entry) {
 Row rowOf(const SiteSurveyEntry &entry) {
     return {{text(entry.ssid)},
             {markedChannel(entry.channel)},
-            {std::to_string(entry.rssi)},
+            signalCell(entry.rssi),
             {text(entry.security)},
             {text(entry.encryption)},
             {text(entry.macaddr)},
@@ -150,7 +151,8 @@ Report surveyReport(const std::string &file, const std::string &ssid) {
     Survey survey;
     const int count = GetSiteSurveyList(file.c_str(), &survey.list, ssid.c_str());
     Report result{.json = Value::object({{"networks", Value::list()}})};
-    result.table.headings = {"SSID", "CHANNEL", "DBM", "SECURITY", "ENCRYPTION", "BSSID", "MHZ", "STANDARDS", "2ND"};
+    result.table.headings = {"SSID",  "CHANNEL",   "SIGNAL DBM", "SECURITY", "ENCRYPTION",
+                             "BSSID", "WIDTH MHZ", "STANDARDS",  "2ND"};
     const std::span entries(survey.list.entries, static_cast<size_t>(count));
     for (const SiteSurveyEntry &entry : entries) {
         result.json["networks"].push(jsonOf(entry));

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "caltofal/columns.h"
+
+#include "pages/failure.h"
+#include "pages/text.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace cli {
+namespace {
+
+using pages::Usage;
+
+std::string upper(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return toupper(c); });
+    return text;
+}
+
+size_t columnNamed(const std::vector<std::string> &headings, const std::string &name) {
+    const std::string wanted = upper(name);
+    const auto exact = std::find(headings.begin(), headings.end(), wanted);
+    if (exact != headings.end()) {
+        return static_cast<size_t>(exact - headings.begin());
+    }
+    const auto begins = [&](const std::string &heading) { return !wanted.empty() && heading.starts_with(wanted); };
+    const auto found = std::find_if(headings.begin(), headings.end(), begins);
+    if (found == headings.end() || std::count_if(headings.begin(), headings.end(), begins) > 1) {
+        throw Usage("--columns: " + pages::quoted(name) +
+                    (found == headings.end() ? " is not a column" : " is the beginning of several columns") +
+                    "; there are " + pages::joined(headings));
+    }
+    return static_cast<size_t>(found - headings.begin());
+}
+
+} // namespace
+
+pages::Table withColumns(const pages::Table &table, const std::vector<std::string> &names) {
+    if (table.headings.empty()) {
+        throw Usage("--columns: this page has no columns with headings");
+    }
+    pages::Table result;
+    std::vector<size_t> places;
+    for (const std::string &name : names) {
+        places.push_back(columnNamed(table.headings, name));
+        result.headings.push_back(table.headings[places.back()]);
+    }
+    for (const pages::Row &row : table.rows) {
+        pages::Row &chosen = result.rows.emplace_back();
+        for (const size_t place : places) {
+            chosen.push_back(place < row.size() ? row[place] : pages::Cell());
+        }
+    }
+    return result;
+}
+
+} // namespace cli

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "caltofal/fold.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cwchar>
+
+namespace cli {
+namespace {
+
+constexpr size_t kGap = 2;
+constexpr size_t kValueLeast = 20; // columns: what is narrower is not worth folding
+
+size_t columnsOf(const pages::Table &table) {
+    return !table.headings.empty() ? table.headings.size() : table.rows.empty() ? 0 : table.rows.front().size();
+}
+
+std::vector<size_t> widthsOf(const pages::Table &table) {
+    std::vector<size_t> widths(columnsOf(table));
+    for (size_t i = 0; i < table.headings.size(); ++i) {
+        widths[i] = displayWidth(table.headings[i]);
+    }
+    for (const pages::Row &row : table.rows) {
+        for (size_t i = 0; i < std::min(row.size(), widths.size()); ++i) {
+            widths[i] = std::max(widths[i], displayWidth(row[i].text));
+        }
+    }
+    return widths;
+}
+
+// The bytes of the character that begins a printable text.
+size_t lengthOfFirst(const std::string &text, size_t at) {
+    const int length = mblen(text.c_str() + at, text.size() - at);
+    return length > 0 ? static_cast<size_t>(length) : 1;
+}
+
+// How much of a text stands in the first line.
+size_t firstPiece(const std::string &text, size_t width) {
+    size_t end = 0;
+    size_t breakable = 0;
+    while (end < text.size()) {
+        const size_t next = end + lengthOfFirst(text, end);
+        if (displayWidth(text.substr(0, next)) > width) {
+            return breakable > 0 ? breakable : std::max(end, next - end);
+        }
+        end = next;
+        if (text[end - 1] == ' ' || text[end - 1] == ',') {
+            breakable = end;
+        }
+    }
+    return end;
+}
+
+} // namespace
+
+size_t displayWidth(const std::string &text) {
+    std::wstring wide(text.size() + 1, L'\0');
+    const size_t length = mbstowcs(wide.data(), text.c_str(), wide.size());
+    const int width = length == static_cast<size_t>(-1) ? -1 : wcswidth(wide.c_str(), length);
+    return width < 0 ? text.size() : static_cast<size_t>(width);
+}
+
+std::vector<std::vector<size_t>> columnGroups(const pages::Table &table, size_t width) {
+    const std::vector<size_t> widths = widthsOf(table);
+    std::vector<std::vector<size_t>> groups;
+    size_t used = 0;
+    for (size_t i = 0; i < widths.size(); ++i) {
+        if (groups.empty() || used + kGap + widths[i] > width) {
+            used = groups.empty() ? 0 : displayWidth(kContinuation);
+            groups.emplace_back();
+        } else {
+            used += kGap;
+        }
+        used += widths[i];
+        groups.back().push_back(i);
+    }
+    return groups;
+}
+
+pages::Table withFoldedValues(const pages::Table &table, size_t width) {
+    const std::vector<size_t> widths = widthsOf(table);
+    if (widths.size() != 2 || widths[0] + kGap + widths[1] <= width || widths[0] + kGap + kValueLeast > width) {
+        return table;
+    }
+    const size_t room = width - widths[0] - kGap;
+    pages::Table result{table.headings, {}};
+    for (const pages::Row &row : table.rows) {
+        pages::Cell label = row[0];
+        std::string rest = row.size() > 1 ? row[1].text : "";
+        const pages::Style style = row.size() > 1 ? row[1].style : pages::Style::Plain;
+        do {
+            const size_t piece = firstPiece(rest, room);
+            result.rows.push_back({label, {rest.substr(0, piece), style}});
+            rest.erase(0, piece);
+            label.text.clear();
+        } while (!rest.empty());
+    }
+    return result;
+}
+
+} // namespace cli

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Tables that are wider than the terminal. Nothing is cut.
+#pragma once
+
+#include "pages/table.h"
+
+#include <string>
+#include <vector>
+
+namespace cli {
+
+// The texts of a table here are printable.
+
+size_t displayWidth(const std::string &text);
+
+// Which columns stand together in a line of that width, two blanks between them: as many as fit, the rest on
+// continuation lines, which begin with kContinuation.
+std::vector<std::vector<size_t>> columnGroups(const pages::Table &table, size_t width);
+inline constexpr const char *kContinuation = "  ";
+
+// A table of labels and values with long values on several rows, broken at blanks and commas where there are some.
+pages::Table withFoldedValues(const pages::Table &table, size_t width);
+
+} // namespace cli

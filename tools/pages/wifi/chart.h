@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// Channel use drawn with letters: readable on any terminal of 80 columns, without colour.
+#pragma once
+
+#include "pages/value.h"
+
+#include <string>
+#include <vector>
+
+namespace pages::wifi {
+
+// One network, or one of the gateway's own radios.
+struct ChartedNetwork {
+    int channel = 0;
+    int width = 20;   // MHz
+    std::string side; // "upper" or "lower": where the secondary channel of 40 MHz at 2.4 GHz lies
+    Value dbm;        // null: an own radio
+    std::string name; // any bytes
+};
+
+// The channels that a network takes, from the first to the last.
+struct ChannelSpan {
+    int first = 0;
+    int last = 0;
+};
+ChannelSpan spanOf(const ChartedNetwork &network);
+
+// A line for each network in its band, own radios first, then by strength; below, how many others use each channel.
+std::string chartOf(std::vector<ChartedNetwork> networks);
+
+} // namespace pages::wifi
