@@ -272,12 +272,10 @@ Entries readGatewayFile(std::string_view text, const std::string &file) {
 }
 
 bool isCapture(std::string_view text) {
-    for (; !text.empty(); text.remove_prefix(std::min(text.find('\n') + 1, text.size()))) {
-        if (text.front() != '#') {
-            return text.starts_with(kCaptureMark);
-        }
+    while (text.starts_with('#')) {
+        text.remove_prefix(std::min(text.find('\n'), text.size() - 1) + 1);
     }
-    return false;
+    return text.starts_with(kCaptureMark);
 }
 
 std::string gatewayLine(const Entry &entry) {

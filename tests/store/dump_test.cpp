@@ -113,6 +113,18 @@ TEST_F(DumpTest, RefusesWhatHoldsNoGateway) {
     }
 }
 
+TEST_F(DumpTest, ReadsAFileThatEndsInAComment) {
+    for (const char *text : {"#", "# a\n# b", "@capture", "# a\n@capture\n# b"}) {
+        const bool capture = std::string_view(text).find('@') != std::string_view::npos;
+        try {
+            EXPECT_TRUE(contentOf(text, "x", FileFormat::Gateway).entries.empty()) << text;
+            EXPECT_FALSE(capture) << text;
+        } catch (const FileError &) {
+            EXPECT_TRUE(capture) << text << ": one without anything in it is not a gateway's";
+        }
+    }
+}
+
 TEST_F(DumpTest, SaysWhyAPageOfAnotherMakersGatewayIsEmpty) {
     take("older", "Parameter,Value\nInternetGatewayDevice.DeviceInfo.ModelName,x\n", "older");
     take("other", "Parameter,Value\nDevice.DeviceInfo.ModelName,x\n", "other");
