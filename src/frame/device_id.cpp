@@ -5,9 +5,9 @@
 #include "frame/lookup.h"
 #include "frame/message.h"
 #include "frame/range.h"
+#include "frame/text.h"
 #include "frame/trace.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <strings.h>
 
@@ -38,7 +38,7 @@ AddressForm classify(const char *identifier) {
 }
 
 bool saysNoHosts(const ParamNode &param) {
-    return sameName(param.name, "HostNumberOfEntries") && atoi(param.value) == 0;
+    return sameName(param.name, "HostNumberOfEntries") && number(param.value) == 0;
 }
 
 // Looks at the host table's own object, once.
@@ -62,7 +62,7 @@ class TableObject {
 };
 
 int instanceNumber(const char *objectName) {
-    return strlen(objectName) > kHostPrefixLength ? atoi(objectName + kHostPrefixLength) : 0;
+    return strlen(objectName) > kHostPrefixLength ? number(objectName + kHostPrefixLength) : 0;
 }
 
 } // namespace

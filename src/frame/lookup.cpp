@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "frame/lookup.h"
 
-#include "frame/name_filter.h"
 #include "frame/range.h"
 #include "frame/text.h"
 #include "frame/trace.h"
@@ -13,18 +12,6 @@ namespace {
 
 void traceMissing(const char *name) {
     traceVola({Unit::FaltoCal, 1357, "zintu_GetParamFromObjUnit"}, "Can't find Param(%s) in Obj\n", name);
-}
-
-// Points the value of the parameter's name to it, unless it has one.
-void takeFirst(const ParamNode &param, std::span<const char *const> names, const char **values) {
-    for (size_t i = 0; i < names.size(); ++i) {
-        if (sameName(param.name, names[i])) {
-            if (!values[i]) {
-                values[i] = param.value;
-            }
-            return;
-        }
-    }
 }
 
 } // namespace
@@ -58,28 +45,34 @@ const char *lastValue(const MsgHeader &answer, const char *name, const char *oth
     return value;
 }
 
-void lookUp(ObjectNode &object, std::span<const char *const> names, const char **values) {
-    memset(values, 0, names.size_bytes());
-    NameFilter filter;
-    for (const char *name : names) {
-        filter.add(name);
-    }
-    for (const ParamNode &param : params(object)) {
-        if (filter.mayHold(param.name)) {
-            takeFirst(param, names, values);
+const char *findValue(const MsgHeader &answer, const char *name) {
+    for (ObjectNode &object : objects(answer)) {
+        if (const char *value = findValue(object, name)) {
+            return value;
         }
     }
-    for (size_t i = 0; i < names.size(); ++i) {
-        if (!values[i]) {
-            traceMissing(names[i]);
-        }
-    }
+    return nullptr;
 }
 
 const char *lookUp(ObjectNode &object, const char *name) {
     const char *value = nullptr;
     zintu_GetParamFromObjUnit(&object, name, &value);
     return value;
+}
+
+const char *lookUp(const MsgHeader &answer, const char *name) {
+    for (ObjectNode &object : objects(answer)) {
+        if (const char *value = lookUp(object, name)) {
+            return value;
+        }
+    }
+    return nullptr;
+}
+
+void lookUp(ObjectNode &object, std::span<const char *const> names, const char **values) {
+    for (size_t i = 0; i < names.size(); ++i) {
+        values[i] = lookUp(object, names[i]);
+    }
 }
 
 } // namespace frame

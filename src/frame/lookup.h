@@ -17,7 +17,8 @@ inline bool sameName(const char *left, const char *right) {
     return *left == *right && strncmp(left, right, kNameLimit) == 0;
 }
 
-// Whether a parameter has a name that the compiler knows: as sameName(), without a call.
+// Whether a parameter has a name that the compiler knows: as sameName(), without a call. With calls the DSL line misses
+// its limit.
 template <size_t Size>
 bool isNamed(const ParamNode &param, const char (&name)[Size]) {
     static_assert(Size <= sizeof(param.name));
@@ -33,11 +34,14 @@ const char *lastValue(ObjectNode &object, const char *name, const char *otherwis
 const char *lastValue(const MsgHeader &answer, const char *name, const char *otherwise = "",
                       const char *objectBegins = "");
 
-// Looks several parameters of one object up in one pass, as that many calls of zintu_GetParamFromObjUnit() would: a
-// name that is missing is traced, its value is nullptr. `values` has room for each of `names`.
-void lookUp(ObjectNode &object, std::span<const char *const> names, const char **values);
+// The first value of a parameter in the objects of an answer, or nullptr.
+const char *findValue(const MsgHeader &answer, const char *name);
 
-// The object's first parameter of that name, or nullptr with a trace.
+// As findValue(), with zintu_GetParamFromObjUnit()'s trace for each object that has no such parameter.
 const char *lookUp(ObjectNode &object, const char *name);
+const char *lookUp(const MsgHeader &answer, const char *name);
+
+// The object's value of each name, or nullptr with a trace. `values` has room for them.
+void lookUp(ObjectNode &object, std::span<const char *const> names, const char **values);
 
 } // namespace frame

@@ -10,10 +10,7 @@ namespace frame {
 // A zeroed header that releases its lists at the end of its scope.
 class Message {
   public:
-    // What happens at the end of the scope to a message whose list was never allocated.
-    enum class Empty : uint8_t { Release, Skip };
-
-    explicit Message(Empty empty = Empty::Release) : empty_(empty) {}
+    Message() = default;
     ~Message() { release(); }
     Message(const Message &) = delete;
     Message &operator=(const Message &) = delete;
@@ -33,14 +30,12 @@ class Message {
 
   private:
     void release() {
-        const bool skip = left_ || (empty_ == Empty::Skip && !header_.objectList);
-        if (!skip) {
+        if (!left_) {
             help_delMsg(&header_, 1);
         }
     }
 
     MsgHeader header_ = {};
-    Empty empty_;
     bool left_ = false;
 };
 

@@ -31,10 +31,6 @@ void copyExact(char *target, size_t room, const char *text) {
     memcpy(target, text, strnlen(text, room));
 }
 
-bool contains(const char *text, std::string_view word) {
-    return strncmp(text, word.data(), word.size()) == 0 || (*text && strstr(text + 1, word.data()));
-}
-
 char *putNumber(char *out, int number) {
     char digits[kNumberSize];
     size_t count = 0;

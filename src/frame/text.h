@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstring>
-#include <string_view>
 #include <strings.h>
 
 namespace frame {
@@ -63,8 +62,10 @@ inline bool beginsWithAnyCase(const char *text, const char *word) {
     return strncasecmp(text, word, strlen(word)) == 0;
 }
 
-// Whether a text contains a word, which mostly stands at its start. What the view shows is terminated like any text.
-bool contains(const char *text, std::string_view word);
+// Whether a text contains a word.
+inline bool contains(const char *text, const char *word) {
+    return strstr(text, word) != nullptr;
+}
 
 // As atoi(), which is slow for what numbers mostly are: up to nine digits.
 int number(const char *text);

@@ -5,42 +5,27 @@
 
 #include <cstdarg>
 
-#pragma GCC diagnostic ignored "-Wformat-nonliteral" // Format has held each message against its values
-
 namespace frame {
 namespace {
 
-void writeTag(Unit unit, int line, const char *function) {
-    ConsoleLine tag;
-    tag.append("[ZINTU VOLA FAL] (");
-    tag.append(kUnitNames[static_cast<int>(unit)]);
-    tag.append(":");
-    tag.append(line);
-    tag.append(", ");
-    tag.append(function);
-    tag.append(") ");
-    writeToConsole(tag);
-}
+constexpr char kUnitNames[][16] = {"FaltoCal", "ZintuNetworkGet", "ZintuMeshGrove", "ZintuWifiUtil"};
 
 } // namespace
 
-void detail::vola(Unit unit, int line, const char *function, const char *format, ...) {
-    writeTag(unit, line, function);
+void traceVola(Place place, const char *message, ...) {
+    PRINT_TO_CONSOLE("[ZINTU VOLA FAL] (%s:%d, %s) ", kUnitNames[static_cast<int>(place.unit)], place.line,
+                     place.function);
     va_list arguments;
-    va_start(arguments, format);
-    printToConsole(format, arguments);
+    va_start(arguments, message);
+    printToConsole(message, arguments);
     va_end(arguments);
 }
 
-void traceVola(const VolaTag &tag) {
-    writeToConsole(tag.text(), tag.length());
-}
-
-void detail::error(int line, const char *function, const char *format, ...) {
-    PRINT_TO_CONSOLE("\n\n\t[%s : %d] ", function, line);
+void traceError(Spot spot, const char *message, ...) {
+    PRINT_TO_CONSOLE("\n\n\t[%s : %d] ", spot.function, spot.line);
     va_list arguments;
-    va_start(arguments, format);
-    printToConsole(format, arguments);
+    va_start(arguments, message);
+    printToConsole(message, arguments);
     va_end(arguments);
 }
 

@@ -2,7 +2,6 @@
 // The enable switch of the roaming mesh.
 #include "frame/lookup.h"
 #include "frame/message.h"
-#include "frame/range.h"
 #include "frame/trace.h"
 
 using namespace frame;
@@ -12,20 +11,12 @@ namespace {
 constexpr char kRoamingMesh[] = "Device.WiFi.X_ZINTU_RoamingMesh.";
 constexpr char kEnable[] = "Enable";
 
-bool isEnabled(const MsgHeader &answer) {
-    for (ObjectNode &object : objects(answer)) {
-        if (const char *enable = findValue(object, kEnable)) {
-            return atob(enable) != 0;
-        }
-    }
-    return false;
-}
-
 // 1 on, 0 off, -1 when the request fails. The message is gone before more is traced.
 int readSwitch() {
     Message message;
     if (faltocal_send_main_multi_obj(message, kRoamingMesh, "get", "get", 1, kEnable) == 0) {
-        return isEnabled(*message) ? 1 : 0;
+        const char *enable = findValue(*message, kEnable);
+        return enable ? atob(enable) : 0;
     }
     traceError({193, "ZINTU_meshgrove_check_is_enabled"},
                "faltocal_send_main_multi_obj function failed with object [%s] param [%s] \n", kRoamingMesh, kEnable);

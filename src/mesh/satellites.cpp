@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The satellites of a mesh master: finding their address, and having settings pushed to them.
+#include "frame/text.h"
 #include "frame/trace.h"
 
 #include <cstdio>
-#include <cstdlib>
+
 #include <unistd.h>
 
 using namespace frame;
@@ -16,7 +17,7 @@ constexpr unsigned kSyncStartSeconds = 5;
 bool hasSatellite() {
     char count[128] = "";
     ZINTU_meshgrove_get_from_shell("gddbc -i -g /runtime/singlesignoninfo/livingslave/ishasrptslave", count);
-    return atoi(count) > 0;
+    return number(count) > 0;
 }
 
 } // namespace

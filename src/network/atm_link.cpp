@@ -5,7 +5,6 @@
 #include "frame/text.h"
 #include "network/request.h"
 
-#include <cstdlib>
 #include <cstring>
 
 using namespace frame;
@@ -33,8 +32,8 @@ void storeCircuit(ZintuWanInfo &info, const char *destination) {
     const char *vpi = strtok_r(pieces, "/", &rest);
     const char *vci = strtok_r(nullptr, "/", &rest);
     if (vpi && vci) {
-        info.nAtmVpi = atoi(vpi);
-        info.nAtmVci = atoi(vci);
+        info.nAtmVpi = number(vpi);
+        info.nAtmVci = number(vci);
     }
 }
 
@@ -45,7 +44,7 @@ int32_t ZintuGet_AtmInfo(ZintuWanInfo *info) {
     Message message;
     int code = getObject(message, "Device.ATM.Link.1.");
     if (code != 0) {
-        return failed(code, kFailure, 1475);
+        return traceFailure(code, kFailure, 1475);
     }
     for (ObjectNode &object : objects(*message)) {
         if (const char *destination = shortValue(object, "DestinationAddress")) {
@@ -55,7 +54,7 @@ int32_t ZintuGet_AtmInfo(ZintuWanInfo *info) {
     message.reset();
     code = getObject(message, "Device.ATM.Link.1.QoS.");
     if (code != 0) {
-        return failed(code, kFailure, 1513);
+        return traceFailure(code, kFailure, 1513);
     }
     for (ObjectNode &object : objects(*message)) {
         if (const char *qosClass = shortValue(object, "QoSClass")) {

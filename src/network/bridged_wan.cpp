@@ -15,16 +15,6 @@ namespace {
 
 constexpr char kInterface[] = "Device.IP.Interface.1.";
 
-// The first value of a parameter in an answer, or nullptr.
-const char *firstValue(const Message &message, const char *name) {
-    for (ObjectNode &object : objects(*message)) {
-        if (const char *value = findValue(object, name)) {
-            return value;
-        }
-    }
-    return nullptr;
-}
-
 void writeFixedValues(uint32_t flags, ZintuWanInfo *info) {
     copyText(info->sOperMode, "bridge");
     copyText(info->sWanIpInterface, kInterface);
@@ -40,10 +30,10 @@ void readInterface(ZintuWanInfo *info) {
     if (getObject(message, kInterface) != 0) {
         return;
     }
-    if (const char *lowerLayers = firstValue(message, "LowerLayers")) {
+    if (const char *lowerLayers = findValue(*message, "LowerLayers")) {
         copyText(info->sLowerLayers, lowerLayers);
     }
-    if (const char *name = firstValue(message, "Name")) {
+    if (const char *name = findValue(*message, "Name")) {
         copyText(info->sName, name);
     }
 }
@@ -55,9 +45,9 @@ void readAddress(ZintuWanInfo *info) {
     const char *mask = nullptr;
     Message message;
     if (getObject(message, "Device.IP.Interface.1.IPv4Address.1.") == 0) {
-        description = firstValue(message, "X_LANTIQ_COM_Description");
-        address = firstValue(message, "IPAddress");
-        mask = firstValue(message, "SubnetMask");
+        description = findValue(*message, "X_LANTIQ_COM_Description");
+        address = findValue(*message, "IPAddress");
+        mask = findValue(*message, "SubnetMask");
     }
     constexpr char kNoAddress[] = "0.0.0.0";
     const bool up =
@@ -71,7 +61,7 @@ void readAddress(ZintuWanInfo *info) {
 // The last qualifying entry wins.
 int readGateway(ZintuWanInfo *info) {
     Message message;
-    const int code = getFiltered(message, kForwardingTable, "Interface", kInterface);
+    const int code = getInstances(message, kForwardingTable, "Interface", kInterface);
     if (code != 0) {
         return code;
     }

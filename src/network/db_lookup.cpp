@@ -37,12 +37,12 @@ Outcome find(const Query &query, char *outObjectName, char *outValue) {
     if (!outObjectName && !outValue) {
         return invalidInput(2061);
     }
-    const int code = getFiltered(message, query.object, query.filterParam, query.filterValue);
+    const int code = getInstances(message, query.object, query.filterParam, query.filterValue);
     if (code == CALTOFAL_NO_MATCH) {
         return {0, false};
     }
     if (code != 0) {
-        failed(code, "faltocal_SendMultiObj is Failure\n", 2084, "zintu_GetValueFromDBInfo");
+        traceFailure(code, "faltocal_SendMultiObj is Failure\n", {2084, "zintu_GetValueFromDBInfo"});
         return kError;
     }
     for (ObjectNode &object : objects(*message)) {

@@ -4,9 +4,9 @@
 #include "frame/range.h"
 #include "frame/text.h"
 #include "frame/trace.h"
-#include "network/field_tables.h"
 #include "network/forwarding.h"
 #include "network/interface_path.h"
+#include "network/pages.h"
 #include "network/request.h"
 
 #include <cstring>
@@ -97,19 +97,16 @@ void storeAddressing(ZintuWanInfo &info, const char *value) {
 
 void readAddress(const Summary &summary) {
     ZintuWanInfo &info = summary.info;
-    Path path;
-    path.append(summary.interface);
-    path.append(".IPv4Address");
+    const Path path("%s%s", summary.interface.c_str(), kWanAddress.object());
     Message message;
     if (getObject(message, path) != 0) {
         return;
     }
     for (ObjectNode &object : objects(*message)) {
+        fill(object, kWanAddress, info);
         for (const ParamNode &param : params(object)) {
             if (isNamed(param, "AddressingType")) {
                 storeAddressing(info, param.value);
-            } else {
-                fill(param, kWanAddress, info);
             }
         }
     }
@@ -120,16 +117,6 @@ const char *triggerWord(const char *trigger) {
         return "ondemand";
     }
     return strcmp(trigger, "manual") == 0 ? "manual" : "always";
-}
-
-void storePpp(Summary &summary, const ParamNode &param) {
-    if (isNamed(param, "ConnectionTrigger")) {
-        copyText(summary.info.sConnectionTrigger, triggerWord(param.value));
-    } else if (isNamed(param, "LowerLayers")) {
-        keepVlan(summary, param.value);
-    } else {
-        fill(param, kPpp, summary.info);
-    }
 }
 
 void readPpp(Summary &summary) {
@@ -144,9 +131,12 @@ void readPpp(Summary &summary) {
         return;
     }
     for (ObjectNode &object : objects(*message)) {
+        fill(object, kPpp, info);
         for (const ParamNode &param : params(object)) {
-            if (*param.value) {
-                storePpp(summary, param);
+            if (*param.value && isNamed(param, "ConnectionTrigger")) {
+                copyText(info.sConnectionTrigger, triggerWord(param.value));
+            } else if (isNamed(param, "LowerLayers")) {
+                keepVlan(summary, param.value);
             }
         }
     }
@@ -161,12 +151,9 @@ int interfaceIndex(const char *path) {
 int readGateway(const Summary &summary) {
     ZintuWanInfo &info = summary.info;
     info.nWanIpIfIndex = interfaceIndex(summary.interface);
-    Path path;
-    path.append(kIpInterface);
-    path.append(info.nWanIpIfIndex);
-    path.append(".");
+    const Path path("%s%d.", kIpInterface, info.nWanIpIfIndex);
     Message message;
-    const int code = getFiltered(message, kForwardingTable, "Interface", path);
+    const int code = getInstances(message, kForwardingTable, "Interface", path);
     if (code != 0) {
         return code;
     }

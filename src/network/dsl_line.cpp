@@ -3,7 +3,7 @@
 #include "frame/lookup.h"
 #include "frame/range.h"
 #include "frame/text.h"
-#include "network/field_tables.h"
+#include "network/pages.h"
 #include "network/request.h"
 
 #include <cstring>
@@ -26,32 +26,19 @@ void storeStatus(const char *value, char (&status)[16]) {
     }
 }
 
-void fillLine(ObjectNode &line, const Fields &fields, ZintuDslLineInfo &info) {
-    for (const ParamNode &param : params(line)) {
-        if (!fields.filter.mayHold(param.name)) {
-            continue;
-        }
-        if (isNamed(param, "Status")) {
-            storeStatus(param.value, info.sStatus);
-        } else {
-            fill(param, fields, info, Empty::Skip);
-        }
-    }
-}
-
-// 0, or -1 with a trace of the caller's line.
-int read(const char *object, const Fields &fields, bool isLine, ZintuDslLineInfo &info, int line = __builtin_LINE(),
-         const char *function = __builtin_FUNCTION()) {
+// As fetch(); "Status" is judged besides.
+int fetchLine(ZintuDslLineInfo &info, const char *failure, Spot spot = Spot()) {
     Message message;
-    const int code = getObject(message, object);
+    const int code = getObject(message, kDslLine.object());
     if (code != 0) {
-        return failed(code, "faltocal_SendMultiObj is Failure \n", line, function);
+        return traceFailure(code, failure, spot);
     }
-    for (ObjectNode &answer : objects(*message)) {
-        if (isLine) {
-            fillLine(answer, fields, info);
-        } else {
-            fill(answer, fields, info, Empty::Skip);
+    for (ObjectNode &line : objects(*message)) {
+        fill(line, kDslLine, info);
+        for (const ParamNode &param : params(line)) {
+            if (isNamed(param, "Status")) {
+                storeStatus(param.value, info.sStatus);
+            }
         }
     }
     return 0;
@@ -60,9 +47,8 @@ int read(const char *object, const Fields &fields, bool isLine, ZintuDslLineInfo
 } // namespace
 
 int32_t ZintuGet_LineInfo(ZintuDslLineInfo *info) {
-    const bool done = read("Device.DSL.Line.1.", Fields(kDslLine).with("Status"), true, *info) == 0 &&
-                      read("Device.DSL.Channel.1.", kDslChannel, false, *info) == 0 &&
-                      read("Device.DSL.Line.1.TestParams.", kDslTestParams, false, *info) == 0 &&
-                      read("Device.DSL.Channel.1.Stats.Total.", kDslTotals, false, *info) == 0;
+    constexpr char kFailure[] = "faltocal_SendMultiObj is Failure \n"; // of all four, whatever they are sent with
+    const bool done = fetchLine(*info, kFailure) == 0 && fetch(kDslChannel, *info, kFailure) == 0 &&
+                      fetch(kDslTestParams, *info, kFailure) == 0 && fetch(kDslTotals, *info, kFailure) == 0;
     return done ? 0 : -1;
 }

@@ -40,7 +40,7 @@ int32_t ZintuGet_DslMode(int32_t modes[10]) {
     Message message;
     const int code = getObject(message, "Device.DSL.X_LANTIQ_COM_Config");
     if (code != 0) {
-        return failed(code, "faltocal_send_main is Failure \n");
+        return traceFailure(code, "faltocal_send_main is Failure \n");
     }
     for (ObjectNode &object : objects(*message)) {
         for (const ParamNode &param : params(object)) {

@@ -52,7 +52,7 @@ int32_t Zintu_isEnabledIptvStb(void) {
     Message message;
     const int code = getObject(message, "Device.X_ZINTU_Multi_Bridge.");
     if (code != 0) {
-        return failed(code, "faltocal_send_main is Failure\n", 1811);
+        return traceFailure(code, "faltocal_send_main is Failure\n", 1811);
     }
     State state;
     for (ObjectNode &object : objects(*message)) {

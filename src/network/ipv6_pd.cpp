@@ -13,7 +13,7 @@ int32_t ZintuGet_IPv6PD(void) {
     Message message;
     const int code = getObject(message, "Device.X_ZINTU_CurrentNetwork");
     if (code != 0) {
-        return failed(code, "faltocal_send_main is Failure\n", 1442);
+        return traceFailure(code, "faltocal_send_main is Failure\n", 1442);
     }
     int32_t enabled = 0;
     for (ObjectNode &object : objects(*message)) {

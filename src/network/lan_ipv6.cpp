@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 // LAN page, IPv6: state, address, DNS, DHCPv6 range, prefix delegation, manual prefix.
+#include "frame/bounded_text.h"
 #include "frame/console.h"
 #include "frame/lookup.h"
 #include "frame/range.h"
 #include "frame/text.h"
 #include "frame/trace.h"
-#include "network/field_tables.h"
+#include "network/pages.h"
 #include "network/request.h"
 
 #include <cstdio>
@@ -53,13 +54,13 @@ void storeManualPrefix(LANv6Info &info, ObjectNode &object) {
 
 // Objects are told apart by what their name contains, in this order. Whether an address was found.
 bool fillFrom(ObjectNode &object, LANv6Info &info) {
-    if (strstr(object.name, "Device.IPv6")) {
+    if (strstr(object.name, kLanIpv6.object())) {
         fill(object, kLanIpv6, info);
     } else if (strstr(object.name, "Device.RouterAdvertisement.InterfaceSetting.1")) {
         storeManualPrefix(info, object);
     } else if (strstr(object.name, "Device.IP.Interface.1.IPv6Address.1")) {
         return storeAddresses(info, object);
-    } else if (strstr(object.name, "Device.DHCPv6.Server.Pool.1")) {
+    } else if (strstr(object.name, kLanPoolV6.object())) {
         fill(object, kLanPoolV6, info);
     } else {
         traceVola({Unit::NetworkGet, 1774, "ZintuGet_LANv6Info"}, "Received unhandled object = %s\n", object.name);
@@ -97,7 +98,7 @@ int request(MsgHeader *message) {
     return 0;
 }
 
-void traceResult(const LANv6Info &info, int line = __builtin_LINE(), const char *function = __builtin_FUNCTION()) {
+void traceResult(const LANv6Info &info, Place place) {
     // Cut before the line's end is added to it.
     const BoundedText<kConsoleSize - 1> values(
         "return pxLANv6Info value : bIPv6Active = %d , sIPv6Address = %s ,  nPrefixLength = %d , "
@@ -109,7 +110,7 @@ void traceResult(const LANv6Info &info, int line = __builtin_LINE(), const char 
         Terminated(info.sDNSv6Secondary).c_str(), Terminated(info.sDomainNamev6).c_str(),
         Terminated(info.sDHCPv6StartIP).c_str(), Terminated(info.sDHCPv6EndIP).c_str(), info.nLeaseTimeSec,
         info.bPDActive, Terminated(info.sManualPrefix).c_str(), info.nManualPrefixLength);
-    traceVola({Unit::NetworkGet, line, function}, "%s\n", values.c_str());
+    traceVola(place, "%s\n", values.c_str());
 }
 
 } // namespace
@@ -128,6 +129,6 @@ int32_t ZintuGet_LANv6Info(LANv6Info *pxLANv6Info) {
     if (!hasAddress) {
         synthesiseAddress(*pxLANv6Info);
     }
-    traceResult(*pxLANv6Info);
+    traceResult(*pxLANv6Info, Unit::NetworkGet);
     return 0;
 }

@@ -35,19 +35,16 @@ bool isInterface(const char *name) {
 
 int32_t ZintuGet_LowerLayers(const char *object, char *lowerLayers) {
     if (!object || !lowerLayers) {
-        traceError({}, "input param is NULL \n");
+        traceError(Spot(), "input param is NULL \n");
         return -1;
     }
     Message message;
-    const int code = getTable(message, object);
+    const int code = getObjectForCode(message, object);
     if (code != 0) {
-        return failed(code, "faltocal_SendMultiObj is Failure \n");
+        return traceFailure(code, "faltocal_SendMultiObj is Failure \n");
     }
-    for (ObjectNode &node : objects(*message)) {
-        if (const char *value = lookUp(node, "LowerLayers")) {
-            copyPadded(lowerLayers, kNameSize, value);
-            return 0;
-        }
+    if (const char *value = lookUp(*message, "LowerLayers")) {
+        copyPadded(lowerLayers, kNameSize, value);
     }
     return 0;
 }
@@ -57,7 +54,7 @@ int32_t ZintuGet_EthWanObjName(char *objName) {
         return -1;
     }
     Message message;
-    if (getFiltered(message, kInterfaceTable, "Alias", "cpe-EthWan-IPIntf-1") != 0) {
+    if (getInstances(message, kInterfaceTable, "Alias", "cpe-EthWan-IPIntf-1") != 0) {
         return -1;
     }
     const char *last = nullptr;

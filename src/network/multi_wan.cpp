@@ -79,7 +79,7 @@ int32_t ZintuGet_MultiWanInfo(ZintuMultiWanInfo *info) {
     Message message;
     const int code = getObject(message, "Device.X_LANTIQ_COM_Multiwan.");
     if (code != 0) {
-        return failed(code, "faltocal_send_main is Failure\n", 1875);
+        return traceFailure(code, "faltocal_send_main is Failure\n", 1875);
     }
     const char *held[HeldCount] = {};
     for (ObjectNode &object : objects(*message)) {

@@ -2,6 +2,7 @@
 // What the router is doing now.
 #include "frame/lookup.h"
 #include "frame/range.h"
+#include "frame/text.h"
 #include "network/request.h"
 
 #include <cstdlib>
@@ -13,12 +14,12 @@ int32_t ZintuGet_OperMode(void) {
     Message message;
     const int code = getObject(message, "Device.X_ZINTU_CurrentNetwork");
     if (code != 0) {
-        return failed(code, "faltocal_send_main is Failure \n");
+        return traceFailure(code, "faltocal_send_main is Failure \n");
     }
     for (ObjectNode &object : objects(*message)) {
         const char *mode = lookUp(object, "OperationMode");
         if (mode && *mode) {
-            return atoi(mode);
+            return number(mode);
         }
     }
     return -1;

@@ -20,12 +20,11 @@ constexpr char kFailure[] = "faltocal_send_main is Failure\n";
 
 // Reads one parameter of one object, the last object that has it winning; false with a trace when the request
 // fails, silently when the value is missing or empty.
-bool readParam(const char *object, const char *param, char (&value)[kSectionSize], int line = __builtin_LINE(),
-               const char *function = __builtin_FUNCTION()) {
+bool readParam(const char *object, const char *param, char (&value)[kSectionSize], Spot spot = Spot()) {
     Message message;
     const int code = getParam(message, object, param);
     if (code != 0) {
-        failed(code, kFailure, line, function);
+        traceFailure(code, kFailure, spot);
         return false;
     }
     const char *last = nullptr;
@@ -61,12 +60,12 @@ int32_t ZintuGet_UciSectionByConnMode(const char *connMode, char *uciSection) {
     if (!connMode || !uciSection || !*connMode) {
         return -1;
     }
-    const int code = getFiltered(message, "Device.X_LANTIQ_COM_NwHardware.WANConnection", "ConnMode", connMode);
+    const int code = getInstances(message, "Device.X_LANTIQ_COM_NwHardware.WANConnection", "ConnMode", connMode);
     if (code == CALTOFAL_NO_MATCH) {
         return -1;
     }
     if (code != 0) {
-        return failed(code, "faltocal_SendMultiObj is Failure\n");
+        return traceFailure(code, "faltocal_SendMultiObj is Failure\n");
     }
     for (ObjectNode &object : objects(*message)) {
         const char *mode = lookUp(object, "ConnMode");
@@ -95,7 +94,7 @@ int32_t ZintuGet_UciSectionOfDefGw(char *uciSection) {
     Message message;
     const int code = getObject(message, "Device.X_LANTIQ_COM_NwHardware.WANConnection.");
     if (code != 0) {
-        return failed(code, kFailure);
+        return traceFailure(code, kFailure);
     }
     const char *section = sectionOfConnection(message, name);
     if (!section) {

@@ -97,7 +97,7 @@ void takeServers(Message &message, const InterfacePath &interface, Selection sel
 // Whether a DHCPv4 client of the interface gave servers.
 bool takeReceivedServers(const InterfacePath &interface, char *dns1, char *dns2) {
     Message message;
-    if (getTable(message, "Device.DHCPv4.Client.") != 0) {
+    if (getObjectForCode(message, "Device.DHCPv4.Client.") != 0) {
         return false;
     }
     for (ObjectNode &client : objects(*message)) {
@@ -120,12 +120,12 @@ int32_t ZintuGet_WanDns(const char *ipInterface, char *dns1, char *dns2) {
         return 0;
     }
     Message message;
-    const int code = getTable(message, kServerTable);
+    const int code = getObjectForCode(message, kServerTable);
     if (code == CALTOFAL_ABSENT_OBJECT) {
         return 0;
     }
     if (code != 0) {
-        return failed(code, "faltocal_SendMultiObj is Failure \n");
+        return traceFailure(code, "faltocal_SendMultiObj is Failure \n");
     }
     ServerPair servers(dns1, dns2);
     takeServers(message, interface, enabledServer, servers);
@@ -138,14 +138,14 @@ int32_t ZintuGet_WanStaticDns(const char *ipInterface, int32_t *dnsAuto, char *d
     }
     const InterfacePath interface(ipInterface);
     Message message;
-    const int code = getTable(message, kServerTable);
+    const int code = getObjectForCode(message, kServerTable);
     if (code == CALTOFAL_ABSENT_OBJECT) {
         traceVola(Unit::NetworkGet, "no exist (%s)\n", kServerTable);
         *dnsAuto = 1;
         return 0;
     }
     if (code != 0) {
-        return failed(code, "faltocal_SendMultiObj is Failure \n");
+        return traceFailure(code, "faltocal_SendMultiObj is Failure \n");
     }
     ServerPair servers(dns1, dns2);
     takeServers(message, interface, staticServer, servers);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The Linux name of the current WAN interface.
 #include "frame/lookup.h"
-#include "frame/range.h"
 #include "frame/text.h"
 #include "frame/trace.h"
 #include "network/request.h"
@@ -24,18 +23,11 @@ int32_t readName(char *ifName) {
         traceVola({Unit::NetworkGet, 2035, kFunction}, "ZintuGet_DefGw is Failure \n");
         return -1;
     }
-    const int code =
-        faltocal_SendMultiObj(1, CALTOFAL_LIST_LEAF, CALTOFAL_OWNER_HOST, message, interface, "get", "get", 1, "Name");
+    const int code = getParamForCode(message, interface, "Name");
     if (code != 0) {
-        return failed(code, "faltocal_SendMultiObj is Failure \n", 2018, kFunction);
+        return traceFailure(code, "faltocal_SendMultiObj is Failure \n", {2018, kFunction});
     }
-    const char *name = nullptr;
-    for (ObjectNode &object : objects(*message)) {
-        name = lookUp(object, "Name");
-        if (name) {
-            break;
-        }
-    }
+    const char *name = lookUp(*message, "Name");
     if (!name || !*name) {
         traceVola({Unit::NetworkGet, 2031, kFunction}, "Can't find WanIfName\n");
         return -1;

@@ -13,18 +13,6 @@ using namespace network;
 
 namespace {
 
-// Calls `store` with each value of a parameter in an answer, in order.
-template <size_t Size, class Store>
-void forEachValue(const Message &message, const char (&name)[Size], Store store) {
-    for (ObjectNode &object : objects(*message)) {
-        for (const ParamNode &param : params(object)) {
-            if (isNamed(param, name)) {
-                store(param.value);
-            }
-        }
-    }
-}
-
 struct TypeRow {
     char part[12];
     char type[8];
@@ -43,50 +31,60 @@ const char *typeOf(const char *value) {
     return row->type;
 }
 
-// A full field has no terminator: one character more than its width is too long.
-template <size_t Size>
-void storeAddress(char (&field)[Size], const char *value) {
-    copyWhole(field, Size + 1, value);
-}
-
 void readEnable(ZintuWanInfo *info) {
     Message message;
-    if (getObject(message, "Device.IPv6.") == 0) {
-        forEachValue(message, "Enable",
-                     [info](const char *value) { info->bIpv6Enable = contains(value, "true") ? 1 : 0; });
+    if (getObject(message, "Device.IPv6.") != 0) {
+        return;
+    }
+    for (ObjectNode &object : objects(*message)) {
+        for (const ParamNode &param : params(object)) {
+            if (isNamed(param, "Enable")) {
+                info->bIpv6Enable = contains(param.value, "true") ? 1 : 0;
+            }
+        }
     }
 }
 
 void readType(ZintuWanInfo *info) {
     Message message;
-    if (getObject(message, "Device.X_ZINTU_CurrentNetwork") == 0) {
-        forEachValue(message, "WanIpv6Type", [info](const char *value) {
-            if (*value) {
-                copyText(info->sIpv6Type, typeOf(value));
+    if (getObject(message, "Device.X_ZINTU_CurrentNetwork") != 0) {
+        return;
+    }
+    for (ObjectNode &object : objects(*message)) {
+        for (const ParamNode &param : params(object)) {
+            if (isNamed(param, "WanIpv6Type") && *param.value) {
+                copyText(info->sIpv6Type, typeOf(param.value));
             }
-        });
+        }
+    }
+}
+
+// Stores each value of a parameter. A full field has no terminator: one character more than its width is too long.
+void storeAddresses(const Message &message, const char *name, char (&field)[46]) {
+    for (ObjectNode &object : objects(*message)) {
+        for (const ParamNode &param : params(object)) {
+            if (sameName(param.name, name)) {
+                copyWhole(field, sizeof(field) + 1, param.value);
+            }
+        }
     }
 }
 
 void readAddress(ZintuWanInfo *info) {
     // An interface path that ends in a dot gives a path with two.
-    Path path;
-    path.append(Terminated(info->sWanIpInterface));
-    path.append(".IPv6Address.1");
+    const Path path("%s.IPv6Address.1", Terminated(info->sWanIpInterface).c_str());
     Message message;
     if (getObject(message, path) == 0) {
-        forEachValue(message, "IPAddress", [info](const char *value) { storeAddress(info->sIpv6Address, value); });
+        storeAddresses(message, "IPAddress", info->sIpv6Address);
     }
 }
 
 int readNextHop(ZintuWanInfo *info) {
-    Path path;
-    path.append("Device.Routing.Router.1.IPv6Forwarding.");
-    path.append(info->nWanIpIfIndex);
+    const Path path("Device.Routing.Router.1.IPv6Forwarding.%d", info->nWanIpIfIndex);
     Message message;
     const int code = getObject(message, path);
     if (code == 0) {
-        forEachValue(message, "NextHop", [info](const char *value) { storeAddress(info->sIpv6NextHop, value); });
+        storeAddresses(message, "NextHop", info->sIpv6NextHop);
     }
     message.leave(); // this message stays unreleased, whatever its result
     return code;

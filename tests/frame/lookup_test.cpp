@@ -19,7 +19,7 @@ class Lookup : public LibraryTest {
     }
     ObjectNode &first() { return *frame::objects(*message).begin(); }
 
-    frame::Message message{frame::Message::Empty::Skip};
+    frame::Message message;
     void TearDown() override {
         message.reset();
         LibraryTest::TearDown();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "frame/field_table.h"
+#include "frame/page.h"
 
 #include "frame/range.h"
 #include "frame/text.h"
@@ -42,8 +42,8 @@ void storeNumber(char *target, Number number) {
 
 } // namespace
 
-const Field *findField(const Fields &fields, const char *name) {
-    return search(fields.rows, name);
+const Field *findField(const PageHead &page, const char *name) {
+    return search(page.fields(), name);
 }
 
 void storeField(const Field &field, const char *value, void *record, size_t recordSize) {
@@ -70,22 +70,15 @@ void storeField(const Field &field, const char *value, void *record, size_t reco
     }
 }
 
-void storeParam(const ParamNode &param, const Fields &fields, void *record, size_t recordSize, Empty empty) {
-    const Field *field = search(fields.rows, param.name);
-    if (field && (*param.value || empty == Empty::Store)) {
-        storeField(*field, param.value, record, recordSize);
-    }
-}
-
-void fillRecord(ObjectNode &object, const Fields &fields, void *record, size_t recordSize, Empty empty) {
-    const auto [rows, filter] = fields; // a copy that no store into the record can change
+void fillRecord(ObjectNode &object, const PageHead &page, void *record) {
+    const NameFilter filter = page.filter; // a copy that no store into the record can change
     for (const ParamNode &param : params(object)) {
         if (!filter.mayHold(param.name)) {
             continue;
         }
-        const Field *field = search(rows, param.name);
-        if (field && (*param.value || empty == Empty::Store)) {
-            storeField(*field, param.value, record, recordSize);
+        const Field *field = search(page.fields(), param.name);
+        if (field && (*param.value || page.empty == Empty::Store)) {
+            storeField(*field, param.value, record, page.recordSize);
         }
     }
 }

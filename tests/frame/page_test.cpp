@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "frame/field_table.h"
+#include "frame/page.h"
+#include "network/pages.h"
 #include "platform.h"
-
-#include "../../src/network/field_tables.h"
 
 #include <set>
 
@@ -21,15 +20,16 @@ struct Record {
     char last[4];
 };
 
-constexpr Field kFields[] = {
-    FIELD(Record, text, "Text"),
-    FIELD_BY(Record, padded, "Padded", Rule::Padded),
-    FIELD_BY(Record, whole, "Whole", Rule::Whole),
-    FIELD_BY(Record, overrunning, "Overrunning", Rule::Overrunning),
-    FIELD(Record, number, "Number"),
-    FIELD(Record, flag, "Flag"),
-    FIELD_BY(Record, last, "Last", Rule::Overrunning),
-};
+constexpr auto kPage = page<Record>("Device.X.", Empty::Store,
+                                    {
+                                        FIELD(Record, text, "Text"),
+                                        FIELD_BY(Record, padded, "Padded", Rule::Padded),
+                                        FIELD_BY(Record, whole, "Whole", Rule::Whole),
+                                        FIELD_BY(Record, overrunning, "Overrunning", Rule::Overrunning),
+                                        FIELD(Record, number, "Number"),
+                                        FIELD(Record, flag, "Flag"),
+                                        FIELD_BY(Record, last, "Last", Rule::Overrunning),
+                                    });
 
 struct RuleRow {
     const char *name, *value;
@@ -37,7 +37,7 @@ struct RuleRow {
     std::string bytes; // what the field and what lies behind it become; '#' is untouched
 };
 
-TEST(FieldTable, Rules) {
+TEST(Pages, Rules) {
     const std::string nul(1, '\0');
     const RuleRow rows[] = {
         {"Text", "abc", 0, "abc" + nul + "####"},
@@ -59,7 +59,7 @@ TEST(FieldTable, Rules) {
     for (const RuleRow &row : rows) {
         Record record;
         memset(&record, '#', sizeof(record));
-        if (const Field *field = findField(kFields, row.name)) {
+        if (const Field *field = findField(kPage.head, row.name)) {
             storeField(*field, row.value, &record, sizeof(record));
         }
         const size_t length = std::min(row.bytes.size(), sizeof(record) - row.offset);
@@ -68,45 +68,26 @@ TEST(FieldTable, Rules) {
     }
     for (const auto &[value, number] : {std::pair{"-12", -12}, {"7x", 7}, {"x", 0}, {"", 0}}) {
         Record record = {};
-        storeField(*findField(kFields, "Number"), value, &record, sizeof(record));
+        storeField(*findField(kPage.head, "Number"), value, &record, sizeof(record));
         EXPECT_EQ(number, record.number);
     }
 }
 
-struct Table {
-    const char *name;
-    std::span<const Field> fields;
-    size_t recordSize;
-};
-
 // Every row of every page: inside its record, on a field of its own, under a name of its own.
-TEST(FieldTable, RowsOfAllPages) {
-    using namespace network;
-    const Table tables[] = {
-        {"kDefaultGateway", kDefaultGateway, sizeof(ZintuWanInfo)},
-        {"kWanAddress", kWanAddress, sizeof(ZintuWanInfo)},
-        {"kPpp", kPpp, sizeof(ZintuWanInfo)},
-        {"kDslLine", kDslLine, sizeof(ZintuDslLineInfo)},
-        {"kDslChannel", kDslChannel, sizeof(ZintuDslLineInfo)},
-        {"kDslTestParams", kDslTestParams, sizeof(ZintuDslLineInfo)},
-        {"kDslTotals", kDslTotals, sizeof(ZintuDslLineInfo)},
-        {"kLanAddress", kLanAddress, sizeof(LANv4Info)},
-        {"kLanPool", kLanPool, sizeof(LANv4Info)},
-        {"kLanEthernet", kLanEthernet, sizeof(LANv4Info)},
-        {"kLanIpv6", kLanIpv6, sizeof(LANv6Info)},
-        {"kLanPoolV6", kLanPoolV6, sizeof(LANv6Info)},
-    };
-    for (const Table &table : tables) {
-        SCOPED_TRACE(table.name);
+TEST(Pages, RowsOfAllPages) {
+    for (const PageHead *page : network::kPages) {
+        SCOPED_TRACE(page->object());
         std::set<std::string> names;
         std::set<uint16_t> offsets;
-        for (const Field &field : table.fields) {
+        for (const Field &field : page->fields()) {
             EXPECT_TRUE(names.insert(field.name).second) << field.name;
             EXPECT_TRUE(offsets.insert(field.offset).second) << field.name;
-            EXPECT_LE(field.offset + field.size, table.recordSize) << field.name;
-            EXPECT_EQ(&field, findField(table.fields, field.name));
+            EXPECT_LE(field.offset + field.size, page->recordSize) << field.name;
+            EXPECT_EQ(&field, findField(*page, field.name));
         }
+        EXPECT_FALSE(names.empty());
     }
+    EXPECT_STREQ("Device.DSL.Line.1.", network::kDslLine.head.object());
 }
 
 } // namespace
