@@ -16,35 +16,19 @@ std::string anyText(fuzz::Bytes &bytes, const std::vector<std::string> &words, s
     return choice == 255 ? std::string(room - 1, text.empty() ? 'x' : text.front()) : text;
 }
 
+// Objects of the answer that reaches every parameter, with some of their own parameters or strange ones.
 test::Reply answer(fuzz::Bytes &bytes) {
-    static const std::vector<std::string> objects = {"Device.IP.Interface.3",
-                                                     "Device.IP.Interface.3.IPv4Address.1",
-                                                     "Device.IP.Interface.3.IPv6Address.1",
-                                                     "Device.IP.Interface.3.IPv6Prefix.1",
-                                                     "Device.PPP.Interface.1",
-                                                     "Device.PPP.Interface.1.PPPoE",
-                                                     "Device.Ethernet.VLANTermination.1",
-                                                     "Device.Ethernet.Interface.1",
-                                                     "Device.Hosts.Host.3",
-                                                     "Device.DHCPv4.Server.Pool.1",
-                                                     "Device.DHCPv6.Client.1",
-                                                     "Device.Bridging.Bridge.2.Port.1",
-                                                     "Device.DNS.Client.Server.1",
-                                                     "Device.Routing.Router.1.IPv4Forwarding.1",
-                                                     "Device.ATM.Link.1",
-                                                     "Device.WiFi.SSID.1",
-                                                     "Device.WiFi.Radio.1.X_LANTIQ_COM_Vendor",
-                                                     "Device.WiFi.EndPoint.1",
-                                                     ""};
-    static const test::Reply rich = test::richAnswer();
+    static const std::vector<test::Object> &known = test::richAnswer().objects;
     test::Reply reply{static_cast<int8_t>(bytes.byte() < 240 ? 0 : bytes.byte())};
     for (int count = bytes.byte() % 5; count > 0; --count) {
-        test::Object object = {anyText(bytes, objects, 256), {}};
+        const uint8_t choice = bytes.byte();
+        const test::Object &like = known[choice % known.size()];
+        test::Object object = {choice < 240 ? like.name : anyText(bytes, {""}, 256), {}};
         for (int params = bytes.byte() % 8; params > 0; --params) {
             const uint8_t row = bytes.byte();
-            const auto &known = rich.objects.front().params;
-            test::Param param = row < known.size() ? known[row] : test::Param{anyText(bytes, {}, 256), ""};
-            if (row >= known.size() || bytes.byte() % 2 == 0) {
+            test::Param param =
+                row < 240 ? like.params[row % like.params.size()] : test::Param{anyText(bytes, {}, 256), ""};
+            if (row >= 240 || bytes.byte() % 2 == 0) {
                 param.value = anyText(bytes, {"", "1", "true", "Device.IP.Interface.3", "fe80::1"}, PARAM_VALUE_SIZE);
             }
             object.params.push_back(param);

@@ -12,7 +12,7 @@ import subprocess
 import sys
 
 DEEP = 8192
-READ_ONLY_LIMIT = 64 * 1024
+READ_ONLY_LIMIT = 64000
 ALIGNMENT = 32  # of an array
 POINTER_ARRAYS = ("DEF_DSL_MODE", "ZINTU_DEF_IP_INTERFACE")
 

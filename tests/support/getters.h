@@ -2,6 +2,7 @@
 // Every exported function that asks the configuration layer, as rows: for tests that treat them all alike.
 #pragma once
 
+#include "answers.h"
 #include "platform.h"
 
 #include <functional>
@@ -18,8 +19,5 @@ struct Getter {
 };
 
 const std::vector<Getter> &getters();
-
-// One answer that suits them all: an object with every parameter that the pages read.
-Reply richAnswer();
 
 } // namespace test

@@ -3,6 +3,9 @@
 // crashes, nothing is left behind, nothing is written past a record, and the lock is free.
 #include "device.h"
 #include "getters.h"
+#include "network/pages.h"
+
+#include <algorithm>
 
 using namespace test;
 
@@ -63,18 +66,65 @@ TEST_P(Torture, EachRequestFailsOnce) {
     }
 }
 
-TEST_P(Torture, LongestValues) {
-    restart();
+// As many bytes as the layer can hold: a value goes on with "x".
+void lengthen(Param &param) {
+    *param.value += std::string(PARAM_VALUE_SIZE - 1 - param.value->size(), 'x');
+}
+
+TEST_P(Torture, LongestNamesAndValues) {
     Reply longest = richAnswer();
     for (Object &object : longest.objects) {
         object.name += std::string(255 - object.name.size(), '1');
-        for (Param &param : object.params) {
-            *param.value += std::string(PARAM_VALUE_SIZE - 1 - param.value->size(), 'x');
-        }
+        std::for_each(object.params.begin(), object.params.end(), lengthen);
     }
+    restart();
     platform().otherwise(longest);
     GetParam().run();
-    expectReleased("longest values");
+    expectReleased("longest names and values");
+}
+
+// One parameter of each object at a time: the others keep the values that lead to it.
+TEST_P(Torture, LongestValueOfEachParameter) {
+    size_t most = 0;
+    for (const Object &object : richAnswer().objects) {
+        most = std::max(most, object.params.size());
+    }
+    for (size_t i = 0; i < most; ++i) {
+        Reply answer = richAnswer();
+        for (Object &object : answer.objects) {
+            if (i < object.params.size()) {
+                lengthen(object.params[i]);
+            }
+        }
+        restart();
+        platform().otherwise(answer);
+        GetParam().run();
+        expectReleased("longest parameter " + std::to_string(i));
+    }
+}
+
+// What the tests above stand on: the answer fills every row of every page.
+template <class Record>
+void expectFilled(int32_t (*getter)(Record *), const std::vector<const frame::PageHead *> &pages) {
+    resetPlatform();
+    platform().otherwise(richAnswer());
+    Record record = {};
+    getter(&record);
+    for (const frame::PageHead *page : pages) {
+        for (const frame::Field &field : page->fields()) {
+            const std::string bytes(reinterpret_cast<const char *>(&record) + field.offset, field.size);
+            EXPECT_NE(std::string::npos, bytes.find_first_not_of('\0')) << page->object() << ' ' << field.name;
+        }
+    }
+}
+
+TEST(RichAnswer, FillsEveryRow) {
+    using namespace network;
+    expectFilled(ZintuGet_DefWanInfo, {&kDefaultGateway.head, &kWanAddress.head, &kPpp.head});
+    expectFilled(ZintuGet_LineInfo, {&kDslLine.head, &kDslChannel.head, &kDslTestParams.head, &kDslTotals.head});
+    expectFilled(ZintuGet_LANv4Info, {&kLanAddress.head, &kLanPool.head, &kLanEthernet.head});
+    expectFilled(ZintuGet_LANv6Info, {&kLanIpv6.head, &kLanPoolV6.head});
+    EXPECT_EQ(3U + 4U + 3U + 2U, std::size(kPages));
 }
 
 } // namespace
