@@ -11,7 +11,7 @@ PAGES = {
         "find Device.X_LANTIQ_COM_NwHardware.WANConnection ConnMode ETH UciSection",
         "get Device.WiFi.Radio.1 Channel Enable Device.IP.Interface.3 Name",
         "get Device.WiFi.Radio.1.Channel", "get Device.WiFi.Radio.1 Channel --defaults",
-        "get Device.Ethernet.Interface.1 --leaf", "get Device.WiFi --names", "get Device.Hosts.Host.*.HostName",
+        "get Device.Ethernet.Interface.1 --leaf", "get Device.WiFi --names", "get Device.WiFi.Radio.1 Channel Status --types", "get Device.Hosts.Host.*.HostName",
         "get Device.Hosts.Host.* HostName Active", "get Device.Hosts.Host --where Active=1 HostName --values",
         "get Device.PPP.Interface.1 Password", "get Device.PPP.Interface.1 Password --show-secrets",
         "get Device.Hosts.Host --where Active=false HostName IPAddress",

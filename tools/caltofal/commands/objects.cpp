@@ -14,6 +14,7 @@ Show prepareGet(const Arguments &given) {
                          .leaf = given.given("--leaf"),
                          .defaults = given.given("--defaults"),
                          .names = given.given("--names"),
+                         .types = given.given("--types"),
                          .valuesOnly = given.given("--values")};
     for (const std::string &word : given.words("--where")) {
         query.where.push_back(assignment(word));
@@ -58,6 +59,7 @@ const Command kCommands[] = {
       {"--leaf", Take::Flag, "The object's own parameters, nothing below it"},
       {"--defaults", Take::Flag, "The values after a factory reset"},
       {"--names", Take::Flag, "What stands directly below: parameters, and objects with a dot behind"},
+      {"--types", Take::Flag, "Type, access and default of the parameters; the sandbox tells them"},
       {"--values", Take::Flag, "The values alone, one a line"}}},
     {"set",
      "Change parameters, all or nothing",

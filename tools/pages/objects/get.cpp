@@ -2,6 +2,8 @@
 #include "pages/objects/pages.h"
 
 #include "pages/failure.h"
+#include "pages/layer/definition.h"
+#include "pages/layer/request_log.h"
 #include "pages/objects/select.h"
 #include "pages/page.h"
 #include "pages/secret.h"
@@ -109,6 +111,22 @@ Report namesBelow(const Query &query) {
     return result;
 }
 
+Report typesOf(const std::vector<Object> &objects) {
+    if (!isSandbox()) {
+        throw Failure(Category::Failed, "--types: this device's configuration layer does not tell them");
+    }
+    Report result{.json = Value::object()};
+    for (const Object &object : objects) {
+        for (const Parameter &parameter : object.parameters) {
+            const std::string path = withDot(object.name) + parameter.name;
+            const std::string definition = definitionOf(path);
+            result.json[withoutDot(object.name)][parameter.name] = definition;
+            result.table.rows.push_back({{path}, {readable(definition)}});
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 void check(const Query &query) {
@@ -128,6 +146,9 @@ Report read(const Query &query) {
     check(query);
     if (query.names) {
         return namesBelow(query);
+    }
+    if (query.types) {
+        return typesOf(answer(query));
     }
     Report result{.json = Value::object()};
     for (const Object &object : answer(query)) {

@@ -17,6 +17,7 @@ struct Query {
     bool leaf = false;                 // its own parameters, nothing below it
     bool defaults = false;             // the values after a factory reset
     bool names = false;                // what stands directly below, without values
+    bool types = false;                // type, access and default instead of values, where the layer tells them
     bool valuesOnly = false;           // a line each, in the raw text
 };
 
