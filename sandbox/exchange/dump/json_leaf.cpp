@@ -58,6 +58,13 @@ bool isTypedPair(const JsonNode &node) {
     return node.kind == JsonNode::Kind::Array && node.children.size() == 2 && isXsd(node.children[1].node);
 }
 
+// What a database's export wraps in its own types: {"$date": ...}, {"$numberLong": ...}.
+const JsonNode &unwrapped(const JsonNode &node) {
+    const bool wrapper =
+        node.kind == JsonNode::Kind::Object && node.children.size() == 1 && node.children[0].name.starts_with('$');
+    return wrapper ? unwrapped(node.children[0].node) : node;
+}
+
 void readScalar(const JsonNode &node, DumpRow &row) {
     if (node.kind == JsonNode::Kind::Null) {
         return;
@@ -68,7 +75,8 @@ void readScalar(const JsonNode &node, DumpRow &row) {
                                                      : DumpRow::Form::Text;
 }
 
-void readValue(const JsonNode &node, DumpRow &row) {
+void readValue(const JsonNode &wrapper, DumpRow &row) {
+    const JsonNode &node = unwrapped(wrapper);
     if (isTypedPair(node)) {
         readScalar(node.children[0].node, row);
         row.type = node.children[1].node.text;
@@ -120,7 +128,7 @@ bool isLeaf(const JsonNode &node) {
         return true;
     }
     const JsonNode *value = memberOf(node, Role::Value);
-    return value && (value->isScalar() || value->kind == JsonNode::Kind::Array);
+    return value && (unwrapped(*value).isScalar() || value->kind == JsonNode::Kind::Array);
 }
 
 void readLeaf(const JsonNode &node, DumpRow &row) {
