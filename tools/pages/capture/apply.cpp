@@ -6,6 +6,7 @@
 #include "pages/secret.h"
 #include "pages/text.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <sstream>
@@ -13,7 +14,8 @@
 namespace pages::capture {
 namespace {
 
-constexpr const char *kReplaced = "its secret was replaced in the file";
+constexpr size_t kNamed = 5;
+constexpr const char *kReplaced = "a secret that was replaced in the file";
 
 std::vector<Line> linesOf(const std::string &text) {
     std::vector<Line> lines;
@@ -33,16 +35,23 @@ std::vector<Line> linesOf(const std::string &text) {
     return lines;
 }
 
-// By "OBJECT.NAME", all below the objects that the lines begin with. An absent one holds nothing.
+// "Device.WiFi." of "Device.WiFi.Radio.1."; of a root itself, the root.
+std::string branchOf(const std::string &object) {
+    const size_t second = object.find('.', object.find('.') + 1);
+    return second == std::string::npos ? object : object.substr(0, second + 1);
+}
+
+// By "OBJECT.NAME", all below the branches that the lines are in. An absent one holds nothing.
 std::map<std::string, std::string> valuesNow(const std::vector<Line> &lines) {
-    std::set<std::string> roots;
+    std::set<std::string> branches;
     for (const Line &line : lines) {
-        roots.insert(line.object.substr(0, line.object.find('.', line.object.find('.') + 1) + 1));
+        branches.insert(branchOf(line.object));
     }
     std::map<std::string, std::string> values;
-    for (const std::string &root : roots) {
+    for (const std::string &branch : branches) {
+        const bool root = branch.find('.') + 1 == branch.size();
         try {
-            for (const Object &object : get({{root}}, Reading::Whole)) {
+            for (const Object &object : get({{branch}}, root ? Reading::Leaf : Reading::Whole)) {
                 for (const Parameter &parameter : object.parameters) {
                     values.emplace(std::string(withoutDot(object.name)) + "." + parameter.name, parameter.value);
                 }
@@ -85,7 +94,7 @@ class Comparison {
         const std::string path = line.object + line.parameter;
         const auto found = now_.find(path);
         if (found == now_.end()) {
-            skip(path, "the gateway does not have it");
+            skip(path, "unknown to the gateway");
             return;
         }
         const std::string &from = found->second;
@@ -94,7 +103,7 @@ class Comparison {
             return;
         }
         if (isReplaced(line) || isReadOnly(line)) {
-            skip(path, isReplaced(line) ? kReplaced : "it is read-only");
+            skip(path, isReplaced(line) ? kReplaced : "read-only");
             return;
         }
         if (changes.empty() || changes.back().name != line.object) {
@@ -115,19 +124,18 @@ class Comparison {
     std::map<std::string, std::string> now_;
 };
 
-// Secrets that were replaced go without saying which.
+// A line for each reason, with the first parameters that it holds for; JSON names them all.
 std::vector<std::string> notesOf(const Value &skipped) {
-    std::vector<std::string> notes;
-    size_t secrets = 0;
+    std::map<std::string, std::vector<std::string>> byReason;
     for (const Value &item : skipped.items()) {
-        if (item["reason"].text() == kReplaced) {
-            ++secrets;
-        } else {
-            notes.push_back("skipped " + item["parameter"].text() + ": " + item["reason"].text());
-        }
+        byReason[item["reason"].text()].push_back(item["parameter"].text());
     }
-    if (secrets != 0) {
-        notes.push_back("skipped secrets that were replaced in the file: " + std::to_string(secrets));
+    std::vector<std::string> notes;
+    for (auto &[reason, parameters] : byReason) {
+        const size_t all = parameters.size();
+        parameters.resize(std::min(all, kNamed));
+        notes.push_back("skipped, " + reason + ": " + joined(parameters) +
+                        (all > kNamed ? " and " + std::to_string(all - kNamed) + " more" : ""));
     }
     return notes;
 }
