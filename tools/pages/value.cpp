@@ -57,6 +57,30 @@ Value Value::object(std::initializer_list<Member> members) {
     return result;
 }
 
+bool Value::isNull() const {
+    return std::holds_alternative<std::monostate>(data_);
+}
+
+bool Value::isFlag() const {
+    return std::holds_alternative<bool>(data_);
+}
+
+bool Value::isFraction() const {
+    return std::holds_alternative<double>(data_);
+}
+
+bool Value::isText() const {
+    return std::holds_alternative<std::string>(data_);
+}
+
+bool Value::isList() const {
+    return std::holds_alternative<List>(data_);
+}
+
+bool Value::isObject() const {
+    return std::holds_alternative<Object>(data_);
+}
+
 bool Value::isNumber() const {
     return std::holds_alternative<int64_t>(data_) || std::holds_alternative<uint64_t>(data_) || isFraction();
 }

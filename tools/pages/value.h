@@ -37,13 +37,13 @@ class Value {
     static Value list();
     static Value object(std::initializer_list<Member> members = {});
 
-    [[nodiscard]] bool isNull() const { return std::holds_alternative<std::monostate>(data_); }
-    [[nodiscard]] bool isFlag() const { return std::holds_alternative<bool>(data_); }
-    [[nodiscard]] bool isFraction() const { return std::holds_alternative<double>(data_); }
+    [[nodiscard]] bool isNull() const;
+    [[nodiscard]] bool isFlag() const;
+    [[nodiscard]] bool isFraction() const;
     [[nodiscard]] bool isNumber() const;
-    [[nodiscard]] bool isText() const { return std::holds_alternative<std::string>(data_); }
-    [[nodiscard]] bool isList() const { return std::holds_alternative<List>(data_); }
-    [[nodiscard]] bool isObject() const { return std::holds_alternative<Object>(data_); }
+    [[nodiscard]] bool isText() const;
+    [[nodiscard]] bool isList() const;
+    [[nodiscard]] bool isObject() const;
 
     // What the value holds; false, 0, "" or nothing where it is of another kind.
     [[nodiscard]] bool flag() const;

@@ -134,6 +134,7 @@ EXPORTED int system(const char *command) {
 }
 
 // The library only reads from tools.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): libc's names are reserved ones
 EXPORTED FILE *popen(const char *command, const char *type) {
     if (type[0] != 'r') {
         errno = EINVAL;
@@ -142,6 +143,7 @@ EXPORTED FILE *popen(const char *command, const char *type) {
     return pages::openShell(command);
 }
 
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name)
 EXPORTED int pclose(FILE *file) {
     const pid_t child = pages::forget(file);
     fclose(file);
