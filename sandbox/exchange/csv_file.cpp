@@ -14,6 +14,8 @@ namespace {
 
 // Records that are looked at to tell whose file it is.
 constexpr size_t kLooked = 50;
+// Lines that somebody would write by hand.
+constexpr ptrdiff_t kByHand = 100;
 
 // A column: how its field goes into an entry and comes out of it. The path comes first.
 struct Column {
@@ -113,6 +115,11 @@ bool isOwnCsv(std::string_view text) {
     CsvReader reader(text, file, {',', true});
     CsvRecord names;
     if (!reader.next(names) || !std::all_of(names.begin(), names.end(), findColumn)) {
+        return false;
+    }
+    // What an export writes has all columns, what a person writes is short.
+    const bool whole = std::find(names.begin(), names.end(), "default") != names.end();
+    if (!whole && std::count(text.begin(), text.end(), '\n') > kByHand) {
         return false;
     }
     // Other programs may have the same headings, but words of their own below.

@@ -113,6 +113,15 @@ TEST_F(DumpTest, RefusesWhatHoldsNoGateway) {
     }
 }
 
+TEST_F(DumpTest, TakesALongFileWithOwnHeadingsForADump) {
+    std::string text = "path,value\nDevice.A.{i}.B,x\n";
+    EXPECT_THROW(take("short", text, "x.csv"), FileError);
+    for (int i = 0; i < 100; ++i) {
+        text += "Device.A.C" + std::to_string(i) + ",x\n";
+    }
+    EXPECT_TRUE(take("long", text, "x.csv").starts_with("took in 100 of 101 values\n")) << "one odd path is left out";
+}
+
 TEST_F(DumpTest, ReadsAFileThatEndsInAComment) {
     for (const char *text : {"#", "# a\n# b", "@capture", "# a\n@capture\n# b"}) {
         const bool capture = std::string_view(text).find('@') != std::string_view::npos;
