@@ -41,7 +41,7 @@ bool checkAndCount(const Page &page) {
         return false;
     }
     const Cost cost = costOf(page, page.library);
-    printf("%s %d %llu %llu %.2f %.2f %d\n", page.name.c_str(), kRuns, static_cast<unsigned long long>(cost.calls),
+    printf("%s %d %llu %llu %.3f %.2f %d\n", page.name.c_str(), kRuns, static_cast<unsigned long long>(cost.calls),
            static_cast<unsigned long long>(cost.nodes), page.totalLimit, page.ownLimit,
            page.growth == Growth::None ? 0 : 1);
     countBoth(page, "plain");

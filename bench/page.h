@@ -21,8 +21,8 @@ struct Page {
     size_t recordSize; // both sides fill a zeroed record of this size and answer the same code
     Side library;
     Side floor;
-    double totalLimit = 1.05; // the most that the library may cost where the floor costs 1, the platform included
-    double ownLimit = 2.5;    // the most that its own work may be where the floor's is 1; 0 here or above: no limit
+    double totalLimit = 0; // the most that the library may cost where the floor costs 1, the platform included
+    double ownLimit = 0;   // the most that its own work may be where the floor's is 1; 0 here or above: no limit
 };
 
 // All pages, in the order of their names.
@@ -58,6 +58,13 @@ Page page(const std::string &name, std::string_view answers, Growth growth) {
             .recordSize = sizeof(Record),
             .library = detail::call<Library>,
             .floor = detail::call<Floor>};
+}
+
+// The page with its limits: what was reached plus 2 %, or less.
+inline Page limited(Page page, double total, double own) {
+    page.totalLimit = total;
+    page.ownLimit = own;
+    return page;
 }
 
 // Runs one side once on a zeroed record of the page's size, then takes back what it left unreleased. Its code.

@@ -356,7 +356,8 @@ int floorPage(ZintuWanInfo *info) {
     return code;
 }
 
-const bench::AddPage defaultWan(bench::page<ZintuGet_DefWanInfo, floorPage>("default-wan", kAnswers,
-                                                                            bench::Growth::Params));
+const bench::AddPage defaultWan(bench::limited(bench::page<ZintuGet_DefWanInfo, floorPage>("default-wan", kAnswers,
+                                                                                           bench::Growth::Params),
+                                               1.043, 1.53));
 
 } // namespace

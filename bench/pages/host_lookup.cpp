@@ -139,8 +139,10 @@ int floorPage(Record *record) {
 
 template <int Hosts>
 bench::Page hostLookup() {
-    return bench::page<libraryPage<Hosts>, floorPage<Hosts>>("host-lookup-" + std::to_string(Hosts), hosts(Hosts),
-                                                             Hosts == 50 ? bench::Growth::Params : bench::Growth::None);
+    return bench::limited(
+        bench::page<libraryPage<Hosts>, floorPage<Hosts>>("host-lookup-" + std::to_string(Hosts), hosts(Hosts),
+                                                          Hosts == 50 ? bench::Growth::Params : bench::Growth::None),
+        1.046, 1.98);
 }
 
 const bench::AddPage few(hostLookup<50>());
