@@ -86,6 +86,9 @@ FileFormat recognised(std::string_view text, const std::string &file) {
     if (isOwnCsv(text) || isCsvDump(text)) {
         return FileFormat::Csv;
     }
+    if (first != std::string_view::npos && (text[first] == '<' || text.find('\0') != std::string_view::npos)) {
+        throw FileError(file, "is neither a gateway file nor CSV nor JSON, but XML, HTML or no text at all");
+    }
     for (const FormatRow &row : kFormats) {
         if (file.ends_with(row.suffix)) {
             return row.format;

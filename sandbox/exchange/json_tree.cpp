@@ -97,12 +97,15 @@ class Builder : public nlohmann::json_sax<json> {
         const std::string_view word = wordBefore(place_);
         const auto later = std::count(word.data() + word.size(), place_.at, '\n');
         throw FileError(file_, place_.line - static_cast<size_t>(later),
-                        place_.atEnd() ? "the JSON ends in the middle" : "not JSON at " + quotedShort(word));
+                        !place_.atEnd() ? "not JSON at " + quotedShort(word)
+                        : isBlank()     ? "the file is empty"
+                                        : "the JSON ends in the middle");
     }
 
     JsonNode root;
 
   private:
+    bool isBlank() const { return place_.text.find_first_not_of(" \t\r\n") == std::string_view::npos; }
     bool add(JsonNode::Kind kind, std::string text) {
         JsonNode &node = open_.empty() ? root : newChild();
         name_.clear();

@@ -89,7 +89,7 @@ TEST_F(DumpTest, KeepsTheTypesOfAGatewayThatExists) {
 
 TEST_F(DumpTest, RefusesWhatHoldsNoGateway) {
     struct Case {
-        const char *text;
+        std::string_view text;
         const char *message;
     };
     const Case cases[] = {
@@ -97,6 +97,11 @@ TEST_F(DumpTest, RefusesWhatHoldsNoGateway) {
         {"{\"a\": {\"b\": \"c\"}}", "x.json: no objects or values of a data model found in it"},
         {"{\n\"Device.A.B\": tru\n}", "x.json:2: not JSON at \"tru\""},
         {"{\n\"Device.A.B\": \"x\"", "x.json:2: the JSON ends in the middle"},
+        {"\xef\xbb\xbf \n", "x.json:1: the file is empty"},
+        {"<html><body>log in first</body></html>",
+         "x.json: is neither a gateway file nor CSV nor JSON, but XML, HTML or no text at all"},
+        {std::string_view("\x1f\x8b\x08\0\x1d", 5),
+         "x.json: is neither a gateway file nor CSV nor JSON, but XML, HTML or no text at all"},
         {"{\"Device.A.B\": null, \"definitions\": {}}",
          "x.json:1: a value is text, a number, a flag or {\"hex\": \"digits\"}"},
         {"{\"Device.A.B\": \"x\",\n\"definitions\": {\"Device.A.B\": \"unsignedInt\"}}",
@@ -104,7 +109,7 @@ TEST_F(DumpTest, RefusesWhatHoldsNoGateway) {
     };
     for (const Case &row : cases) {
         try {
-            take("none", row.text, "x.json");
+            take("none", std::string(row.text), "x.json");
             ADD_FAILURE() << row.text;
         } catch (const FileError &error) {
             EXPECT_EQ(std::string(error.what()), row.message);
