@@ -63,6 +63,8 @@ FAILURES = [
     ("home", "get Device.WiFi.Radio.1 Channel Foo", 10, None,
      "Device.WiFi.Radio.1.Foo: no object here has that parameter"),
     ("home", "get Device.WiFi.Radio.1.Foo", 10, -202, "Device.WiFi.Radio.1.Foo: no such object"),
+    ("home", "get Device.WiFi.Radio.1.Channel Device.WiFi.Radio.1.Foo", 10, -202, "Device.WiFi.Radio.1.Foo: no such object"),
+    ("home", "set InternetGatewayDevice.Time.Enable=1", 10, -202, "InternetGatewayDevice.Time: no such object"),
     ("home", "get Device.Hosts.Host --where HostName=zzz", 10, -208,
      'Device.Hosts.Host: no instance has HostName = "zzz"'),
     ("home", "get Device.Hosts.Host --where Active=true Foo", 10, None,

@@ -11,7 +11,7 @@ using namespace pages;
 namespace {
 
 bool beginsObject(const std::string &word) {
-    return word.starts_with("Device.");
+    return word.starts_with("Device.") || word.starts_with("InternetGatewayDevice.");
 }
 
 // "Device.WiFi.Radio.1.Channel=6": the object of it and the rest.

@@ -46,21 +46,20 @@ void checkAnswered(const Object &asked, const std::vector<Object> &answer) {
 }
 
 // "OBJECT.PARAM" as it stands in this command's own output; empty when the last word can be no parameter.
-std::vector<Object> asParameter(const std::vector<Object> &objects) {
-    const std::string &path = objects.front().name;
+std::vector<Object> asParameter(const Object &object) {
+    const std::string &path = object.name;
     const size_t dot = path.rfind('.');
-    if (objects.size() != 1 || !objects.front().parameters.empty() || dot == std::string::npos ||
-        dot + 1 == path.size()) {
+    if (!object.parameters.empty() || dot == std::string::npos || dot + 1 == path.size()) {
         return {};
     }
     return {{path.substr(0, dot), {{path.substr(dot + 1)}}}};
 }
 
-std::vector<Object> getObjects(const std::vector<Object> &objects, Reading reading) {
+std::vector<Object> getObject(const Object &object, Reading reading) {
     try {
-        return get(objects, reading);
+        return get({object}, reading);
     } catch (const Failure &failure) {
-        const std::vector<Object> other = asParameter(objects);
+        const std::vector<Object> other = asParameter(object);
         if (failure.category() != Category::Absent || other.empty()) {
             throw;
         }
@@ -75,6 +74,23 @@ std::vector<Object> getObjects(const std::vector<Object> &objects, Reading readi
         }
         return found;
     }
+}
+
+// In one message; where that fails, one by one, as some may be parameters.
+std::vector<Object> getObjects(const std::vector<Object> &objects, Reading reading) {
+    try {
+        return objects.size() == 1 ? getObject(objects.front(), reading) : get(objects, reading);
+    } catch (const Failure &failure) {
+        if (failure.category() != Category::Absent || objects.size() == 1) {
+            throw;
+        }
+    }
+    std::vector<Object> result;
+    for (const Object &object : objects) {
+        const std::vector<Object> some = getObject(object, reading);
+        result.insert(result.end(), some.begin(), some.end());
+    }
+    return result;
 }
 
 std::vector<Object> answer(const Query &query) {
