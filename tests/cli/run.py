@@ -307,6 +307,12 @@ class Lacking(unittest.TestCase):
         self.without("Device.DSL")
         self.assertRegex(self.run_tool("status").out.decode(), r"\nDSL +none\n")
 
+    def test_status_of_a_gateway_without_any_page_tells_the_reason(self):
+        self.without("Device")
+        result = self.run_tool("status")
+        self.assertEqual((result.code, result.out.count(b" none\n"), result.err),
+                         (0, 8, "caltofal: request on Device.X_ZINTU_CurrentNetwork failed: fault 1 hit Device\n"))
+
     def test_a_cut_list_of_name_servers_is_told(self):
         path = "Device.DNS.Client.Server.1"
         self.assertEqual(self.run_tool("set", path, "DNSServer=198.51.100.53,198.51.100.54,198.51.100.55").code, 0)

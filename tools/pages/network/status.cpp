@@ -51,12 +51,14 @@ Report status() {
             result.table.rows.push_back({{glance.title, Style::Heading}, {summary(page, glance)}});
         } catch (const Failure &failure) {
             result.json[glance.key] = errorValue(failure);
-            const Cell words = failure.category() == Category::Absent
-                                   ? Cell{"none"}
-                                   : Cell{std::string("(") + failure.what() + ")", Style::Bad};
+            const bool absent = failure.category() == Category::Absent;
+            const Cell words = absent ? Cell{"none"} : Cell{std::string("(") + failure.what() + ")", Style::Bad};
             result.table.rows.push_back({{glance.title, Style::Heading}, words});
             first = first ? first : failure;
-            ++failed;
+            failed += absent ? 0 : 1;
+            if (absent && &glance == std::begin(kGlances)) { // what every gateway has that the library is made for
+                result.notes.emplace_back(failure.what());
+            }
         }
     }
     if (failed == std::size(kGlances)) {
