@@ -62,3 +62,12 @@ function(caltofal_precompile target)
     target_precompile_headers(${target} PRIVATE ${ARGN})
   endif()
 endfunction()
+# Likewise those of the standard library that most files of a large target include.
+function(caltofal_precompile_std target)
+  if(CMAKE_CROSSCOMPILING)
+    return()
+  endif()
+  caltofal_precompile(${target} <algorithm> <functional> <memory> <optional> <span> <string> <string_view> <vector>)
+  # GCC 12, which then knows no longer that they are the system's, sees short texts overrun in their concatenations.
+  target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+endfunction()
