@@ -105,7 +105,7 @@ class Box(unittest.TestCase):
                 ("wifi wps start", signal.SIGINT, "interrupted: WPS cancelled"),
                 ("mesh sync -g mesh", signal.SIGTERM, "interrupted: the satellites take the settings all the same")):
             with self.subTest(words):
-                result = interrupted(tool, words.split(), number, 2.5, self.folder, **SLOW)
+                result = interrupted(tool, words.split(), number, 4, self.folder, **SLOW)
                 self.assertEqual((result.code, result.out, result.err), (128 + number, b"", f"caltofal: {message}\n"))
         for delay in (0.03, 0.06, 0.1, 0.15, 0.2, 0.3, 0.4, 1.5):
             for number, send in ((signal.SIGINT, os.killpg), (signal.SIGHUP, os.kill), (signal.SIGQUIT, os.kill)):
@@ -114,7 +114,7 @@ class Box(unittest.TestCase):
                                          send=send)
                     self.assertEqual((result.code, result.out), (128 + number, b""), result.err)
                     self.assertEqual(json.loads(result.err)["error"]["exit"], 128 + number)
-        on_terminal = interrupted(tool, ["wifi", "scan", "wlan0"], signal.SIGINT, 2, self.folder, terminal=True,
+        on_terminal = interrupted(tool, ["wifi", "scan", "wlan0"], signal.SIGINT, b": 1 s", self.folder, terminal=True,
                                   **SLOW)
         self.assertRegex(on_terminal.err, r"scanning on wlan0: 1 s\r\x1b\[Kcaltofal: interrupted: [^\r]+\r\n$")
 

@@ -7,6 +7,7 @@ import re
 import signal
 import struct
 import subprocess
+import sys
 import tempfile
 import termios
 import time
@@ -71,16 +72,32 @@ class Tool:
         return text
 
 
+def watches(pid, number):
+    """Whether a process minds a signal: before that, on a busy machine, it is still being loaded. The tool handles it,
+    holds it while it becomes the box, or has become it."""
+    with open(f"/proc/{pid}/status", encoding="ascii") as status:
+        fields = dict(line.rstrip("\n").split(":\t", 1) for line in status)
+    minded = int(fields["SigCgt"], 16) | int(fields["SigBlk"], 16)
+    return minded >> (number - 1) & 1 or fields["Name"] not in (sys.executable.rsplit("/", 1)[-1], "python3", "caltofal")
+
+
 def interrupted(tool, words, number, delay, folder, terminal=False, send=os.killpg, **variables):
-    """The tool with a signal after a while: to its process group as a terminal's key sends it, or with os.kill."""
+    """The tool with a signal once it has watched signals for a while, or after a text on its terminal: to its process
+    group as a terminal's key sends it, or with os.kill."""
     ours, theirs = pty.openpty() if terminal else os.pipe()
     with subprocess.Popen([tool.executable, *words], env={**tool.environment(folder), **variables}, stdin=subprocess.DEVNULL,
                           stdout=subprocess.PIPE, stderr=theirs, start_new_session=True) as process:
         os.close(theirs)
-        time.sleep(delay)
+        while not watches(process.pid, number):
+            time.sleep(0.005)
+        err = b""
+        if isinstance(delay, bytes):
+            while delay not in err:
+                err += os.read(ours, 65536)
+        else:
+            time.sleep(delay)
         send(process.pid, number)
         out = process.communicate(timeout=30)[0]
-        err = b""
         try:
             while chunk := os.read(ours, 65536):
                 err += chunk
