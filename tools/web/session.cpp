@@ -5,6 +5,7 @@
 #include "token.h"
 
 #include <string_view>
+#include <strings.h>
 
 namespace web {
 namespace {
@@ -30,8 +31,9 @@ Session::Session(int port)
     : token_(randomToken()), cookie_(randomToken()), cookieName_("caltofal-" + std::to_string(port)) {}
 
 void Session::check(const Request &request) {
-    if (request.authorization.starts_with(kBearer)) {
-        checkToken(request.authorization.substr(kBearer.size()), request);
+    const std::string &given = request.authorization;
+    if (given.size() >= kBearer.size() && strncasecmp(given.data(), kBearer.data(), kBearer.size()) == 0) {
+        checkToken(given.substr(kBearer.size()), request);
         return;
     }
     // A cookie from another start is no try: a page that stayed open asks with it for hours.
@@ -50,11 +52,12 @@ std::string Session::open(const std::string &token, const Request &request) {
 }
 
 void Session::checkToken(const std::string &token, const Request &request) {
-    if (tries_.mustWait(request.address)) {
+    const bool right = isSameSecret(token, token_);
+    if (tries_.mustWait(request.address, right)) {
         throw Refusal(Status::Unavailable, "too many wrong tokens: wait a little",
                       {{"Retry-After", std::to_string(WrongTries::kWait.count())}});
     }
-    if (!isSameSecret(token, token_)) {
+    if (!right) {
         tries_.noteWrong(request.address);
         throw Refusal(Status::Unauthorized, "the token is not the one that caltofal-web printed at its start",
                       {{"WWW-Authenticate", "Bearer"}});

@@ -10,10 +10,18 @@ constexpr size_t kAddressesMax = 256;
 
 } // namespace
 
-bool WrongTries::mustWait(const std::string &address) {
+bool WrongTries::mustWait(const std::string &address, bool right) {
     const std::lock_guard lock(mutex_);
     const auto found = counts_.find(address);
-    return found != counts_.end() && found->second.wrong >= kFree && steady_clock::now() < found->second.last + kWait;
+    const auto now = steady_clock::now();
+    if (found == counts_.end() || found->second.wrong < kFree || now >= found->second.last + kWait) {
+        return false;
+    }
+    std::optional<steady_clock::time_point> &refused = found->second.rightRefused;
+    if (right && !refused) {
+        refused = now;
+    }
+    return !right || now < *refused + kWait;
 }
 
 void WrongTries::noteWrong(const std::string &address) {
@@ -26,7 +34,10 @@ void WrongTries::noteWrong(const std::string &address) {
 
 void WrongTries::noteRight(const std::string &address) {
     const std::lock_guard lock(mutex_);
-    counts_.erase(address);
+    const auto found = counts_.find(address);
+    if (found != counts_.end()) {
+        found->second.wrong = 0;
+    }
 }
 
 // Many addresses cannot fill the memory: the one that was silent longest goes.

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <string>
 
 namespace web {
@@ -15,8 +16,9 @@ class WrongTries {
     static constexpr int kFree = 5; // wrong tries without a wait
     static constexpr std::chrono::seconds kWait{10};
 
-    // Whether an address has to wait: no try of it is looked at until then, be it right.
-    bool mustWait(const std::string &address);
+    // Whether a try has to wait. The right token waits as well, so that a guess tells nothing, but once only, from its
+    // first refusal on: who goes on guessing from the owner's address cannot keep the owner out.
+    bool mustWait(const std::string &address, bool right);
 
     void noteWrong(const std::string &address);
     void noteRight(const std::string &address);
@@ -25,6 +27,7 @@ class WrongTries {
     struct Count {
         int wrong = 0;
         std::chrono::steady_clock::time_point last;
+        std::optional<std::chrono::steady_clock::time_point> rightRefused; // for the first time
     };
     void forgetOld();
 
