@@ -48,6 +48,10 @@ class Refusals(unittest.TestCase):
             ("GET", "/api", {}, 404),
             ("GET", "/api/v2/wan", {}, 404),
             ("GET", "/api/v1/wan?nonsense=1", {}, 400),
+            ("GET", "/api/v1/wan?" + "&" * 64, {}, 400),
+            ("GET", "/api/v1/wan?" + "a&" * 7000, {}, 400),  # more than the HTTP library has room for
+            ("GET", "/api/v1/objects?path=Device.WiFi&dry_run=1", {}, 400),
+            ("PATCH", "/api/v1/objects?where=a%3Db", {}, 400),
             ("GET", "/api/v1/wan%zz", {}, 400),
             ("GET", "/api/v1/wan%00", {}, 400),
             ("PUT", "/api/v1/wan", {}, 405),
@@ -139,6 +143,7 @@ class Refusals(unittest.TestCase):
         cases = [  # bytes, status
             (head + "X: " + "y" * 17000 + "\r\n\r\n", b"431"),
             (head + "".join(f"X{i}: y\r\n" for i in range(9000)) + "\r\n", b"431"),
+            (head + "Cookie: " + "; ".join(f"c{i}=v" for i in range(180)) + "\r\n\r\n", b"431"),
             (head + f"Host: {self.server.host}\r\n\r\n", b"400"),
             (head + "Content-Length: 99999999999999999999\r\n\r\n", b"4"),
             (head + "Content-Length: -1\r\n\r\n", b"400"),

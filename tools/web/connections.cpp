@@ -13,8 +13,8 @@ namespace {
 using std::chrono::steady_clock;
 
 // To a connection that the server gives up; what does not go out at once is lost.
-void sayGoodbye(int descriptor, Status status, const std::string &message, std::vector<Header> headers = {}) {
-    const std::string bytes = closingBytes(errorResponse(Refusal(status, message, std::move(headers))));
+void sayGoodbye(int descriptor, const Refusal &refusal) {
+    const std::string bytes = closingBytes(errorResponse(refusal));
     static_cast<void>(send(descriptor, bytes.data(), bytes.size(), MSG_DONTWAIT | MSG_NOSIGNAL));
 }
 
@@ -29,9 +29,9 @@ bool hasBytes(int descriptor) {
 void expire(Connections::Entry &entry) {
     using State = Connections::State;
     if (entry.state == State::Receiving || (entry.state == State::Idle && entry.fresh)) {
-        sayGoodbye(entry.descriptor, Status::RequestTimeout,
-                   "the request did not come whole within " + std::to_string(Connections::kRequestTime.count()) +
-                       " seconds");
+        sayGoodbye(entry.descriptor,
+                   Refusal(Status::RequestTimeout, "the request did not come whole within " +
+                                                       std::to_string(Connections::kRequestTime.count()) + " seconds"));
     }
     shutdown(entry.descriptor, SHUT_RDWR);
     entry.deadline = steady_clock::time_point::max();
@@ -58,11 +58,9 @@ Connections::Handle Connections::opened(int descriptor, std::string address) {
     entries_.push_front({descriptor, std::move(address), State::Idle, true, steady_clock::now() + kRequestTime});
     const auto entry = entries_.begin();
     if (refused) {
-        entry->state = State::Refused;
-        entry->deadline = steady_clock::now() + std::chrono::seconds(1);
-        sayGoodbye(descriptor, Status::Unavailable,
-                   full ? "too many connections" : "too many connections from this address", {{"Retry-After", "1"}});
-        shutdown(descriptor, SHUT_WR); // what the client still sends is read, so that it sees the answer
+        dismiss(*entry,
+                Refusal(Status::Unavailable, full ? "too many connections" : "too many connections from this address",
+                        {{"Retry-After", "1"}}));
     } else {
         ++ofAddress;
         ++served_;
@@ -74,15 +72,36 @@ Connections::Handle Connections::opened(int descriptor, std::string address) {
 void Connections::closed(Handle entry) {
     const std::lock_guard lock(mutex_);
     if (entry->state != State::Refused) {
-        --served_;
-        const auto ofAddress = perAddress_.find(entry->address);
-        if (--ofAddress->second == 0) {
-            perAddress_.erase(ofAddress);
-        }
+        giveUp(*entry);
     }
     entries_.erase(entry);
     if (ending_) {
         changed_.notify_all();
+    }
+}
+
+void Connections::refuse(Handle entry, const Refusal &refusal) {
+    const std::lock_guard lock(mutex_);
+    if (entry->state != State::Refused) {
+        giveUp(*entry);
+        dismiss(*entry, refusal);
+        wakeBefore(entry->deadline);
+    }
+}
+
+void Connections::dismiss(Entry &entry, const Refusal &refusal) {
+    entry.state = State::Refused;
+    entry.deadline = steady_clock::now() + std::chrono::seconds(1);
+    sayGoodbye(entry.descriptor, refusal);
+    shutdown(entry.descriptor, SHUT_WR); // what the client still sends is read, so that it sees the answer
+}
+
+// Its place is free for another one.
+void Connections::giveUp(const Entry &entry) {
+    --served_;
+    const auto ofAddress = perAddress_.find(entry.address);
+    if (--ofAddress->second == 0) {
+        perAddress_.erase(ofAddress);
     }
 }
 

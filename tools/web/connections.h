@@ -2,6 +2,8 @@
 // The connections that are open: how many there may be, and for how long each may keep the server waiting.
 #pragma once
 
+#include "refusal.h"
+
 #include <chrono>
 #include <condition_variable>
 #include <list>
@@ -44,6 +46,8 @@ class Connections {
     void closed(Handle entry);
 
     void become(Handle entry, State state);
+    // Tells it why and has it closed; it is to be given no other answer.
+    void refuse(Handle entry, const Refusal &refusal);
     bool isRefused(Handle entry);
 
     // Has those that are idle closed, the others when they have their answers; waits for that, at most until then.
@@ -51,7 +55,9 @@ class Connections {
 
   private:
     void watch();
-    // Both with the mutex held.
+    // All with the mutex held.
+    void dismiss(Entry &entry, const Refusal &refusal);
+    void giveUp(const Entry &entry);
     void wakeBefore(std::chrono::steady_clock::time_point deadline);
     std::chrono::steady_clock::time_point expireAll(std::chrono::steady_clock::time_point now);
 

@@ -69,6 +69,11 @@ void Exchange::takeHeaders(MHD_Connection *from, const char *method) {
     request.method = method;
     MHD_get_connection_values(from, MHD_HEADER_KIND, takeHeader, &headers);
     awaitsContinue_ = headers.awaitsContinue;
+    constexpr auto kItems = static_cast<MHD_ValueKind>(MHD_HEADER_KIND | MHD_COOKIE_KIND);
+    if (static_cast<size_t>(MHD_get_connection_values(from, kItems, nullptr, nullptr)) > kHeaderItemsMax) {
+        throw Refusal(Status::HeadersTooLarge,
+                      "there are more than " + std::to_string(kHeaderItemsMax) + " headers and cookies");
+    }
     if (headers.bytes + request.target.size() > kHeadersMax) {
         throw Refusal(Status::HeadersTooLarge, "the headers are larger than " + std::to_string(kHeadersMax) + " bytes");
     }

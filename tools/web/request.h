@@ -8,9 +8,10 @@
 
 namespace web {
 
-constexpr size_t kBodyMax = 65536;    // bytes of a body
-constexpr size_t kHeadersMax = 16384; // bytes of the request line and all headers
-constexpr int kDepthMax = 16;         // of JSON in a body
+constexpr size_t kBodyMax = 65536;      // bytes of a body
+constexpr size_t kHeadersMax = 16384;   // bytes of the request line and all headers
+constexpr size_t kHeaderItemsMax = 128; // headers and cookies
+constexpr int kDepthMax = 16;           // of JSON in a body
 
 struct Request {
     std::string method;

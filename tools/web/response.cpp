@@ -10,7 +10,16 @@ namespace web {
 namespace {
 
 const char *phraseOf(Status status) {
-    return status == Status::RequestTimeout ? "Request Timeout" : "Service Unavailable";
+    switch (status) {
+    case Status::BadRequest:
+        return "Bad Request";
+    case Status::RequestTimeout:
+        return "Request Timeout";
+    case Status::HeadersTooLarge:
+        return "Request Header Fields Too Large";
+    default:
+        return "Service Unavailable";
+    }
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "exchange.h"
 #include "listener.h"
+#include "target.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -15,7 +16,7 @@ namespace {
 
 constexpr unsigned kThreads = 4;
 constexpr unsigned kSpareConnections = 32;  // to tell those beyond the limit so
-constexpr size_t kConnectionMemory = 24576; // kHeadersMax, and what the HTTP library keeps beside it
+constexpr size_t kConnectionMemory = 32768; // kHeadersMax, some 70 bytes for each item of it, and the answer's headers
 constexpr unsigned kSilenceMax = 75;        // seconds; the connections' own deadlines come first
 
 MHD_Response *makeResponse(const Response &response) {
@@ -76,7 +77,13 @@ struct Callbacks {
         exchange->connection = handleOf(connection);
         exchange->request.target = target;
         exchange->request.address = exchange->connection->address;
-        static_cast<Server *>(self)->connections_.become(exchange->connection, Connections::State::Receiving);
+        Connections &connections = static_cast<Server *>(self)->connections_;
+        connections.become(exchange->connection, Connections::State::Receiving);
+        try {
+            checkQuerySize(exchange->request.target); // the HTTP library has no room for many and would not answer
+        } catch (const Refusal &refusal) {
+            connections.refuse(exchange->connection, refusal);
+        }
         return exchange.release();
     }
 
@@ -96,6 +103,9 @@ struct Callbacks {
         if (!exchange.headersTaken) {
             exchange.headersTaken = true;
             takeHeaders(server, connection, exchange, method);
+            if (server.connections_.isRefused(exchange.connection)) {
+                return MHD_NO;
+            }
             return exchange.response && exchange.skipsBody() ? finish(server, connection, exchange) : MHD_YES;
         }
         if (*size > 0) {
@@ -112,6 +122,9 @@ struct Callbacks {
             server.gate_.check(exchange.request);
         } catch (const Refusal &refusal) {
             exchange.response = errorResponse(refusal);
+            if (refusal.status() == Status::HeadersTooLarge) { // the HTTP library may have no room for an answer
+                server.connections_.refuse(exchange.connection, refusal);
+            }
         }
     }
 

@@ -3,6 +3,8 @@
 
 #include "refusal.h"
 
+#include <algorithm>
+
 namespace web {
 namespace {
 
@@ -55,10 +57,17 @@ std::vector<QueryItem> parseQuery(std::string_view text) {
 
 } // namespace
 
+void checkQuerySize(std::string_view target) {
+    if (static_cast<size_t>(std::count(target.begin(), target.end(), '&')) >= kQueryItemsMax) {
+        throw Refusal(Status::BadRequest, "the URL's query has more than " + std::to_string(kQueryItemsMax) + " items");
+    }
+}
+
 Target parseTarget(std::string_view text) {
     if (!text.starts_with('/')) {
         throw Refusal(Status::BadRequest, "the URL is not a path");
     }
+    checkQuerySize(text);
     const size_t mark = text.find('?');
     return {decoded(text.substr(0, mark), false),
             mark == std::string_view::npos ? std::vector<QueryItem>() : parseQuery(text.substr(mark + 1))};

@@ -17,6 +17,11 @@ struct Target {
     std::vector<QueryItem> query;
 };
 
+constexpr size_t kQueryItemsMax = 64;
+
+// Throws Refusal (400) for a query of more items than that. parseTarget() does it as well.
+void checkQuerySize(std::string_view target);
+
 // Decodes percent signs, in the query also '+'. Throws Refusal (400) for a target that is not a path, a percent sign
 // without two digits, or a NUL.
 Target parseTarget(std::string_view text);
