@@ -120,6 +120,7 @@ class Refusals(unittest.TestCase):
             ("{", 400, "JSON"),
             ("[1]", 400, "object"),
             ('{"Device.WiFi.Radio.1.": {"Channel": 1, "Channel": 2}}', 400, "twice"),
+            ('{"Device.WiFi.Radio.1.": {"Channel": 1}, "Device.WiFi.Radio.1": {"Channel": 2}}', 400, "twice"),
             ('{"Device.WiFi.Radio.1.": {"Channel": null}}', 400, "Channel"),
             ('{"Device.WiFi.Radio.1.": {"Channel": "a\\u0000b"}}', 400, "NUL"),
             ('{"Device.WiFi.Radio.1.": {"Channel": "\xff"}}'.encode("latin-1"), 400, "JSON"),

@@ -9,8 +9,10 @@
 #include "pages/mesh/pages.h"
 #include "pages/network/pages.h"
 #include "pages/objects/pages.h"
+#include "pages/text.h"
 #include "pages/wifi/pages.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace web {
@@ -49,10 +51,16 @@ Report showMesh(const Call & /*call*/) {
     return pages::mesh::status();
 }
 
+// An object twice is read once: each costs the memory of all that is below it.
+bool isAsked(const pages::objects::Query &query, const std::string &path) {
+    return std::any_of(query.objects.begin(), query.objects.end(),
+                       [&](const auto &object) { return pages::withoutDot(object.name) == pages::withoutDot(path); });
+}
+
 Report showObjects(const Call &call) {
     pages::objects::Query query{.objects = {}, .where = {}, .leaf = call.flag("leaf")};
     for (const QueryItem &item : call.query) {
-        if (item.name == "path") {
+        if (item.name == "path" && !isAsked(query, item.value)) {
             query.objects.push_back({pages::checkedPath(item.value)});
         } else if (item.name == "where") {
             query.where.push_back(pages::assignment(item.value));

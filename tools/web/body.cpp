@@ -62,6 +62,12 @@ std::vector<pages::Object> objectsOf(const Value &object) {
         if (!path.starts_with("Device.") || !isName(path) || !values.isObject()) {
             throw Usage(pages::quoted(path) + R"(: give {"Device.OBJECT.": {"NAME": VALUE}})");
         }
+        const bool twice = std::any_of(result.begin(), result.end(), [&path = path](const pages::Object &other) {
+            return pages::withoutDot(other.name) == pages::withoutDot(path);
+        });
+        if (twice) {
+            throw Usage(pages::quoted(path) + " is given twice");
+        }
         result.push_back({pages::checkedPath(path), parametersOf(values)});
     }
     if (result.empty()) {

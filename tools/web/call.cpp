@@ -11,11 +11,16 @@
 namespace web {
 namespace {
 
-void checkQuery(const Resource &resource, const std::vector<QueryItem> &query) {
-    for (const QueryItem &item : query) {
-        const bool known = item.name.find(' ') == std::string::npos && !item.name.empty() &&
-                           (" " + std::string(resource.queries)).find(" " + item.name + " ") != std::string::npos;
-        if (!known) {
+// Whether `names`, a blank between them and one at the end, has it.
+bool hasName(std::string_view names, const std::string &name) {
+    return !name.empty() && name.find(' ') == std::string::npos &&
+           (" " + std::string(names)).find(" " + name + " ") != std::string::npos;
+}
+
+void checkQuery(const Call &call) {
+    for (const QueryItem &item : call.query) {
+        const bool isOfChange = hasName("dry_run db_only ", item.name);
+        if (!hasName(call.resource->queries, item.name) || isOfChange == (call.method == kGet)) {
             throw Refusal(Status::BadRequest, "\"" + item.name + "\" is not understood in this URL's query");
         }
     }
@@ -53,7 +58,7 @@ Call parseCall(std::string_view method, const Target &target) {
                       std::string(method) + " is not possible here: " + methodNames(*route.resource, false) + " is",
                       {{"Allow", methodNames(*route.resource, false)}});
     }
-    checkQuery(*call.resource, call.query);
+    checkQuery(call);
     return call;
 }
 
