@@ -63,13 +63,16 @@ class Guide(unittest.TestCase):
                 paths = "".join(f"{name}_temp_path {folder}/{name}; " for name in
                                 ("client_body", "proxy", "fastcgi", "uwsgi", "scgi"))
                 file.write(f"daemon off; pid {folder}/pid; error_log {folder}/error; events {{}}\n"
-                           f"http {{ access_log off; {paths}\n{block} }}\n")
+                           f"http {{ access_log {folder}/access; {paths}\n{block} }}\n")
             # pylint: disable-next=consider-using-with
             nginx = subprocess.Popen(["nginx", "-c", f"{folder}/nginx.conf", "-e", f"{folder}/error"],
                                      stderr=subprocess.DEVNULL)
             self.addCleanup(nginx.wait)
             self.addCleanup(nginx.terminate)
             self.browse(server, port)
+            with open(f"{folder}/access", encoding="utf-8") as file:
+                self.assertRegex(log := file.read(), "GET /api/v1/wan")
+                self.assertNotIn(server.token, log)
 
     def browse(self, server, port):
         context = ssl.create_default_context()
