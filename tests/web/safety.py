@@ -213,6 +213,8 @@ class Sessions(unittest.TestCase):
             (["--listen", "example.org:80"], 2, "IP address"),
             (["--connections", "0"], 2, "connections"),
             (["--host", ""], 2, "host"),
+            (["--host", "gateway.example:443"], 2, "without a port"),
+            (["--host", "[fd00::1]", "--listen", "nowhere"], 2, "ADDRESS:PORT"),
             (["-g", ""], 2, "gateway"),
             (["nonsense"], 2, "nonsense"),
             (["--listen", "127.0.0.1:0", "--token-file", "/dev/null/token"], 1, "/dev/null/token"),

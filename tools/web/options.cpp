@@ -18,6 +18,16 @@ std::string notEmpty(const std::string &value) {
     return value.empty() ? "is empty" : "";
 }
 
+// What a Host header says before the port: a name, or an IPv6 address in brackets.
+std::string hostName(const std::string &value) {
+    constexpr std::string_view kPlain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789.-_";
+    const bool bracketed = value.starts_with('[') && value.ends_with(']');
+    const std::string text = bracketed ? value.substr(1, value.size() - 2) : value;
+    const bool good =
+        !text.empty() && text.find_first_not_of(std::string(kPlain) + (bracketed ? ":" : "")) == std::string::npos;
+    return good ? "" : "is not the name of a host; it is given without a port";
+}
+
 void define(CLI::App &app, Options &options, std::string &listen) {
     app.add_option("-g,--gateway", options.gateway, "The sandbox's gateway to serve")
         ->type_name("NAME")
@@ -27,7 +37,7 @@ void define(CLI::App &app, Options &options, std::string &listen) {
     app.add_option("--host", options.hosts, "A name in the Host header that is this server; repeatable")
         ->type_name("NAME")
         ->allow_extra_args(false)
-        ->check(notEmpty);
+        ->check(hostName);
     app.add_flag("--read-only", options.readOnly, "Refuse every change");
     app.add_option("--token-file", options.tokenFile, "Write the token to this file too, for the owner alone")
         ->type_name("FILE")
