@@ -56,7 +56,7 @@ class Connections {
   private:
     void watch();
     // All with the mutex held.
-    void dismiss(Entry &entry, const Refusal &refusal);
+    static void dismiss(Entry &entry, const Refusal &refusal);
     void giveUp(const Entry &entry);
     void wakeBefore(std::chrono::steady_clock::time_point deadline);
     std::chrono::steady_clock::time_point expireAll(std::chrono::steady_clock::time_point now);
