@@ -109,13 +109,3 @@ int zintu_GetParamFromObjUnit(ObjectNode *object, const char *paramName, const c
     *out = value;
     return 0;
 }
-
-void zintu_InsertDotEndofObj(char *path) {
-    if (!path || !*path) {
-        return;
-    }
-    char *end = path + strlen(path);
-    if (end[-1] != '.') {
-        memcpy(end, ".", sizeof("."));
-    }
-}

@@ -63,3 +63,13 @@ char *remove_rss_tag(char *text, const char *openTag) {
     strcpy(text, result); // never longer than the text it was cut from
     return text;
 }
+
+void zintu_InsertDotEndofObj(char *path) {
+    if (!path || !*path) {
+        return;
+    }
+    char *end = path + strlen(path);
+    if (end[-1] != '.') {
+        memcpy(end, ".", sizeof("."));
+    }
+}

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Checks of MAC and IPv4 address text.
+// Whether a text is a MAC address or an IPv4 address.
 #include "caltofal.h"
 
 #include "frame/log.h"

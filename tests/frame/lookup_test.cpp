@@ -89,15 +89,4 @@ TEST_F(Lookup, ManyAtOnceAnswersAndTracesAsOneByOne) {
     EXPECT_EQ(takeConsole(), atOnce);
 }
 
-TEST(InsertDot, Paths) {
-    const std::pair<const char *, const char *> rows[] = {{"", ""}, {"a", "a."}, {"a.", "a."}, {"a.b", "a.b."}};
-    for (const auto &[path, dotted] : rows) {
-        char buffer[8];
-        strcpy(buffer, path);
-        zintu_InsertDotEndofObj(buffer);
-        EXPECT_STREQ(dotted, buffer);
-    }
-    zintu_InsertDotEndofObj(nullptr);
-}
-
 } // namespace

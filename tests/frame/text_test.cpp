@@ -112,4 +112,15 @@ TEST_F(MacFile, LinesAndTraces) {
     EXPECT_EQ("\n\n\t[zintu_scapi_getMacFromFile : 1240] fopen is Failure\n", takeConsole());
 }
 
+TEST(InsertDot, Paths) {
+    const std::pair<const char *, const char *> rows[] = {{"", ""}, {"a", "a."}, {"a.", "a."}, {"a.b", "a.b."}};
+    for (const auto &[path, dotted] : rows) {
+        char buffer[8];
+        strcpy(buffer, path);
+        zintu_InsertDotEndofObj(buffer);
+        EXPECT_STREQ(dotted, buffer);
+    }
+    zintu_InsertDotEndofObj(nullptr);
+}
+
 } // namespace
