@@ -11,10 +11,10 @@
  *     is to be freed, except SiteSurveyList.entries and the header of faltocal_createMessage(). Texts that
  *     converters return are the caller's own text or constants.
  *  3. Records are zero-filled by the caller before a call: several fields are copied without a terminator.
- *     A field whose parameter is absent from the answer keeps what it held. That is for a layer that leaves
- *     out what an object lacks. One that refuses a request for an absent parameter fails the whole request of
- *     a function that asks by name (such as ZintuGet_LANv4Info(), zintu_GetWanIfName(), the Wi-Fi snapshots and
- *     counts, the endpoint): no field of that request is filled.
+ *     A field whose parameter is absent from the answer keeps what it held. This holds for a layer that
+ *     leaves out what an object lacks. A layer that refuses a request for an absent parameter fails the
+ *     whole request of a function that asks by name (such as ZintuGet_LANv4Info(), zintu_GetWanIfName(), the
+ *     Wi-Fi snapshots and counts, the endpoint): no field of that request is filled.
  *  4. Pointers are REQUIRED to be non-null where the comment does not give a result for null.
  *  5. Results: the network getters answer 0 for success and a negative code for failure: -1, or the
  *     configuration layer's own code (see CaltofalLayerCode). Wi-Fi requests and GetCurrentChannel() answer 1
@@ -253,7 +253,7 @@ int faltocal_send_main(MsgHeader *message, const char *object, const char *mainO
 int faltocal_send_main_ToDb(MsgHeader *message, const char *object, const char *mainOper, const char *subOper,
                             int count, ...);
 
-/** Collects objects in one message and sends it with the last call. A path with a "&", meant to be its end, is only
+/** Collects objects in one message and sends it with the last call. A path with a "&", normally at its end, is only
  * queued: without its last character and cut to 255; a path without it is added and the message sent; the word
  * "query" in any case sends what was queued. The first call on a zeroed header initialises it (CALTOFAL_OWNER_HOST).
  * `mainOper` adds to the keywords of faltocal_send_main(): "get_def_val" (defaults), "get_leaf_node" (own
@@ -498,8 +498,7 @@ int32_t ZintuGet_DslMode(int32_t modes[10]);
 int32_t ZintuGet_WanDns(const char *ipInterface, char *dns1, char *dns2);
 
 /** The statically configured IPv4 DNS servers of `ipInterface`; `*dnsAuto` is 1 when there are none, else 0.
- * `dns1`, `dns2`: char[16], untouched where there is no such server. 0, or -1 as
- * ZintuGet_WanDns(). */
+ * `dns1`, `dns2`: char[16], untouched where there is no such server. 0, or -1 as ZintuGet_WanDns(). */
 int32_t ZintuGet_WanStaticDns(const char *ipInterface, int32_t *dnsAuto, char *dns1, char *dns2);
 
 /** `flags` of ZintuGet_BrWanInfo(); other bits do not count. */
@@ -719,8 +718,8 @@ int ConvFreqChannel(int frequencyMHz);
 
 /** 1 for twelve hexadecimal digits, plain or in pairs separated by ':' or '-', else 0. It accepts some other texts too:
  * anything may follow twelve plain digits and a separator ("001122334455:; reboot"), and before the second digit other
- * characters are passed over where a separator follows them ("x0:01122334455"). Before a text goes to a shell use
- * zintu_isValidMacAddress(). */
+ * characters are passed over where a separator follows them ("x0:01122334455"). Check a text that goes to a shell
+ * with zintu_isValidMacAddress(). */
 int isValidMacAddress(const char *text);
 
 /** Compares `n` positions ignoring the case of ASCII letters: -1, 0 or 1. Positions where both texts have ended

@@ -11,7 +11,7 @@
 namespace frame {
 namespace {
 
-// A text that is being written into a bounded room, the terminator excepted.
+// A text that is being written into a buffer; `limit` is the place of the terminator.
 struct Output {
     char *end;
     char *limit;

@@ -7,7 +7,7 @@
 
 namespace frame {
 
-// As vsnprintf() with a room that is not empty, but answers the length of what it wrote.
+// As vsnprintf(), but returns the length of what it wrote. `size` is at least 1.
 [[gnu::format(printf, 3, 0)]] size_t formatText(char *text, size_t size, const char *format, va_list arguments);
 
 // At most `Size` - 1 characters; what does not fit is cut off, as the device's tools and scripts expect it.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The console's lines.
+// Writing lines to the console.
 #pragma once
 
 #include <cstdarg>
@@ -7,13 +7,13 @@
 
 namespace frame {
 
-// A line's room, the terminator included.
+// The width of a line's buffer, the terminator included.
 inline constexpr size_t kConsoleSize = 1024;
 
-// Writes a line; the results of PRINT_TO_CONSOLE().
+// Writes a line. Its results are those of PRINT_TO_CONSOLE().
 int writeToConsole(const char *line, size_t length);
 
-// PRINT_TO_CONSOLE() of arguments at hand.
+// PRINT_TO_CONSOLE() with its arguments in a va_list.
 [[gnu::format(printf, 1, 0)]] int printToConsole(const char *format, va_list arguments);
 
 } // namespace frame

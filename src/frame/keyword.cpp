@@ -33,7 +33,7 @@ constexpr SubOperation kSub[] = {
     {"del", CALTOFAL_SUBOPER_DELETE}, {"act", CALTOFAL_SUBOPER_ACTION},
 };
 
-// Words are too short for a call of strcmp().
+// Words are so short that calling strcmp() would take longer.
 bool same(const char *word, const char *keyword) {
     for (; *word == *keyword; ++word, ++keyword) {
         if (!*word) {

@@ -13,7 +13,7 @@ uint32_t mainOperation(const char *word);
 // Sub-operation of "get", "set", "add", "del", "act"; 0 for another word or null.
 uint32_t subOperation(const char *word);
 
-// Whether a word is there and equals a keyword, in case too.
+// Whether a word is not null and equals a keyword; case counts.
 inline bool isKeyword(const char *word, const char *keyword) {
     return word && *word == *keyword && strcmp(word, keyword) == 0;
 }

@@ -28,8 +28,8 @@ bool isNamed(const ParamNode &param, const char (&name)[Size]) {
 // The value of the object's first parameter of that name, or nullptr.
 const char *findValue(ObjectNode &object, const char *name);
 
-// The value of the last parameter of that name in an object; in an answer, of the objects whose names begin so.
-// `otherwise` when there is none.
+// The value of the last parameter of that name in an object; in an answer, of the objects whose names begin
+// with `objectBegins`. `otherwise` when there is none.
 const char *lastValue(ObjectNode &object, const char *name, const char *otherwise);
 const char *lastValue(const MsgHeader &answer, const char *name, const char *otherwise = "",
                       const char *objectBegins = "");
@@ -41,7 +41,7 @@ const char *findValue(const MsgHeader &answer, const char *name);
 const char *lookUp(ObjectNode &object, const char *name);
 const char *lookUp(const MsgHeader &answer, const char *name);
 
-// The object's value of each name, or nullptr with a trace. `values` has room for them.
+// The object's value of each name, or nullptr with a trace, into `values`, which has as many entries as `names`.
 void lookUp(ObjectNode &object, std::span<const char *const> names, const char **values);
 
 } // namespace frame

@@ -19,13 +19,13 @@ class Message {
     operator MsgHeader *() { return &header_; } // NOLINT(google-explicit-constructor): stands for its header
     [[nodiscard]] const MsgHeader &operator*() const { return header_; }
 
-    // Releases the lists and starts again from a zeroed header; the platform is not relied on to zero it.
+    // Releases the lists and starts again from a zeroed header, whether or not the platform zeroes it.
     void reset() {
         release();
         header_ = {};
     }
 
-    // Gives the lists up without releasing them.
+    // Leaves the lists unreleased.
     void leave() { left_ = true; }
 
   private:

@@ -29,7 +29,7 @@ class Path {
     explicit Path(const char *object) : text_(object) {
         const char *end = strchrnul(object, '&');
         deferred_ = *end != '\0';
-        // Wherever the '&' stands, it is the last character that goes.
+        // The last character is dropped, wherever the '&' stands.
         const bool inside = deferred_ && end[1];
         const size_t length = static_cast<size_t>(end - object) + (inside ? strlen(end + 1) : 0);
         if (deferred_ || length >= kPathSize) {
@@ -41,13 +41,13 @@ class Path {
     Path &operator=(const Path &) = delete;
 
     [[nodiscard]] const char *text() const { return text_; }
-    // Whether it is added without sending yet.
+    // Whether the object is added without sending the message yet.
     [[nodiscard]] bool deferred() const { return deferred_; }
 
   private:
     const char *text_;
     bool deferred_;
-    char cut_[kPathSize]; // only where the caller's text does not serve
+    char cut_[kPathSize]; // used only when the caller's text has to be shortened
 };
 
 bool isStoreOnly(const Request &request) {
@@ -58,7 +58,7 @@ bool isQuery(const char *object) {
     return (*object == 'q' || *object == 'Q') && strncasecmp(object, "query", kPathSize) == 0;
 }
 
-// Takes `count` parameters. A null node is handed on; what becomes of it is the helper library's affair.
+// Takes `count` parameters. A null node is passed on to the helper library.
 void addParameters(ObjectNode *node, uint32_t mainOper, bool filter, uint32_t listFlags, int count,
                    Arguments &arguments) {
     if (mainOper == CALTOFAL_OPER_SET || filter) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Most parameters of an answer are none that a page reads: a set of names that rules almost all of them out without a
-// comparison.
+// A set of names. A page reads few of the parameters of an answer: the set rules out almost all others without
+// comparing names.
 #pragma once
 
 #include <bit>
@@ -10,7 +10,7 @@
 
 namespace frame {
 
-// The first four bytes of a name, which has that many or stands in a larger buffer.
+// The first four bytes of a name, which has that many or is in a larger buffer.
 constexpr uint32_t firstBytes(const char *name) {
     if (std::is_constant_evaluated()) {
         struct {
@@ -31,7 +31,7 @@ class NameFilter {
         const bool isLong = name[0] && name[1] && name[2];
         bits_ |= isLong ? uint32_t{1} << bucket(name) : ~uint32_t{0};
     }
-    // False: no such name was added. The name stands in a node.
+    // False when no such name was added. The name is that of a node, in a buffer of more than four bytes.
     [[nodiscard]] constexpr bool mayHold(const char *name) const { return ((bits_ >> bucket(name)) & 1) != 0; }
 
   private:

@@ -9,8 +9,8 @@
 namespace frame {
 namespace {
 
-// Whether a name whose first four bytes are those of a row is the row's, four bytes at a time. The last ones, which
-// end with the terminator, tell names of one family apart.
+// Whether a name is that of a row; the caller has compared the first four bytes. Compares four bytes at a time and
+// begins with the last ones, terminator included: names that begin alike differ there.
 bool isRow(const Field &field, const char *name) {
     constexpr size_t kStep = 4;
     const size_t last = field.length + 1 - kStep;

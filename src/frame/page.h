@@ -59,7 +59,7 @@ struct PageHead {
     Empty empty = Empty::Store;
 
     [[nodiscard]] std::span<const Field> fields() const { return {reinterpret_cast<const Field *>(this + 1), count}; }
-    // The object that is asked. Where one request asks for several: what the name of the page's own contains.
+    // The path of the object that is asked. Where one request asks for several: what the name of this one contains.
     [[nodiscard]] const char *object() const { return reinterpret_cast<const char *>(fields().data() + count); }
 };
 
@@ -96,7 +96,7 @@ consteval bool fits(Rule rule) {
     }
 }
 
-// Never defined and no constant expressions: their names are what the compiler says.
+// Never defined and not constant expressions: the compiler's error shows their names.
 void thisRuleDoesNotFitTheTypeOfTheField();
 void aRowHoldsNamesOf4To27Characters();
 
@@ -142,7 +142,8 @@ consteval auto page(const char (&object)[PathSize], Empty empty, const Row<Recor
     return result;
 }
 
-// The field of a parameter, or nullptr. The name stands in a node: it is read as far as the names of fields reach.
+// The field of a parameter, or nullptr. The name is that of a node: as many of its bytes are
+// read as the longest field name has.
 const Field *findField(const PageHead &page, const char *name);
 
 // Stores a value into the record by the field's rule.

@@ -7,7 +7,7 @@
 
 namespace frame {
 
-// The nodes linked into a ring behind its head, found from their link by its offset.
+// The nodes linked into a ring after its head. A node is found from its link by the offset of that link in it.
 template <class Node>
 class Ring {
   public:

@@ -18,7 +18,7 @@ int itoa(int value, char *out) {
 
 int atob(const char *text) {
     if (text[0] == 't' && text[1] == 'r' && text[2] == 'u' && text[3] == 'e' && text[4] == '\0') {
-        return 1; // what the layer answers
+        return 1; // as the configuration layer writes it
     }
     const bool isOne = text[0] == '1' && text[1] == '\0';
     return isOne || strcasecmp(text, "true") == 0 ? 1 : 0;

@@ -54,7 +54,7 @@ int number(const char *text) {
     const bool negative = *text == '-';
     const char *first = text + (negative ? 1 : 0);
     const char *digit = first;
-    unsigned value = 0; // of too many digits: anything
+    unsigned value = 0; // not used when there are too many digits
     for (unsigned next = 0; (next = static_cast<unsigned>(*digit - '0')) <= 9; ++digit) {
         value = value * 10 + next;
     }

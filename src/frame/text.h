@@ -8,7 +8,7 @@
 
 namespace frame {
 
-// Copies at most `size` - 1 characters and terminates; bytes behind the terminator are left alone.
+// Copies at most `size` - 1 characters and terminates; bytes after the terminator are left alone.
 void copyText(char *target, size_t size, const char *text);
 
 // As copyText() into a whole array.
@@ -42,7 +42,7 @@ template <size_t Size>
 class Terminated {
   public:
     explicit Terminated(const char (&field)[Size]) {
-        memcpy(text_, field, Size); // whole: the width is known, the length is not
+        memcpy(text_, field, Size); // the whole field: its width is a constant, the length of its text is not
         text_[Size] = '\0';
     }
     operator const char *() const { return text_; } // NOLINT(google-explicit-constructor): stands for its text
@@ -52,7 +52,7 @@ class Terminated {
     char text_[Size + 1];
 };
 
-// Whether a text begins with a word, in case too.
+// Whether a text begins with a word; case counts.
 inline bool beginsWith(const char *text, const char *word) {
     return strncmp(text, word, strlen(word)) == 0;
 }
@@ -67,14 +67,14 @@ inline bool contains(const char *text, const char *word) {
     return strstr(text, word) != nullptr;
 }
 
-// As atoi(), which is slow for what numbers mostly are: up to nine digits.
+// As atoi(), but faster for numbers of up to nine digits, as most are.
 int number(const char *text);
 
 // The longest number in decimal digits, without a terminator.
 inline constexpr size_t kNumberSize = sizeof("-2147483648") - 1;
 
-// Writes a number in decimal digits, without a terminator; where they end. Smaller than to_chars(), which comes with a
-// table and a copy of itself for every file.
+// Writes a number in decimal digits, without a terminator, and returns where they end. Smaller than to_chars(), which
+// brings a table and a copy of itself into every file.
 char *putNumber(char *out, int number);
 
 // Whether a switch is on: the text begins with '1', or with "true" in any case.

@@ -19,7 +19,7 @@ struct Spot {
     int line;
 };
 
-// A spot of a unit.
+// A spot and its source unit.
 struct Place {
     // NOLINTNEXTLINE(google-explicit-constructor): a unit alone is the caller's place in it
     Place(Unit source, int fixedLine = __builtin_LINE(), const char *caller = __builtin_FUNCTION())

@@ -11,7 +11,7 @@ namespace {
 constexpr char kRoamingMesh[] = "Device.WiFi.X_ZINTU_RoamingMesh.";
 constexpr char kEnable[] = "Enable";
 
-// 1 on, 0 off, -1 when the request fails. The message is gone before more is traced.
+// 1 on, 0 off, -1 when the request fails. The message is released before the caller traces more.
 int readSwitch() {
     Message message;
     if (faltocal_send_main_multi_obj(message, kRoamingMesh, "get", "get", 1, kEnable) == 0) {

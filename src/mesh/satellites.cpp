@@ -33,7 +33,7 @@ int ZINTU_meshgrove_sync_to_slave(void) {
         traceVola({Unit::MeshGrove, 155}, "The Meshgrove is NOT enabled. Skip waiting for SSO. \n");
         return 0;
     }
-    // An unknown mode (-1) has the bit too: better one sync too many.
+    // An unknown mode (-1) has the bit too: then the settings are pushed all the same.
     if ((ZintuGet_OperMode() & kMasterMode) == 0) {
         traceVola({Unit::MeshGrove, 162}, "The operation mode is NOT Master. Skip waiting for SSO. \n");
         return 0;

@@ -34,7 +34,7 @@ void keepVlan(Summary &summary, const char *lowerLayers) {
     }
 }
 
-// Copies a value at its own length from a field on: it may run on into the fields behind.
+// Copies a value at its own length from a field on: it may run on into the fields after it.
 void copyOverrunning(ZintuWanInfo &info, char *field, const char *value) {
     const auto offset = static_cast<size_t>(field - reinterpret_cast<char *>(&info));
     copyExact(field, sizeof(info) - offset, value);
@@ -79,7 +79,7 @@ constexpr AddressingRow kAddressing[] = {
     {"X_LANTIQ_COM_Bridged", "dynamic"},
 };
 
-// Words go in without a terminator, over what the field held.
+// Words are written over what the field held, without a terminator.
 void storeAddressing(ZintuWanInfo &info, const char *value) {
     writeWord(info.sOperMode, "router");
     for (const AddressingRow &row : kAddressing) {

@@ -13,7 +13,7 @@ using namespace network;
 
 namespace {
 
-// Judged in the field after the copy: what a longer earlier text left behind counts too.
+// Looks for "Up" in the field, not in the value: what is left of a longer text that the field held counts too.
 void storeStatus(const char *value, char (&status)[16]) {
     if (strlen(value) >= sizeof(status)) {
         return;
@@ -26,7 +26,7 @@ void storeStatus(const char *value, char (&status)[16]) {
     }
 }
 
-// As fetch(); "Status" is judged besides.
+// As fetch(), and stores "Status".
 int fetchLine(ZintuDslLineInfo &info, const char *failure, Spot spot = Spot()) {
     Message message;
     const int code = getObject(message, kDslLine.object());
@@ -47,7 +47,7 @@ int fetchLine(ZintuDslLineInfo &info, const char *failure, Spot spot = Spot()) {
 } // namespace
 
 int32_t ZintuGet_LineInfo(ZintuDslLineInfo *info) {
-    constexpr char kFailure[] = "faltocal_SendMultiObj is Failure \n"; // of all four, whatever they are sent with
+    constexpr char kFailure[] = "faltocal_SendMultiObj is Failure \n"; // of all four requests, whichever way sent
     const bool done = fetchLine(*info, kFailure) == 0 && fetch(kDslChannel, *info, kFailure) == 0 &&
                       fetch(kDslTestParams, *info, kFailure) == 0 && fetch(kDslTotals, *info, kFailure) == 0;
     return done ? 0 : -1;

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kModes = 10;
 
-// Flags are only ever set.
+// Flags are set, never cleared.
 void setFlags(const char *list, int32_t *modes) {
     char tokens[256] = "";
     if (strlen(list) < sizeof(tokens)) {

@@ -7,7 +7,7 @@
 
 namespace network {
 
-// A path put together, cut to what a node's name holds.
+// A path built from parts, cut to the width of a node's name.
 using Path = frame::BoundedText<sizeof(ObjectNode::name)>;
 
 // A path of at most 255 characters, ending in a dot.

@@ -25,12 +25,12 @@ void writeLiteral(const char (&literal)[Size]) {
     writeToConsole(literal, Size - 1);
 }
 
-// contains() for an object's name, which may be compared as far as the part reaches.
+// As contains(), but for an object's name, whose buffer is longer than any part.
 bool nameContains(const ObjectNode &object, std::string_view part) {
     return memcmp(object.name, part.data(), part.size()) == 0 || (*object.name && strstr(object.name + 1, part.data()));
 }
 
-// Fills from an object that is the page's by its name.
+// Fills from an object whose name contains the page's path.
 template <class Page>
 bool fillWhereNamed(ObjectNode &object, const Page &page, LANv4Info &info) {
     const bool isNamed = nameContains(object, {page.path, sizeof(page.path) - 1});
@@ -40,7 +40,7 @@ bool fillWhereNamed(ObjectNode &object, const Page &page, LANv4Info &info) {
     return isNamed;
 }
 
-// The first page that an object's name contains takes it.
+// The first page whose path the object's name contains reads the object.
 void fillFrom(ObjectNode &object, LANv4Info &info) {
     fillWhereNamed(object, kLanAddress, info) || fillWhereNamed(object, kLanPool, info) ||
         fillWhereNamed(object, kLanEthernet, info);
@@ -84,7 +84,7 @@ class Line {
         end_ = static_cast<char *>(mempcpy(end_, literal, Size - 1));
         return *this;
     }
-    // A field that is full has no terminator.
+    // A full field has no terminator.
     template <size_t Size>
     Line &addField(const char (&field)[Size]) {
         end_ = static_cast<char *>(mempcpy(end_, field, strnlen(field, Size)));

@@ -21,7 +21,7 @@ namespace {
 constexpr int32_t kPrefixLength = 64;
 constexpr int32_t kHostLength = 128;
 
-// "address/length", or an address alone. A value of one character is none.
+// "address/length", or an address alone. A value of one character is not an address.
 bool storeAddress(LANv6Info &info, const char *value) {
     if (strnlen(value, 2) < 2) {
         return false;
@@ -99,7 +99,7 @@ int request(MsgHeader *message) {
 }
 
 void traceResult(const LANv6Info &info, Place place) {
-    // Cut before the line's end is added to it.
+    // One byte narrower than the console's line, which keeps room for the newline.
     const BoundedText<kConsoleSize - 1> values(
         "return pxLANv6Info value : bIPv6Active = %d , sIPv6Address = %s ,  nPrefixLength = %d , "
         "sLANv6Mode = %s , sDNSv6Primary = %s , sDNSv6Secondary = %s , sDomainNamev6 = %s , "

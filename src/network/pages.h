@@ -10,7 +10,7 @@ using frame::Empty;
 using frame::page;
 using frame::Rule;
 
-// Values run on past their fields.
+// Values may run on past their fields: Rule::Overrunning.
 inline constexpr auto kDefaultGateway =
     page<ZintuWanInfo>("Device.X_ZINTU_CurrentNetwork", Empty::Store,
                        {
@@ -73,7 +73,7 @@ inline constexpr auto kDslTotals = page<ZintuDslLineInfo>("Device.DSL.Channel.1.
                                                               FIELD(ZintuDslLineInfo, nXTUCCRCErrors, "XTUCCRCErrors"),
                                                           });
 
-// One request asks for several objects from here on.
+// From here on, one request asks for the objects of several pages.
 inline constexpr auto kLanAddress = page<LANv4Info>("Device.IP.Interface.1.IPv4Address.1", Empty::Store,
                                                     {
                                                         FIELD_BY(LANv4Info, sIPv4Address, "IPAddress", Rule::Padded),
@@ -110,7 +110,7 @@ inline constexpr auto kLanPoolV6 = page<LANv6Info>("Device.DHCPv6.Server.Pool.1"
                                                        FIELD(LANv6Info, nLeaseTimeSec, "X_ZINTU_PreferredLifetime"),
                                                    });
 
-// All of them. Tests and fuzzers draw from it the answers that they script.
+// All pages. Tests and fuzzers make the answers that they script from this list.
 inline constexpr const frame::PageHead *kPages[] = {
     &kDefaultGateway.head, &kWanAddress.head,    &kPpp.head,       &kDslLine.head,
     &kDslChannel.head,     &kDslTestParams.head, &kDslTotals.head, &kLanAddress.head,

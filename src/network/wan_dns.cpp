@@ -17,7 +17,7 @@ namespace {
 constexpr size_t kAddressSize = 16;
 constexpr char kServerTable[] = "Device.DNS.Client.Server.";
 
-// Lists of IPv6 servers are passed over.
+// Lists of IPv6 servers are skipped.
 bool isIpv4Text(const char *text) {
     return *text && !strchr(text, ':');
 }
@@ -34,7 +34,7 @@ const char *receivedServers(ObjectNode &client, const InterfacePath &interface) 
     return taken ? values[Servers] : nullptr;
 }
 
-// Everything behind the first comma goes to the second buffer.
+// Everything after the first comma goes to the second buffer.
 void splitServers(const char *list, char *dns1, char *dns2) {
     const char *first = list + strspn(list, ",");
     const char *comma = strchr(first, ',');
@@ -43,7 +43,7 @@ void splitServers(const char *list, char *dns1, char *dns2) {
     copyText(dns2, kAddressSize, *first ? rest : "0.0.0.0");
 }
 
-// Writes the first server to `dns1`, the second to `dns2`; true when both are there.
+// Writes the first server that is added to `dns1`, the second to `dns2`. Add no more once full().
 class ServerPair {
   public:
     ServerPair(char *dns1, char *dns2) : buffers_{dns1, dns2} {}
