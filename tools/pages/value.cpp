@@ -18,6 +18,7 @@ const Kind &heldBy(const Data &data) {
 Value::Value() = default;
 Value::Value(bool flag) : data_(flag) {}
 Value::Value(int32_t number) : data_(static_cast<int64_t>(number)) {}
+Value::Value(uint32_t number) : data_(static_cast<int64_t>(number)) {}
 Value::Value(int64_t number) : data_(number) {}
 Value::Value(uint64_t number) : data_(number) {}
 Value::Value(double number) : data_(number) {}

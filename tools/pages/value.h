@@ -22,6 +22,7 @@ class Value {
     Value(); // null
     Value(bool flag);
     Value(int32_t number);
+    Value(uint32_t number);
     Value(int64_t number);
     Value(uint64_t number);
     Value(double number);

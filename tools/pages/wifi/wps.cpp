@@ -6,6 +6,8 @@
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
 
+#include <chrono>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 
@@ -21,6 +23,12 @@ std::string status() {
     std::string word;
     std::ifstream(kStatusFile) >> word;
     return word;
+}
+
+// The earliest time where there is no file.
+std::filesystem::file_time_type lastWritten() {
+    std::error_code ignored;
+    return std::filesystem::last_write_time(kStatusFile, ignored);
 }
 
 // Throws what goes wrong, unless `isIgnored` says afterwards that it does not matter.
@@ -66,8 +74,15 @@ Report ended() {
 
 Report startWps(std::chrono::milliseconds unit, Wait &wait) {
     wait.begin();
+    const auto written = lastWritten();
     request(ReqWPSActive, [&] { return wait.cancelled(); });
-    const auto isOver = [] { return status() != kRunning; };
+    const auto start = std::chrono::steady_clock::now();
+    // Until the daemon has taken the request up, its file tells how the run before ended.
+    const auto isOver = [&] {
+        const bool isFresh =
+            lastWritten() != written || std::chrono::steady_clock::now() - start >= WPS_RetryTime[0] * unit;
+        return !wait.cancelled() && isFresh && status() != kRunning;
+    };
     switch (askAgain(wait, {WPS_RetryTime, unit}, "WPS: press the button of the other device", isOver)) {
     case Outcome::Cancelled:
         request(ReqWPSCancel, always);
