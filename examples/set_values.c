@@ -1,7 +1,6 @@
 /* SPDX-License-Identifier: MIT */
 /* Setting values of two objects in one message: set_values CHANNEL [stored] */
 #include <caltofal.h>
-
 #include <stdio.h>
 #include <string.h>
 

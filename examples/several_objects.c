@@ -1,7 +1,6 @@
 /* SPDX-License-Identifier: MIT */
 /* Several objects in one message, built by hand. */
 #include <caltofal.h>
-
 #include <stdio.h>
 #include <stdlib.h>
 

@@ -1,7 +1,6 @@
 /* SPDX-License-Identifier: MIT */
 /* A site survey: what is checked before texts reach the shell. survey INTERFACE [SSID] */
 #include <caltofal.h>
-
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>

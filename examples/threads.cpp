@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Pages in several threads: each has its own records, nothing else is to be done.
 #include <caltofal.h>
-
 #include <cstdio>
 #include <thread>
 

@@ -1,7 +1,6 @@
 /* SPDX-License-Identifier: MIT */
 /* A page: one record, one call. */
 #include <caltofal.h>
-
 #include <stdio.h>
 
 /* A text that fills its field has no terminator: print it up to the field's width. */

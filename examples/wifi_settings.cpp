@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Wi-Fi settings: snapshot, comparison, write-back of what changed: wifi_settings CHANNEL WIDTH
 #include <caltofal.h>
-
 #include <cstdio>
 #include <cstring>
 #include <memory>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The importers of gateways and of dumps: whatever they take, they write and read back alike.
 #include "exchange/gateway_file.h"
+
 #include "bytes.h"
 #include "exchange/file_format.h"
 

@@ -4,9 +4,8 @@
 #include "bytes.h"
 #include "call.h"
 #include "origin.h"
-#include "refusal.h"
-
 #include "pages/failure.h"
+#include "refusal.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The default WAN summary of a DSL line with DHCP over a VLAN: eleven requests, five of them in other pages' functions.
 #include "default_wan.h"
+
 #include "page.h"
 
 #include <algorithm>

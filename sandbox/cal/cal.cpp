@@ -5,14 +5,13 @@
 #include "cal/connection.h"
 #include "cal/message.h"
 #include "cal/trace.h"
+#include "libcal.h"
 #include "store/cal_codes.h"
 #include "store/fault.h"
 #include "store/refusal_log.h"
 #include "store/schema.h"
 #include "value/path.h"
 #include "value/refusal.h"
-
-#include "libcal.h"
 
 #include <cstdio>
 #include <thread>

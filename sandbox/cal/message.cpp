@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cal/message.h"
 
-#include "value/path.h"
-#include "value/refusal.h"
-
 #include "helper/node_words.h"
 #include "libhelper.h"
+#include "value/path.h"
+#include "value/refusal.h"
 
 #include <new>
 

@@ -3,10 +3,9 @@
 // Messages (caltofal.h) taken apart into requests, and the answer put back into them.
 #pragma once
 
+#include "caltofal.h"
 #include "store/reader.h"
 #include "store/writer.h"
-
-#include "caltofal.h"
 
 namespace sandbox {
 

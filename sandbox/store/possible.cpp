@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "store/possible.h"
 
+#include "caltofal.h"
 #include "store/model.h"
 #include "value/accepted_value.h"
 #include "value/escape.h"
 #include "value/path.h"
 #include "value/refusal.h"
 #include "value/standard_type.h"
-
-#include "caltofal.h"
 
 #include <algorithm>
 #include <charconv>

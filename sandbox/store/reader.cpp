@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "store/reader.h"
 
+#include "caltofal.h"
 #include "store/model.h"
 #include "store/nature.h"
 #include "value/escape.h"
 #include "value/path.h"
 #include "value/refusal.h"
-
-#include "caltofal.h"
 
 #include <algorithm>
 #include <set>

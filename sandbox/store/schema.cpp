@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/schema.h"
 
-#include "value/refusal.h"
-
 #include "caltofal.h"
+#include "value/refusal.h"
 
 namespace sandbox {
 namespace {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "store/store.h"
 
+#include "caltofal.h"
 #include "store/schema.h"
 #include "store/store_access.h"
 #include "value/escape.h"
 #include "value/refusal.h"
-
-#include "caltofal.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/store_access.h"
 
-#include "value/refusal.h"
-
 #include "caltofal.h"
+#include "value/refusal.h"
 
 #include <cerrno>
 #include <cstring>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/writer.h"
 
+#include "caltofal.h"
 #include "store/model.h"
 #include "store/nature.h"
 #include "store/possible.h"
@@ -9,8 +10,6 @@
 #include "value/escape.h"
 #include "value/path.h"
 #include "value/refusal.h"
-
-#include "caltofal.h"
 
 #include <algorithm>
 #include <limits>

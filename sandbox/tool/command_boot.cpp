@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "store/boot.h"
-
 #include "tool/command.h"
 #include "tool/differences.h"
 

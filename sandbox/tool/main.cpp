@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // caltofal-sandbox: makes, shows and changes the gateways that the sandbox's libcal serves.
+#include "caltofal.h"
 #include "tool/command.h"
 #include "value/refusal.h"
-
-#include "caltofal.h"
 
 #include <iostream>
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "value/accepted_value.h"
 
+#include "caltofal.h"
 #include "value/escape.h"
 #include "value/refusal.h"
 #include "value/secret.h"
-
-#include "caltofal.h"
 
 namespace sandbox {
 

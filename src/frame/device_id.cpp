@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Finding a LAN device in the host table.
 #include "caltofal.h"
-
 #include "frame/lookup.h"
 #include "frame/message.h"
 #include "frame/range.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // MAC addresses allotted to interfaces: lines of the form "eth0_1> AA:BB:CC:DD:EE:FF".
 #include "caltofal.h"
-
 #include "frame/text.h"
 #include "frame/trace.h"
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Building a message: header, objects, parameters, filters.
 #include "frame/help_objlist.h"
-
 #include "frame/log.h"
 
 using namespace frame;

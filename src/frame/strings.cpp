@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Exported text helpers.
 #include "caltofal.h"
-
 #include "frame/text.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Whether a text is a MAC address or an IPv4 address.
 #include "caltofal.h"
-
 #include "frame/log.h"
 
 #include <arpa/inet.h>

@@ -4,7 +4,6 @@
 #include "frame/trace.h"
 
 #include <cstdio>
-
 #include <unistd.h>
 
 using namespace frame;

@@ -1,7 +1,6 @@
 /* SPDX-License-Identifier: MIT
  * A host program in C, against the demo gateway: what a newcomer would write first. */
 #include <caltofal.h>
-
 #include <stdio.h>
 #include <string.h>
 

@@ -2,7 +2,6 @@
  * A host with functions of its own under names that the library publishes too: they are never called in place of the
  * library's. */
 #include <caltofal.h>
-
 #include <stdio.h>
 #include <string.h>
 

@@ -3,7 +3,6 @@
  * own popen() and system() take the place of libc's and run nothing. The gateway's endpoint has the mark for its
  * interface. */
 #include <caltofal.h>
-
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>

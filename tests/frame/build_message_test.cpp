@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "platform.h"
-
 #include "libhelper.h"
+#include "platform.h"
 
 using namespace test;
 

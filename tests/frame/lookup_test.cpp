@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "platform.h"
-
 #include "frame/lookup.h"
 #include "frame/message.h"
 #include "frame/range.h"
+#include "platform.h"
 
 using namespace test;
 

@@ -1,7 +1,6 @@
 /* SPDX-License-Identifier: MIT
  * A host on musl with a platform of its own: the smallest configuration layer that answers one object. */
 #include <caltofal.h>
-
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>

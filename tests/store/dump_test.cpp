@@ -2,13 +2,12 @@
 //
 // Dumps of other programs, as files beside this one. NAME.expected holds the closing report and what the gateway then
 // exports; CALTOFAL_RECORD=1 writes it anew.
-#include "sandbox_fixture.h"
-
 #include "cal/cal_sandbox.h"
 #include "exchange/file_format.h"
 #include "exchange/gateway.h"
 #include "exchange/gateway_export.h"
 #include "exchange/gateway_import.h"
+#include "sandbox_fixture.h"
 
 #include <algorithm>
 #include <ctime>

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "exchange/gateway_file.h"
-#include "sandbox_fixture.h"
-
 #include "exchange/gateway.h"
+#include "exchange/gateway_file.h"
 #include "exchange/gateway_import.h"
+#include "sandbox_fixture.h"
 
 using namespace sandbox;
 

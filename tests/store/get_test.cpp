@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "sandbox_fixture.h"
-
 #include "cal/cal_sandbox.h"
+#include "sandbox_fixture.h"
 
 #include <algorithm>
 

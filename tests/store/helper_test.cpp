@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // libhelper.so; the address sanitizer sees what is not released.
-#include "sandbox_fixture.h"
-
 #include "helper/node_words.h"
+#include "sandbox_fixture.h"
 
 #include <cstring>
 

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
 // Settings held against what the gateway, or the standard, says is possible.
-#include "sandbox_fixture.h"
-
 #include "cal/cal_sandbox.h"
 #include "exchange/demo.h"
 #include "exchange/gateway.h"
 #include "exchange/gateway_export.h"
 #include "exchange/gateway_file.h"
+#include "sandbox_fixture.h"
 #include "store/possible.h"
 #include "value/path.h"
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Many processes, and many threads of one, on one gateway.
-#include "sandbox_fixture.h"
-
 #include "cal/cal_sandbox.h"
+#include "sandbox_fixture.h"
 #include "store/store.h"
 
 #include <filesystem>

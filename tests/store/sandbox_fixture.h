@@ -3,11 +3,10 @@
 // A private sandbox for each test, and messages written in one line.
 #pragma once
 
-#include "store/database.h"
-#include "store/location.h"
-
 #include "libcal.h"
 #include "libhelper.h"
+#include "store/database.h"
+#include "store/location.h"
 
 #include <gtest/gtest.h>
 #include <memory>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 //
 // Ten thousand hosts cost no more than three where three are asked for.
-#include "sandbox_fixture.h"
-
 #include "cal/cal_sandbox.h"
 #include "exchange/gateway.h"
 #include "exchange/gateway_import.h"
+#include "sandbox_fixture.h"
 
 #include <algorithm>
 #include <ctime>

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "sandbox_fixture.h"
-
 #include "cal/cal_sandbox.h"
 #include "exchange/gateway.h"
+#include "sandbox_fixture.h"
 #include "store/boot.h"
 
 namespace {

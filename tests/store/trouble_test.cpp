@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // Stores that cannot be used.
-#include "sandbox_fixture.h"
-
 #include "cal/cal_sandbox.h"
 #include "exchange/gateway.h"
+#include "sandbox_fixture.h"
 #include "store/cal_codes.h"
 #include "store/store.h"
 

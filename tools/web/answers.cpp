@@ -3,7 +3,6 @@
 
 #include "body.h"
 #include "device_tools.h"
-
 #include "pages/checked.h"
 #include "pages/failure.h"
 #include "pages/mesh/pages.h"

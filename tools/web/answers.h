@@ -4,7 +4,6 @@
 
 #include "call.h"
 #include "jobs.h"
-
 #include "pages/report.h"
 
 namespace web {

@@ -5,10 +5,9 @@
 #include "change_log.h"
 #include "errors.h"
 #include "page_file.h"
-#include "secret.h"
-
 #include "pages/failure.h"
 #include "pages/json.h"
+#include "secret.h"
 
 #include <algorithm>
 

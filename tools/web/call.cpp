@@ -2,9 +2,8 @@
 #include "call.h"
 
 #include "body.h"
-#include "refusal.h"
-
 #include "pages/failure.h"
+#include "refusal.h"
 
 #include <algorithm>
 

@@ -3,10 +3,9 @@
 // the gateway or knows of connections.
 #pragma once
 
+#include "pages/value.h"
 #include "resource.h"
 #include "target.h"
-
-#include "pages/value.h"
 
 #include <string>
 #include <string_view>

@@ -2,7 +2,6 @@
 #include "device_tools.h"
 
 #include "errors.h"
-
 #include "pages/failure.h"
 #include "pages/layer/request_log.h"
 

@@ -2,9 +2,8 @@
 // Failures as answers: the exit codes of the command line as statuses of HTTP, in one table.
 #pragma once
 
-#include "response.h"
-
 #include "pages/failure.h"
+#include "response.h"
 
 namespace web {
 

@@ -2,12 +2,11 @@
 #include "api.h"
 #include "gate.h"
 #include "options.h"
-#include "server.h"
-#include "token.h"
-
 #include "pages/layer/request_log.h"
 #include "pages/process/console.h"
 #include "pages/process/streams.h"
+#include "server.h"
+#include "token.h"
 
 #include <chrono>
 #include <csignal>

@@ -3,7 +3,6 @@
 
 #include "etag.h"
 #include "page_file.h"
-
 #include "pages/json.h"
 
 namespace web {

@@ -2,9 +2,8 @@
 // An answer before it goes over a connection.
 #pragma once
 
-#include "refusal.h"
-
 #include "pages/value.h"
+#include "refusal.h"
 
 #include <string>
 #include <string_view>

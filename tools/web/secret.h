@@ -3,7 +3,6 @@
 #pragma once
 
 #include "call.h"
-
 #include "pages/value.h"
 
 namespace web {

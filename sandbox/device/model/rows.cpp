@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "device/model/rows.h"
 
+#include "caltofal.h"
 #include "store/reader.h"
 #include "value/path.h"
 #include "value/refusal.h"
-
-#include "caltofal.h"
 
 #include <charconv>
 #include <strings.h>

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/dump/entries.h"
 
+#include "caltofal.h"
 #include "exchange/dump/alias.h"
 #include "exchange/dump/known.h"
 #include "exchange/dump/typing.h"
 #include "exchange/dump/words.h"
 #include "value/escape.h"
 #include "value/path.h"
-
-#include "caltofal.h"
 
 #include <algorithm>
 #include <iterator>

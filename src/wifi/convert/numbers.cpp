@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Numbers and switches of the Wi-Fi pages: limits, numberings, percentages, frequencies.
-#include "frame/text.h"
-
 #include "caltofal.h"
+#include "frame/text.h"
 #include "wifi/convert/wrap.h"
 
 #include <cstring>

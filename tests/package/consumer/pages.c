@@ -1,7 +1,6 @@
 /* SPDX-License-Identifier: MIT
  * A host program in C. */
 #include <caltofal.h>
-
 #include <stdio.h>
 
 int main(void) {

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "pages/mesh/pages.h"
-
 #include "caltofal.h"
 #include "pages/layer/call.h"
+#include "pages/mesh/pages.h"
 
 namespace pages::mesh {
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "pages/mesh/pages.h"
-
 #include "caltofal.h"
 #include "pages/failure.h"
+#include "pages/mesh/pages.h"
 #include "pages/process/shell_output.h"
 #include "pages/text.h"
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "pages/mesh/pages.h"
-
 #include "pages/failure.h"
 #include "pages/layer/query.h"
+#include "pages/mesh/pages.h"
 #include "pages/mesh/state.h"
 #include "pages/page.h"
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "pages/network/pages.h"
-
 #include "caltofal.h"
 #include "pages/failure.h"
+#include "pages/network/pages.h"
 #include "pages/page.h"
 
 namespace pages {

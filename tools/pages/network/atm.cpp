@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-#include "pages/network/pages.h"
-
 #include "caltofal.h"
 #include "pages/layer/call.h"
+#include "pages/network/pages.h"
 
 namespace pages {
 

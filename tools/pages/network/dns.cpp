@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 
-#include "pages/network/pages.h"
-
 #include "caltofal.h"
 #include "pages/checked.h"
 #include "pages/layer/call.h"
 #include "pages/network/current.h"
+#include "pages/network/pages.h"
 
 namespace pages {
 namespace {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The clients of the LAN: all, or the one that the library finds by an address.
-#include "pages/network/pages.h"
-
 #include "caltofal.h"
 #include "pages/checked.h"
 #include "pages/failure.h"
 #include "pages/layer/call.h"
 #include "pages/layer/query.h"
+#include "pages/network/pages.h"
 
 #include <map>
 

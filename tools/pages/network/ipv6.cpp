@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 
-#include "pages/network/pages.h"
-
 #include "caltofal.h"
 #include "pages/layer/call.h"
 #include "pages/layer/left_messages.h"
 #include "pages/network/current.h"
+#include "pages/network/pages.h"
 
 #include <charconv>
 

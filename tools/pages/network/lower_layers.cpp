@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "pages/network/pages.h"
-
 #include "caltofal.h"
 #include "pages/checked.h"
 #include "pages/layer/call.h"
 #include "pages/layer/query.h"
+#include "pages/network/pages.h"
 
 #include <algorithm>
 

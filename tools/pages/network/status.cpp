@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "pages/network/pages.h"
-
 #include "pages/failure.h"
+#include "pages/network/pages.h"
 
 #include <initializer_list>
 #include <optional>

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "pages/objects/pages.h"
-
 #include "pages/checked.h"
 #include "pages/failure.h"
+#include "pages/objects/pages.h"
 #include "pages/secret.h"
 #include "pages/text.h"
 

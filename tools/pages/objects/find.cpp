@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "pages/objects/pages.h"
-
 #include "caltofal.h"
 #include "pages/checked.h"
 #include "pages/layer/call.h"
+#include "pages/objects/pages.h"
 #include "pages/page.h"
 #include "pages/secret.h"
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "pages/objects/pages.h"
-
 #include "pages/failure.h"
 #include "pages/layer/definition.h"
 #include "pages/layer/request_log.h"
+#include "pages/objects/pages.h"
 #include "pages/objects/select.h"
 #include "pages/page.h"
 #include "pages/secret.h"

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Writes only what differs from what the gateway holds.
-#include "pages/objects/pages.h"
-
 #include "pages/checked.h"
 #include "pages/failure.h"
+#include "pages/objects/pages.h"
 #include "pages/secret.h"
 #include "pages/text.h"
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "pages/wifi/pages.h"
-
 #include "caltofal.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
 #include "pages/wifi/interface.h"
+#include "pages/wifi/pages.h"
 
 #include <algorithm>
 #include <span>

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 // A snapshot of what the gateway holds, a comparison, and one message with what differs.
-#include "pages/wifi/pages.h"
-
 #include "pages/failure.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
 #include "pages/secret.h"
 #include "pages/wifi/interface.h"
+#include "pages/wifi/pages.h"
 #include "pages/wifi/settings.h"
 
 #include <algorithm>

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 // `wifi channels` and `wifi channel`: what the driver's tools tell about a radio.
-#include "pages/wifi/pages.h"
-
 #include "caltofal.h"
 #include "pages/layer/call.h"
 #include "pages/layer/left_messages.h"
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
 #include "pages/wifi/interface.h"
+#include "pages/wifi/pages.h"
 #include "pages/wifi/radar.h"
 
 #include <algorithm>

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "pages/wifi/pages.h"
-
 #include "caltofal.h"
 #include "pages/failure.h"
 #include "pages/text.h"
+#include "pages/wifi/pages.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "pages/wifi/pages.h"
-
 #include "caltofal.h"
 #include "pages/layer/call.h"
 #include "pages/layer/request_log.h"
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
 #include "pages/wifi/interface.h"
+#include "pages/wifi/pages.h"
 
 #include <filesystem>
 #include <vector>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 // `wifi radios` and `wifi clients`: what the configuration layer alone tells.
-#include "pages/wifi/pages.h"
-
 #include "caltofal.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
 #include "pages/wifi/interface.h"
+#include "pages/wifi/pages.h"
 
 #include <iterator>
 

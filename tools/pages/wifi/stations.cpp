@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "pages/wifi/pages.h"
-
 #include "caltofal.h"
 #include "pages/failure.h"
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
 #include "pages/wifi/interface.h"
+#include "pages/wifi/pages.h"
 #include "pages/wifi/signal.h"
 
 #include <iterator>

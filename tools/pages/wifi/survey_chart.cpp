@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "pages/wifi/pages.h"
-
 #include "caltofal.h"
 #include "pages/page.h"
 #include "pages/wifi/chart.h"
+#include "pages/wifi/pages.h"
 
 namespace pages::wifi {
 namespace {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 // `wifi escape`, `wifi hex` and `wifi clear-confs`: small services of the library.
-#include "pages/wifi/pages.h"
-
 #include "caltofal.h"
 #include "pages/failure.h"
 #include "pages/process/shell_output.h"
+#include "pages/wifi/pages.h"
 
 #include <algorithm>
 #include <cctype>
