@@ -1,4 +1,4 @@
-/* SPDX-License-Identifier: MIT */
+// SPDX-License-Identifier: MIT
 /* Setting values of two objects in one message: set_values CHANNEL [stored] */
 #include <caltofal.h>
 #include <stdio.h>

@@ -1,4 +1,4 @@
-/* SPDX-License-Identifier: MIT */
+// SPDX-License-Identifier: MIT
 /* Several objects in one message, built by hand. */
 #include <caltofal.h>
 #include <stdio.h>

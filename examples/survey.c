@@ -1,4 +1,4 @@
-/* SPDX-License-Identifier: MIT */
+// SPDX-License-Identifier: MIT
 /* A site survey: what is checked before texts reach the shell. survey INTERFACE [SSID] */
 #include <caltofal.h>
 #include <stdio.h>

@@ -1,4 +1,4 @@
-/* SPDX-License-Identifier: MIT */
+// SPDX-License-Identifier: MIT
 /* A page: one record, one call. */
 #include <caltofal.h>
 #include <stdio.h>

@@ -27,7 +27,7 @@ std::string encoded(const std::string &text) {
     std::string result;
     for (const unsigned char byte : text) {
         char escaped[4];
-        snprintf(escaped, sizeof escaped, "%%%02x", byte);
+        snprintf(escaped, sizeof(escaped), "%%%02x", byte);
         result += byte == '/' ? "/" : escaped;
     }
     return result;

@@ -1,4 +1,4 @@
-/* SPDX-License-Identifier: MIT */
+// SPDX-License-Identifier: MIT
 /**
  * @file
  * Reads and changes a residential gateway's TR-181 configuration.

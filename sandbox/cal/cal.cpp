@@ -34,7 +34,7 @@ struct Call {
 };
 
 int refuse(const Call &call, int code, const char *reason) noexcept {
-    std::snprintf(reasonOfThread, sizeof reasonOfThread, "%s", reason);
+    snprintf(reasonOfThread, sizeof(reasonOfThread), "%s", reason);
     logRefusal(call.location, call.operation, code, reason);
     call.trace.end(call.location.name, code, reasonOfThread);
     return code;
@@ -45,7 +45,7 @@ int codeOf(const DatabaseError &error) {
 }
 
 // Runs work(location) and turns what it throws into a code.
-template <typename Work>
+template <class Work>
 int answer(const char *operation, const MsgHeader *message, Work work) noexcept {
     reasonOfThread[0] = '\0';
     Call call(operation, message);
@@ -66,7 +66,7 @@ int answer(const char *operation, const MsgHeader *message, Work work) noexcept 
 }
 
 // Waits, or refuses, where faults are ordered for what the message names. Nothing is locked meanwhile.
-template <typename Request>
+template <class Request>
 void undergoFaults(const Location &location, const char *operation, const std::vector<Request> &requests) {
     std::vector<std::string> keys;
     for (const Request &request : requests) {

@@ -19,7 +19,7 @@ class Connection {
 
     // Lets other threads wait while `use` works with the database of `location`. A database that failed is closed, so
     // that the next message starts afresh.
-    template <typename Use>
+    template <class Use>
     void with(const Location &location, Use use) {
         const std::lock_guard lock(mutex_);
         try {

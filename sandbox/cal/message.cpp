@@ -34,7 +34,7 @@ void judge(const MsgHeader *message, uint32_t mainOper) {
 }
 
 // Calls visit(node, path) for each object. A path that was cut names nothing.
-template <typename Visit>
+template <class Visit>
 void eachObject(const MsgHeader *message, Visit visit) {
     for (ObjectNode *node = nullptr; (node = caltofal_nextObject(message, node)) != nullptr;) {
         if (node->name[0] == '\0') {
@@ -47,7 +47,7 @@ void eachObject(const MsgHeader *message, Visit visit) {
     }
 }
 
-template <typename Visit>
+template <class Visit>
 void eachParam(const ObjectNode &object, Visit visit) {
     for (ParamNode *param = nullptr; (param = caltofal_nextParam(&object, param)) != nullptr;) {
         if (param->name[0] == '\0') {
@@ -121,7 +121,7 @@ void nameAdded(const MsgHeader &message, const std::vector<SetRequest> &requests
     for (const SetRequest &request : requests) {
         node = caltofal_nextObject(&message, node);
         if (!request.added.empty()) {
-            node->name[request.added.copy(node->name, sizeof node->name - 1)] = '\0';
+            node->name[request.added.copy(node->name, sizeof(node->name) - 1)] = '\0';
         }
     }
 }

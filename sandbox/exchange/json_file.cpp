@@ -48,7 +48,7 @@ class Reader {
     }
 
   private:
-    template <typename Work>
+    template <class Work>
     void guarded(size_t line, Work work) {
         try {
             work();

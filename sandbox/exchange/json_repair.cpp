@@ -57,7 +57,7 @@ class Repair {
             rest_.remove_prefix(1);
         } else if (static_cast<uint8_t>(c) < ' ') {
             char escaped[8];
-            std::snprintf(escaped, sizeof escaped, "\\u%04x", static_cast<unsigned>(c));
+            snprintf(escaped, sizeof(escaped), "\\u%04x", static_cast<unsigned>(c));
             out_ += escaped;
             rest_.remove_prefix(1);
         } else {

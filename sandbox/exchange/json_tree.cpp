@@ -84,16 +84,15 @@ class Builder : public nlohmann::json_sax<json> {
         return add(JsonNode::Kind::Text, repaired_ ? bytesRestored(std::move(value)) : std::move(value));
     }
     bool binary(binary_t & /*value*/) override { return false; }
-    bool start_object(std::size_t /*elements*/) override { return open(JsonNode::Kind::Object); }
-    bool start_array(std::size_t /*elements*/) override { return open(JsonNode::Kind::Array); }
+    bool start_object(size_t /*elements*/) override { return open(JsonNode::Kind::Object); }
+    bool start_array(size_t /*elements*/) override { return open(JsonNode::Kind::Array); }
     bool end_object() override { return close(); }
     bool end_array() override { return close(); }
     bool key(string_t &name) override {
         name_ = repaired_ ? bytesRestored(std::move(name)) : std::move(name);
         return true;
     }
-    bool parse_error(std::size_t /*position*/, const std::string & /*token*/,
-                     const json::exception & /*error*/) override {
+    bool parse_error(size_t /*position*/, const std::string & /*token*/, const json::exception & /*error*/) override {
         const std::string_view word = wordBefore(place_);
         const auto later = std::count(word.data() + word.size(), place_.at, '\n');
         throw FileError(file_, place_.line - static_cast<size_t>(later),

@@ -20,7 +20,7 @@ struct AttrParamNode {
     ListLink link;
 };
 
-template <typename Node>
+template <class Node>
 Node *nodeOf(ListLink *link) {
     return reinterpret_cast<Node *>(reinterpret_cast<char *>(link) - offsetof(Node, link));
 }
@@ -40,7 +40,7 @@ void append(ListLink &head, ListLink &entry) {
     head.prev = &entry;
 }
 
-template <typename Node, typename Release>
+template <class Node, class Release>
 void releaseRing(ListLink &head, Release release) {
     ListLink *link = head.next;
     while (link && link != &head) {
@@ -50,7 +50,7 @@ void releaseRing(ListLink &head, Release release) {
     }
 }
 
-template <typename Node, typename Param>
+template <class Node, class Param>
 void releaseList(void *list) {
     Node *head = static_cast<Node *>(list);
     releaseRing<Node>(head->link, [](Node *node) {
@@ -63,16 +63,16 @@ void releaseList(void *list) {
 // Whether the text had to be cut. NULL counts as "".
 template <size_t size>
 bool copyText(char (&field)[size], const char *text) {
-    const size_t length = text ? std::strlen(text) : 0;
+    const size_t length = text ? strlen(text) : 0;
     const size_t kept = length < size ? length : size - 1;
     if (kept != 0) {
-        std::memcpy(field, text, kept);
+        memcpy(field, text, kept);
     }
     field[kept] = '\0';
     return kept != length;
 }
 
-template <typename Node>
+template <class Node>
 Node *newNode() {
     return static_cast<Node *>(std::calloc(1, sizeof(Node)));
 }
@@ -133,8 +133,8 @@ EXPORTED void *help_addParamAttrList(ObjectNode *node, const char *name, uint32_
     }
     copyText(param->name, name);
     const uint32_t words[] = {paramId, access, notify, minimum, maximum, lengthMin, lengthMax, flags, reserved};
-    static_assert(sizeof words == sizeof param->words);
-    std::memcpy(param->words, words, sizeof words);
+    static_assert(sizeof(words) == sizeof(param->words));
+    memcpy(param->words, words, sizeof(words));
     append(reinterpret_cast<AttrObjectNode *>(node)->params, param->link);
     return param;
 }

@@ -34,16 +34,16 @@ struct ParamWords {
 static_assert(sizeof(ObjectWords) <= sizeof(ObjectNode::platform));
 static_assert(sizeof(ParamWords) == sizeof(ParamNode::platform));
 
-template <typename Words, typename Node>
+template <class Words, class Node>
 Words readWords(const Node &node) {
     Words words;
-    std::memcpy(&words, node.platform, sizeof words);
+    memcpy(&words, node.platform, sizeof(words));
     return words;
 }
 
-template <typename Words, typename Node>
+template <class Words, class Node>
 void writeWords(Node &node, const Words &words) {
-    std::memcpy(node.platform, &words, sizeof words);
+    memcpy(node.platform, &words, sizeof(words));
 }
 
 } // namespace sandbox

@@ -72,7 +72,7 @@ class Database {
 class Statement {
   public:
     // Binds `values` to the parameters ?1, ?2, ... Numbers, texts, and empty optionals or nullptr for NULL.
-    template <typename... Values>
+    template <class... Values>
     Statement(Database &database, std::string_view sql, const Values &...values) : Statement(Taken{}, database, sql) {
         bindAll(values...);
     }
@@ -85,7 +85,7 @@ class Statement {
     // Runs a statement that answers no rows.
     void run();
     // Starts over with other values.
-    template <typename... Values>
+    template <class... Values>
     Statement &rebind(const Values &...values) {
         reset();
         bindAll(values...);
@@ -106,7 +106,7 @@ class Statement {
     Statement(Taken /*tag*/, Database &database, std::string_view sql)
         : database_(database), statement_(database.take(sql)) {}
 
-    template <typename... Values>
+    template <class... Values>
     void bindAll(const Values &...values) {
         int index = 0;
         (bind(++index, values), ...);
@@ -117,7 +117,7 @@ class Statement {
     void bind(int index, const std::string &value) { bind(index, std::string_view(value)); }
     void bind(int index, const char *value) { bind(index, std::string_view(value)); }
     void bind(int index, std::nullptr_t);
-    template <typename Value>
+    template <class Value>
     void bind(int index, const std::optional<Value> &value) {
         if (value) {
             bind(index, *value);

@@ -18,10 +18,10 @@ std::string localTime(bool milliseconds) {
     char seconds[32];
     char zone[16];
     char fraction[8] = "";
-    seconds[std::strftime(seconds, sizeof seconds, "%Y-%m-%dT%H:%M:%S", &local)] = '\0';
-    zone[std::strftime(zone, sizeof zone, "%z", &local)] = '\0';
+    seconds[strftime(seconds, sizeof(seconds), "%Y-%m-%dT%H:%M:%S", &local)] = '\0';
+    zone[strftime(zone, sizeof(zone), "%z", &local)] = '\0';
     if (milliseconds) {
-        std::snprintf(fraction, sizeof fraction, ".%03d", static_cast<int>(now.tv_nsec / 1'000'000));
+        snprintf(fraction, sizeof(fraction), ".%03d", static_cast<int>(now.tv_nsec / 1'000'000));
     }
     return std::string(seconds) + fraction + zone;
 }

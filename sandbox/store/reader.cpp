@@ -88,7 +88,7 @@ class Reader {
         std::string name, value;
     };
 
-    template <typename First, typename Second>
+    template <class First, class Second>
     void visit(Scope scope, const First &first, const Second &second, const Names &names) {
         Statement rows(database_, query(scope, request_.defaults, names.size()), first, second);
         for (size_t i = 0; i < names.size(); ++i) {

@@ -63,7 +63,7 @@ bool isGateway(const Location &location);
 std::string keyOfArgument(const std::string &path);
 
 // Options that live as long as their command's work.
-template <typename Options>
+template <class Options>
 std::shared_ptr<Options> makeOptions() {
     return std::make_shared<Options>();
 }

@@ -77,7 +77,7 @@ JsonRow toJson(const Fault &fault) {
             {"nth", fault.remaining}};
 }
 
-template <typename Work>
+template <class Work>
 void inTransaction(const Tool &tool, Work work) {
     const std::unique_ptr<Database> database = tool.open();
     Transaction transaction(*database, Transaction::Kind::Write);

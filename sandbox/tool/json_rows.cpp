@@ -11,7 +11,7 @@ using Json = nlohmann::ordered_json;
 
 struct ToJson {
     Json operator()(std::monostate /*nothing*/) const { return nullptr; }
-    template <typename Value>
+    template <class Value>
     Json operator()(const Value &value) const {
         return value;
     }

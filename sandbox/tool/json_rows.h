@@ -19,7 +19,7 @@ class JsonValue {
     JsonValue(int number) : value_(static_cast<int64_t>(number)) {}
     JsonValue(std::string text) : value_(std::move(text)) {}
     // null where there is nothing.
-    template <typename Value>
+    template <class Value>
     JsonValue(const std::optional<Value> &value) {
         if (value) {
             *this = JsonValue(*value);

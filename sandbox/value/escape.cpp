@@ -22,7 +22,7 @@ bool isControl(char c) {
 
 void appendHex(std::string &out, char byte) {
     char text[5];
-    std::snprintf(text, sizeof text, "\\x%02X", static_cast<uint8_t>(byte));
+    snprintf(text, sizeof(text), "\\x%02X", static_cast<uint8_t>(byte));
     out += text;
 }
 

@@ -1,4 +1,4 @@
-/* SPDX-License-Identifier: MIT */
+// SPDX-License-Identifier: MIT
 /* Prints "FUNCTION ARGUMENT" for each argument that reaches a shell as it is: the table of SECURITY.md. The program's
  * own popen() and system() take the place of libc's and run nothing. The gateway's endpoint has the mark for its
  * interface. */

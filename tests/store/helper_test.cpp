@@ -16,8 +16,8 @@ TEST(Helper, AppendsAndCutsTexts) {
     const std::string longText(3000, 'x');
     ObjectNode *object = help_addObjList(message.header.objectList, longText.c_str(), 11, 12, 13, 14);
     ParamNode *param = help_addParamList(object, longText.c_str(), 15, longText.c_str(), 16);
-    EXPECT_EQ(std::strlen(object->name), sizeof object->name - 1);
-    EXPECT_EQ(std::strlen(param->value), sizeof param->value - 1);
+    EXPECT_EQ(strlen(object->name), sizeof(object->name) - 1);
+    EXPECT_EQ(strlen(param->value), sizeof(param->value) - 1);
     const auto objectWords = readWords<ObjectWords>(*object);
     EXPECT_EQ(objectWords.objectId, 11U);
     EXPECT_EQ(objectWords.instance, 12U);

@@ -26,7 +26,7 @@ using Processes = SandboxTest;
 constexpr int kWorkers = 8;
 
 // Runs work(0) to work(count - 1) in processes of their own, all at once. The results.
-template <typename Work>
+template <class Work>
 std::vector<int> inProcesses(int count, Work work) {
     int gate[2];
     EXPECT_EQ(pipe(gate), 0);

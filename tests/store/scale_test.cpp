@@ -32,7 +32,7 @@ Entries manyHosts() {
 }
 
 // CPU time that one call takes, the least of several runs, in nanoseconds.
-template <typename Call>
+template <class Call>
 double cost(Call call) {
     double least = 1e18;
     for (int run = 0; run < 9; ++run) {

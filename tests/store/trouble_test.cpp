@@ -27,7 +27,7 @@ int getInfo() {
 }
 
 // Runs `work` in a child; its result.
-template <typename Work>
+template <class Work>
 int inChild(Work work) {
     const pid_t child = fork();
     if (child == 0) {

@@ -15,7 +15,7 @@ std::string readableNumber(const Value &value) {
         return std::to_string(value.whole());
     }
     char text[32];
-    snprintf(text, sizeof text, "%.1f", value.number());
+    snprintf(text, sizeof(text), "%.1f", value.number());
     return text;
 }
 

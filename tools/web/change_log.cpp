@@ -26,7 +26,7 @@ std::string now() {
     struct tm parts {};
     gmtime_r(&seconds, &parts);
     char text[32];
-    strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &parts);
+    strftime(text, sizeof(text), "%Y-%m-%dT%H:%M:%SZ", &parts);
     return text;
 }
 

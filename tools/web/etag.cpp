@@ -12,7 +12,7 @@ std::string etagOf(std::string_view content) {
         hash = (hash ^ byte) * 0x100000001b3;
     }
     char text[32];
-    snprintf(text, sizeof text, "\"%016llx\"", static_cast<unsigned long long>(hash));
+    snprintf(text, sizeof(text), "\"%016llx\"", static_cast<unsigned long long>(hash));
     return text;
 }
 

@@ -23,12 +23,12 @@ uint16_t portOf(const std::string &text) {
     return port;
 }
 
-template <typename Address>
+template <class Address>
 ListenAddress asListenAddress(const Address &address, bool loopback, bool any) {
     ListenAddress result;
-    static_assert(sizeof address <= sizeof result.address);
-    __builtin_memcpy(&result.address, &address, sizeof address);
-    result.size = sizeof address;
+    static_assert(sizeof(address) <= sizeof(result.address));
+    __builtin_memcpy(&result.address, &address, sizeof(address));
+    result.size = sizeof(address);
     result.loopback = loopback;
     result.any = any;
     return result;
@@ -70,8 +70,8 @@ Listener listenOn(const ListenAddress &address) {
     const int one = 1;
     const int descriptor = socket(target->sa_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
     sockaddr_storage bound{};
-    socklen_t size = sizeof bound;
-    if (descriptor < 0 || setsockopt(descriptor, SOL_SOCKET, SO_REUSEADDR, &one, sizeof one) != 0 ||
+    socklen_t size = sizeof(bound);
+    if (descriptor < 0 || setsockopt(descriptor, SOL_SOCKET, SO_REUSEADDR, &one, sizeof(one)) != 0 ||
         bind(descriptor, target, address.size) != 0 || listen(descriptor, kBacklog) != 0 ||
         getsockname(descriptor, reinterpret_cast<sockaddr *>(&bound), &size) != 0) {
         const int error = errno;
@@ -86,10 +86,10 @@ Listener listenOn(const ListenAddress &address) {
 std::string addressText(const sockaddr *address) {
     char text[INET6_ADDRSTRLEN] = "";
     if (address->sa_family == AF_INET6) {
-        inet_ntop(AF_INET6, &reinterpret_cast<const sockaddr_in6 *>(address)->sin6_addr, text, sizeof text);
+        inet_ntop(AF_INET6, &reinterpret_cast<const sockaddr_in6 *>(address)->sin6_addr, text, sizeof(text));
         return "[" + std::string(text) + "]";
     }
-    inet_ntop(AF_INET, &reinterpret_cast<const sockaddr_in *>(address)->sin_addr, text, sizeof text);
+    inet_ntop(AF_INET, &reinterpret_cast<const sockaddr_in *>(address)->sin_addr, text, sizeof(text));
     return text;
 }
 

@@ -33,7 +33,7 @@ bool isBelow(const std::string &path, const std::string &directory) {
     return path == directory || directory == "/" || path.starts_with(directory + "/");
 }
 
-template <typename Directories>
+template <class Directories>
 bool isBelowAny(const std::string &path, const Directories &directories) {
     return std::any_of(std::begin(directories), std::end(directories),
                        [&](const char *directory) { return isBelow(path, directory); });

@@ -21,7 +21,7 @@ void link(const std::string &target, const std::string &path) {
 }
 
 // Calls visit(name) for each entry but "." and "..".
-template <typename Visit>
+template <class Visit>
 void eachEntry(const std::string &directory, Visit visit) {
     const std::unique_ptr<DIR, int (*)(DIR *)> open(opendir(directory.c_str()), closedir);
     while (const dirent *entry = open ? readdir(open.get()) : nullptr) {

@@ -51,7 +51,7 @@ SystemLog::SystemLog()
       file_(open(kFile, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644)) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    std::strcpy(address.sun_path, kPath);
+    strcpy(address.sun_path, kPath);
     if (file_ < 0) {
         fail(kFile);
     }

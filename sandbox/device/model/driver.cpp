@@ -183,7 +183,7 @@ class Watch {
         close(report);
         keepTrue(view, watch);
     } catch (const std::exception &error) {
-        [[maybe_unused]] const ssize_t written = write(report, error.what(), std::strlen(error.what()));
+        [[maybe_unused]] const ssize_t written = write(report, error.what(), strlen(error.what()));
         _exit(1);
     }
 }

@@ -33,7 +33,7 @@ std::vector<std::string> objectsOf(const MsgHeader *message) {
     }
     for (const ObjectNode *object = caltofal_nextObject(message, nullptr); object;
          object = caltofal_nextObject(message, object)) {
-        names.emplace_back(object->name, strnlen(object->name, sizeof object->name));
+        names.emplace_back(object->name, strnlen(object->name, sizeof(object->name)));
     }
     return names;
 }

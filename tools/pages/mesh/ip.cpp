@@ -16,7 +16,7 @@ constexpr size_t kBufferSize = 128;
 
 Report ip(const std::string &mac) {
     char buffer[kBufferSize] = "";
-    snprintf(buffer, sizeof buffer, "%s", mac.c_str());
+    snprintf(buffer, sizeof(buffer), "%s", mac.c_str());
     ShellOutput output;
     ZINTU_meshgrove_get_IP_from_MAC(buffer);
     const std::string complaint = output.end();

@@ -27,7 +27,7 @@ Page ipv6() {
     ZintuWanInfo info{};
     info.bIpv6Enable = kUntouchedFlag;
     const std::string interface = gatewayInterface();
-    interface.copy(info.sWanIpInterface, sizeof info.sWanIpInterface - 1);
+    interface.copy(info.sWanIpInterface, sizeof(info.sWanIpInterface) - 1);
     info.nWanIpIfIndex = indexOf(interface);
     const LeftMessages left;
     const int forwarding = ask([&] { return ZintuGet_WanIPv6(&info); },
