@@ -124,7 +124,7 @@ FAILURES = [
     ("home", "wifi", 2, None, "wifi: what to do is missing; see caltofal wifi --help"),
     ("home", "wifi frob", 2, None, 'wifi: "frob" is not a verb of it; see caltofal wifi --help'),
     ("home", "wifi channels", 2, None, "wifi channels: INTERFACE is missing; see caltofal wifi channels --help"),
-    ("home", "wifi clients 3", 2, None, 'radio "3" is not a number from 1 to 2'),
+    ("home", "wifi clients 3", 10, -202, "there is no radio 3: the gateway has 1, 2"),
     ("home", "wifi ssid 99", 10, -202, None),
     ("home", "wifi acl 99", 10, -202, None),
     ("home", "wifi acl 1 --mac 00-00-5e:00-53-99", 2, None, '"00-00-5e:00-53-99" is not a MAC address: six pairs of '

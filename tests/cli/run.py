@@ -283,6 +283,26 @@ class FailedRequests(unittest.TestCase):
         self.assertEqual((pages["dsl"]["error"]["exit"], pages["lan"]["ipv4"]["dhcp_active"]), (4, True))
 
 
+# Command on that gateway, lines of the answer or of the error.
+OTHER_MAKER = {
+    "radios": ["1 radio1 - - 1 - - 1", "2 radio2 - - 2 - - 2", "3 radio3 - - 3 - - 3"],
+    "ssids": ["5 - 3 net5 - - yes -", "7 - - alone - - - -"],
+    "clients 2": ["2"], "clients 3": ["3"],
+    "clients 4": ["there is no radio 4: the gateway has 1, 2, 3"],
+    "radio 3": ["Radio.3.Channel 3", "Radio.3.TransmitPower -", "AccessPoint.3.WMMEnable -"],
+    "radio 4": ["there is no radio 4: the gateway has 1, 2, 3"],
+    "ssid 5": ["SSID.5.SSID net5", "SSID.5.BSSID -", "AccessPoint.3.Security.ModeEnabled WPA2-Personal WPA2-PSK",
+               "AccessPoint.3.X_LANTIQ_COM_Vendor.MACAddressControlEnabled -"],
+    "ssid 7": ["SSID.7.SSID alone"],
+    "ssid 4": ["there is no SSID 4: the gateway has 1, 2, 5, 6, 7"],
+    "acl 5": ["Filter Allow", "2 02:00:5E:00:00:02"],
+    "acl 5 --mac 02:00:5e:00:00:02": ["02:00:5e:00:00:02 may join"],
+    "acl 1": ["Device.WiFi.AccessPoint.1 has no MAC filter"],
+    "acl 4": ["there is no SSID 4: the gateway has 1, 2, 5, 6, 7"],
+    "acl 7": ["SSID 7 has no access point: no MAC filter"],
+}
+
+
 class Lacking(unittest.TestCase):
     """Gateways that do not have all that a page can show."""
 
@@ -326,6 +346,41 @@ class Lacking(unittest.TestCase):
         self.assertIn("--all shows the whole one", result.err)
         whole = self.run_tool("lower-layers", "Device.IP.Interface.3", "--all")
         self.assertEqual(whole.out.decode(), layers.replace(".,", ",").rstrip(".") + "\n")
+
+    def test_wifi_pages_of_another_maker_show_what_there_is(self):
+        self.import_other_maker()
+        for words, wanted in OTHER_MAKER.items():
+            with self.subTest(words):
+                result = self.run_tool("wifi", *words.split(), "-g", "other")
+                text = re.sub(" +", " ", result.out.decode()) or result.err.removeprefix("caltofal: ")
+                for line in wanted:
+                    self.assertIn(line + "\n", text)
+                self.assertEqual(result.code, 0 if result.out else 10)
+        settings = json.loads(self.run_tool("wifi", "ssid", "5", "-g", "other", "--json").out)["settings"]
+        self.assertEqual(settings["Device.WiFi.SSID.5"]["X_ZINTU_Active"], None)
+        self.assertEqual(self.run_tool("wifi", "set", "ssid", "5", "IsolationEnable=true", "-g", "other").code, 10)
+
+    def import_other_maker(self):
+        """SSIDs numbered freely, access points by reference, three radios, none of the objects of the demos' maker."""
+        model = {}
+        for radio in (1, 2, 3):
+            model |= {f"Radio.{radio}.Name": f"radio{radio}", f"Radio.{radio}.Enable": "1",
+                      f"Radio.{radio}.Channel": str(radio), f"Radio.{radio}.X_OTHER_Steering.Channel": "9"}
+        for point, (ssid, radio) in enumerate(((1, 1), (2, 2), (5, 3), (6, 2)), 1):
+            model |= {f"SSID.{ssid}.SSID": f"net{ssid}", f"SSID.{ssid}.Enable": "1",
+                      f"SSID.{ssid}.LowerLayers": f"Device.WiFi.Radio.{radio}.",
+                      f"AccessPoint.{point}.SSIDReference": f"Device.WiFi.SSID.{ssid}.",
+                      f"AccessPoint.{point}.AssociatedDeviceNumberOfEntries": str(point),
+                      f"AccessPoint.{point}.Security.ModeEnabled": "WPA2-Personal"}
+            model |= {f"AccessPoint.{point}.AssociatedDevice.{device}.MACAddress": "02:00:5E:00:00:01"
+                      for device in range(1, point + 1)}
+        model |= {"SSID.6.Enable": "0", "SSID.7.SSID": "alone", "AccessPoint.3.MACAddressControlEnabled": True,
+                  "AccessPoint.3.AllowedMACAddress": "02:00:5E:00:00:01, 02:00:5E:00:00:02"}
+        path = os.path.join(self.folder, "other.json")
+        with open(path, "w", encoding="ascii") as file:
+            json.dump({"Device.WiFi." + name: value for name, value in model.items()}, file)
+        self.assertEqual(subprocess.run([tool.sandbox_executable, "import", "other", path], stderr=subprocess.DEVNULL,
+                                        env=tool.environment(self.folder), check=False).returncode, 0)
 
 
 class Words(unittest.TestCase):

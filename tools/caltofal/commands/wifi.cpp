@@ -64,7 +64,7 @@ Show prepareStations(const Arguments &given) {
 }
 
 Show prepareClients(const Arguments &given) {
-    return [radio = checkedNumber(given.word("RADIO"), "radio", 1, 2)] { return wifi::clients(radio); };
+    return [radio = checkedInstance(given.word("RADIO"), "radio")] { return wifi::clients(radio); };
 }
 
 Show prepareAcl(const Arguments &given) {
@@ -190,7 +190,7 @@ const Command kVerbs[] = {
      "The number of clients of a radio's active SSIDs",
      "1",
      prepareClients,
-     {{"RADIO", Take::Word, "1 or 2"}}},
+     {{"RADIO", Take::Word, "A radio's instance number"}}},
     {"acl",
      "The MAC filter of an SSID",
      "1\n9 --mac 00:00:5e:00:53:99",

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal.h"
+#include "pages/failure.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
-#include "pages/wifi/interface.h"
+#include "pages/wifi/instances.h"
 #include "pages/wifi/pages.h"
 
 #include <algorithm>
+#include <iterator>
 #include <span>
+#include <sstream>
 
 namespace pages::wifi {
 namespace {
@@ -19,7 +22,20 @@ struct Answer {
     ~Answer() { faltocal_finalize(&header); }
 };
 
-void readEntries(const std::string &table, MacAccessList &list) {
+// The filter of an access point. The gateway's maker has it in objects of its own; the standard has one that admits the
+// listed stations only.
+struct Filter {
+    std::string mode; // "" where the gateway does not say
+    Value entries = Value::list();
+    bool full = false;
+};
+
+void addEntry(Filter &filter, const Value &index, const std::string &name, const std::string &mac) {
+    filter.entries.push(Value::object({{"index", index}, {"name", name}, {"mac", mac}}));
+}
+
+void readEntries(const std::string &table, Filter &filter) {
+    MacAccessList list{};
     Answer answer;
     ask([&] { return faltocal_send_main_multi_obj(&answer.header, table.c_str(), "get", "get", 0); },
         {table + ": no MAC filter"});
@@ -27,15 +43,73 @@ void readEntries(const std::string &table, MacAccessList &list) {
          object = caltofal_nextObject(&answer.header, object)) {
         GetMacAccessList(object, table.c_str(), &list);
     }
+    for (const MacAccessEntry &entry : std::span(list.entries, static_cast<size_t>(list.count))) {
+        addEntry(filter, entry.index, text(entry.name), text(entry.macAddress));
+    }
+    filter.full = list.count == static_cast<int32_t>(std::size(list.entries));
 }
 
-std::span<const MacAccessEntry> entries(const MacAccessList &list) {
-    return {list.entries, static_cast<size_t>(list.count)};
+void readMode(const std::string &accessPoint, Filter &filter) {
+    const std::vector<Object> vendor =
+        get({{accessPoint + ".X_LANTIQ_COM_Vendor", {{"MACAddressControlEnabled"}}}}, Reading::Leaf);
+    filter.mode = vendor.empty() ? "" : valueOf(vendor.front(), "MACAddressControlEnabled");
 }
 
-bool isListed(const MacAccessList &list, const std::string &mac) {
-    return std::any_of(entries(list).begin(), entries(list).end(), [&](const MacAccessEntry &entry) {
-        const std::string listed = text(entry.macAddress);
+void readStandard(const std::string &accessPoint, Filter &filter) {
+    const std::vector<Object> found =
+        get({{accessPoint, {{"MACAddressControlEnabled"}, {"AllowedMACAddress"}}}}, Reading::Leaf);
+    if (found.empty() || found.front().parameters.empty()) {
+        throw Failure(Category::Absent, accessPoint + " has no MAC filter", accessPoint);
+    }
+    const Value on = flagOf(valueOf(found.front(), "MACAddressControlEnabled"));
+    filter.mode = on.isNull() ? "" : on.flag() ? "Allow" : "Disabled";
+    std::istringstream list(valueOf(found.front(), "AllowedMACAddress"));
+    int32_t index = 0;
+    for (std::string mac; std::getline(list >> std::ws, mac, ',');) {
+        addEntry(filter, ++index, "", mac);
+    }
+}
+
+// Whether the gateway has what `read` asks for.
+bool succeeds(void (*read)(const std::string &path, Filter &filter), const std::string &path, Filter &filter) {
+    try {
+        read(path, filter);
+        return true;
+    } catch (const Failure &failure) {
+        if (failure.category() != Category::Absent) {
+            throw;
+        }
+        return false;
+    }
+}
+
+std::string accessPointPath(int number) {
+    return "Device.WiFi.AccessPoint." + std::to_string(number);
+}
+
+Filter filterOf(int ssid) {
+    Filter filter;
+    std::string accessPoint = accessPointPath(ssid);
+    bool mode = succeeds(readMode, accessPoint, filter);
+    if (!mode) {
+        requireSsid(ssid);
+        const int number = accessPointOf(ssid);
+        if (number == 0) {
+            throw Failure(Category::Absent, "SSID " + std::to_string(ssid) + " has no access point: no MAC filter",
+                          "Device.WiFi.AccessPoint");
+        }
+        accessPoint = accessPointPath(number);
+        mode = number != ssid && succeeds(readMode, accessPoint, filter);
+    }
+    if (!succeeds(readEntries, accessPoint + ".X_ZINTU_MacFilter", filter) && !mode) {
+        readStandard(accessPoint, filter);
+    }
+    return filter;
+}
+
+bool isListed(const Filter &filter, const std::string &mac) {
+    return std::any_of(filter.entries.items().begin(), filter.entries.items().end(), [&](const Value &entry) {
+        const std::string listed = entry["mac"].text();
         return listed.size() == mac.size() &&
                my_strnicmp(listed.c_str(), mac.c_str(), static_cast<int>(mac.size())) == 0;
     });
@@ -46,41 +120,27 @@ bool isAdmitted(const std::string &mode, bool listed) {
     return mode == "Disabled" || (ConvMacACLModeToUI(mode.c_str()) == 1) == listed;
 }
 
-struct Filter {
-    std::string mode;
-    MacAccessList list{};
-};
-
-Filter filterOf(int ssid) {
-    const std::string accessPoint = "Device.WiFi.AccessPoint." + std::to_string(ssid);
-    const std::vector<Object> vendor =
-        get({{accessPoint + ".X_LANTIQ_COM_Vendor", {{"MACAddressControlEnabled"}}}}, Reading::Leaf);
-    Filter filter;
-    filter.mode = vendor.empty() ? "" : valueOf(vendor.front(), "MACAddressControlEnabled");
-    readEntries(accessPoint + ".X_ZINTU_MacFilter", filter.list);
-    return filter;
-}
-
 } // namespace
 
 Report mayJoin(int ssid, const std::string &mac) {
     const Filter filter = filterOf(ssid);
-    const bool admitted = isAdmitted(filter.mode, isListed(filter.list, mac));
+    if (filter.mode.empty()) {
+        throw Failure(Category::Absent, "SSID " + std::to_string(ssid) +
+                                            ": the gateway does not say whether its MAC filter allows or denies");
+    }
+    const bool admitted = isAdmitted(filter.mode, isListed(filter, mac));
     return {.json = Value::object({{"ssid", ssid}, {"mode", filter.mode}, {"mac", mac}, {"admitted", admitted}}),
             .raw = mac + (admitted ? " may join\n" : " may not join\n")};
 }
 
 Report macFilter(int ssid) {
-    const auto [mode, list] = filterOf(ssid);
-    Report result{.json = Value::object({{"ssid", ssid}, {"mode", mode}, {"entries", Value::list()}})};
-    result.table.rows.push_back({{"Filter"}, {readable(mode)}, {}});
-    for (const MacAccessEntry &entry : entries(list)) {
-        const Value json =
-            Value::object({{"index", entry.index}, {"name", text(entry.name)}, {"mac", text(entry.macAddress)}});
-        result.table.rows.push_back({{readable(json["index"])}, {text(entry.macAddress)}, {text(entry.name)}});
-        result.json["entries"].push(json);
+    const Filter filter = filterOf(ssid);
+    Report result{.json = Value::object({{"ssid", ssid}, {"mode", filter.mode}, {"entries", filter.entries}})};
+    result.table.rows.push_back({{"Filter"}, {readable(filter.mode)}, {}});
+    for (const Value &entry : filter.entries.items()) {
+        result.table.rows.push_back({{readable(entry["index"])}, {entry["mac"].text()}, {entry["name"].text()}});
     }
-    if (list.count == static_cast<int32_t>(std::size(list.entries))) {
+    if (filter.full) {
         result.notes.emplace_back("the list is full: entries beyond the 32nd are left out");
     }
     return result;

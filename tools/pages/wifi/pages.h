@@ -18,7 +18,7 @@ namespace pages::wifi {
 // What the configuration layer alone tells.
 Report radios();
 Report ssids();
-Report clients(int radio); // how many a radio's active SSIDs have; of radios 1 and 2
+Report clients(int radio); // how many a radio's active SSIDs have
 Report macFilter(int ssid);
 Report mayJoin(int ssid, const std::string &mac); // by the MAC filter; `mac` with colons
 

@@ -3,9 +3,10 @@
 #include "caltofal.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
-#include "pages/wifi/interface.h"
+#include "pages/wifi/instances.h"
 #include "pages/wifi/pages.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace pages::wifi {
@@ -13,24 +14,44 @@ namespace {
 
 constexpr int kFapiToUi = 1; // direction of the library's converters
 
-// Of radios 1 and 2; others the library does not count.
-Value clientsOf(int radio) {
-    if (radio != 1 && radio != 2) {
-        return {};
-    }
-    return askEvery([&] { return GetAssociatedDeviceNumberOfEntries(radio); });
+bool isOn(const std::string &flag) {
+    return flag.empty() || ConvStrToBool(flag.c_str()) != 0;
 }
 
-// Null where the gateway does not count them.
-Value knownClientsOf(int radio) {
-    try {
-        return clientsOf(radio);
-    } catch (const Failure &failure) {
-        if (failure.category() == Category::Absent) {
-            return {};
+// On gateways of other makers, whose SSIDs have other numbers and no X_ZINTU_Active. Null where no access point of the
+// radio counts its clients.
+Value countedClientsOf(int radio) {
+    const std::vector<Object> accessPoints =
+        anyInstancesOf("Device.WiFi.AccessPoint", {{"SSIDReference"}, {"Enable"}, {"AssociatedDeviceNumberOfEntries"}});
+    Value sum;
+    for (const Object &ssid : anyInstancesOf("Device.WiFi.SSID", {{"Enable"}, {"X_ZINTU_Active"}, {"LowerLayers"}})) {
+        const int number = radioOf(ssid) == radio ? accessPointOf(instanceOf(ssid.name), accessPoints) : 0;
+        const auto accessPoint = std::find_if(accessPoints.begin(), accessPoints.end(), [&](const Object &one) {
+            return number != 0 && instanceOf(one.name) == number;
+        });
+        const Value clients = accessPoint == accessPoints.end()
+                                  ? Value()
+                                  : numberOf(valueOf(*accessPoint, "AssociatedDeviceNumberOfEntries"));
+        if (clients.isNumber()) {
+            const bool counts = isOn(valueOf(ssid, "Enable")) && isOn(valueOf(ssid, "X_ZINTU_Active"));
+            sum = (sum.isNumber() ? sum.whole() : 0) + (counts ? clients.whole() : 0);
         }
-        throw;
     }
+    return sum;
+}
+
+// The library counts on radios 1 and 2, where each has eight SSIDs.
+Value clientsOf(int radio) {
+    try {
+        if (radio == 1 || radio == 2) {
+            return askEvery([&] { return GetAssociatedDeviceNumberOfEntries(radio); });
+        }
+    } catch (const Failure &failure) {
+        if (failure.category() != Category::Absent) {
+            throw;
+        }
+    }
+    return countedClientsOf(radio);
 }
 
 Value jsonOf(const Object &radio) {
@@ -48,7 +69,7 @@ Value jsonOf(const Object &radio) {
     json["auto_channel"] = flagOf(valueOf(radio, "AutoChannelEnable"));
     json["bandwidth_mhz"] = typed("bandwidth", BandWidth_ConvStr(width.c_str(), kFapiToUi));
     json["standards"] = OperatingStandards_ConvStr(standards.c_str(), kFapiToUi);
-    json["clients"] = knownClientsOf(number);
+    json["clients"] = clientsOf(number);
     return json;
 }
 
@@ -76,7 +97,7 @@ Report radios() {
                                            {"AutoChannelEnable"},
                                            {"OperatingChannelBandwidth"},
                                            {"OperatingStandards"}};
-    for (const Object &radio : get({{"Device.WiFi.Radio", wanted}}, Reading::Whole)) {
+    for (const Object &radio : instancesOf("Device.WiFi.Radio", wanted)) {
         const Value json = jsonOf(radio);
         result.table.rows.push_back(rowOf(json));
         result.json["radios"].push(json);
@@ -85,6 +106,7 @@ Report radios() {
 }
 
 Report clients(int radio) {
+    requireRadio(radio);
     const Value clients = clientsOf(radio);
     return {.json = Value::object({{"radio", radio}, {"clients", clients}}), .raw = readable(clients) + "\n"};
 }

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
-// `wifi ssid` and `wifi radio`, and the snapshots behind them.
+// `wifi ssid` and `wifi radio`, and the words of the user interface.
 #include "pages/wifi/settings.h"
 
 #include "pages/failure.h"
-#include "pages/layer/call.h"
 #include "pages/page.h"
 #include "pages/secret.h"
-#include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace pages::wifi {
 namespace {
@@ -77,25 +76,6 @@ Subject subjectOf(const std::string &word) {
     return word == "ssid" ? Subject::Ssid : Subject::Radio;
 }
 
-Settings snapshot(Subject subject, int instance) {
-    auto table = std::make_unique<WifiParamTable>();
-    const auto call = [&] {
-        return subject == Subject::Ssid ? GetSsIdInfoFromFapiToBuff(instance, table.get())
-                                        : GetWireInfoFromFapiToBuff(instance, table.get());
-    };
-    const auto isUplink = [&] {
-        const std::vector<Object> ssid =
-            get({{"Device.WiFi.SSID." + std::to_string(instance), {{"X_ZINTU_NetworkType", {}}}}}, Reading::Leaf);
-        return !ssid.empty() && valueOf(ssid.front(), "X_ZINTU_NetworkType") == "uplink";
-    };
-    if (subject == Subject::Ssid && isUplink()) {
-        throw Failure(Category::Absent, "SSID " + std::to_string(instance) + " is an uplink: it has no access point",
-                      "Device.WiFi.AccessPoint." + std::to_string(instance));
-    }
-    ask(call, {"no settings of that number"});
-    return table;
-}
-
 std::string uiWord(const std::string &parameter, const std::string &value) {
     const Words *row = converterOf(parameter);
     return row ? row->convert(value.c_str(), 1) : value;
@@ -110,23 +90,45 @@ std::string fapiWord(const std::string &parameter, const std::string &value) {
     return row->convert(value.c_str(), 0);
 }
 
+namespace {
+
+struct Shown {
+    std::string object;
+    std::string name;
+    std::optional<std::string> value;
+};
+
+// What the gateway lacks stands behind what it has of the same object.
+std::vector<Shown> shownSettings(const Snapshot &snapshot) {
+    std::vector<Shown> all;
+    for (const WifiParamRow &row : rows(*snapshot.held)) {
+        all.push_back({text(row.object), text(row.parameter), text(row.value)});
+    }
+    for (const MissingSetting &missing : snapshot.missing) {
+        const auto last =
+            std::find_if(all.rbegin(), all.rend(), [&](const Shown &shown) { return shown.object == missing.object; });
+        all.insert(last == all.rend() ? all.end() : last.base(), {missing.object, missing.name, std::nullopt});
+    }
+    return all;
+}
+
+} // namespace
+
 Report settings(Subject subject, int instance) {
-    const Settings current = snapshot(subject, instance);
     Report result{.json = Value::object({{subject == Subject::Ssid ? "ssid" : "radio", instance},
                                          {"settings", Value::object()},
                                          {"user_interface", Value::object()}})};
     result.table.headings = {"SETTING", "VALUE", "USER INTERFACE"};
-    for (const WifiParamRow &row : rows(*current)) {
-        const std::string object = text(row.object);
-        const std::string name = text(row.parameter);
-        const std::string value = text(row.value);
-        const std::string ui = uiWord(name, value);
-        result.json["settings"][object][name] = shownValue(name, value);
-        if (ui != value) { // never a secret
+    for (const auto &[object, name, value] : shownSettings(wholeSnapshot(subject, instance))) {
+        result.json["settings"][object][name] = value ? shownValue(name, *value) : Value();
+        const std::string ui = value ? uiWord(name, *value) : "";
+        const bool differs = value && ui != *value; // never a secret
+        if (differs) {
             result.json["user_interface"][object][name] = ui;
         }
-        result.table.rows.push_back(
-            {{lastPart(object) + "." + name}, {readable(shownText(name, value))}, {ui == value ? "" : ui}});
+        result.table.rows.push_back({{lastPart(object) + "." + name},
+                                     {value ? readable(shownText(name, *value)) : readable({})},
+                                     {differs ? ui : ""}});
     }
     return result;
 }

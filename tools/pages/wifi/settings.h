@@ -8,6 +8,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace pages::wifi {
 
@@ -19,7 +20,18 @@ Subject subjectOf(const std::string &word);
 // A table is too large for the stack of a small device.
 using Settings = std::unique_ptr<WifiParamTable>;
 
-// What the gateway holds. Throws Failure.
+struct MissingSetting {
+    std::string object;
+    std::string name;
+};
+
+struct Snapshot {
+    Settings held;                            // what the gateway holds
+    std::vector<MissingSetting> missing = {}; // what the library keeps of other gateways and this one does not have
+};
+
+// The settings of an SSID or a radio. Throws Failure.
+Snapshot wholeSnapshot(Subject subject, int instance);
 Settings snapshot(Subject subject, int instance);
 
 inline std::span<const WifiParamRow> rows(const WifiParamTable &table) {

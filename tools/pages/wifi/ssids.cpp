@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal.h"
 #include "pages/page.h"
-#include "pages/wifi/interface.h"
+#include "pages/wifi/instances.h"
 #include "pages/wifi/pages.h"
 
 namespace pages::wifi {
 namespace {
 
 Value jsonOf(const Object &ssid) {
-    const int radio = instanceOf(valueOf(ssid, "LowerLayers"));
+    const int radio = radioOf(ssid);
     Value json = Value::object({{"number", instanceOf(ssid.name)}});
     json["interface"] = valueOf(ssid, "Name");
     json["radio"] = radio == 0 ? Value() : Value(radio);
@@ -27,7 +27,7 @@ Report ssids() {
     result.table.headings = {"NUMBER", "INTERFACE", "RADIO", "SSID", "BSSID", "NETWORK", "ENABLED", "ACTIVE"};
     const std::vector<Parameter> wanted = {{"Name"},   {"LowerLayers"},   {"SSID"}, {"BSSID"}, {"X_ZINTU_NetworkType"},
                                            {"Enable"}, {"X_ZINTU_Active"}};
-    for (const Object &ssid : get({{"Device.WiFi.SSID", wanted}}, Reading::Whole)) {
+    for (const Object &ssid : instancesOf("Device.WiFi.SSID", wanted)) {
         const Value json = jsonOf(ssid);
         result.table.rows.push_back(
             rowOf(json, {"number", "interface", "radio", "ssid", "bssid", "network", "enabled", "active"}));

@@ -5,6 +5,7 @@
 #include "pages/failure.h"
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
+#include "pages/wifi/instances.h"
 #include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
 #include "pages/wifi/radar.h"
@@ -83,7 +84,7 @@ bool exists(const std::string &file) {
 
 std::vector<InterfaceName> interfacesWithResult() {
     std::vector<InterfaceName> names;
-    for (const Object &ssid : get({{"Device.WiFi.SSID", {{"Name"}}}}, Reading::Whole)) {
+    for (const Object &ssid : instancesOf("Device.WiFi.SSID", {{"Name"}})) {
         const std::string name = valueOf(ssid, "Name");
         if (!name.empty() && exists(surveyFile(InterfaceName(name)))) {
             names.emplace_back(name);

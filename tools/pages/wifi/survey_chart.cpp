@@ -2,6 +2,7 @@
 #include "caltofal.h"
 #include "pages/page.h"
 #include "pages/wifi/chart.h"
+#include "pages/wifi/instances.h"
 #include "pages/wifi/pages.h"
 
 namespace pages::wifi {
@@ -22,7 +23,7 @@ std::vector<ChartedNetwork> ownRadios() {
     std::vector<ChartedNetwork> radios;
     const std::vector<Parameter> wanted = {
         {"Name"}, {"Enable"}, {"Channel"}, {"OperatingChannelBandwidth"}, {"ExtensionChannel"}};
-    for (const Object &radio : get({{"Device.WiFi.Radio", wanted}}, Reading::Whole)) {
+    for (const Object &radio : instancesOf("Device.WiFi.Radio", wanted)) {
         const Value width =
             typed("", BandWidth_ConvStr(valueOf(radio, "OperatingChannelBandwidth").c_str(), kFapiToUi));
         const ChartedNetwork own = {.channel = ConvInt(valueOf(radio, "Channel").c_str()),

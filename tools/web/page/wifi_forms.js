@@ -6,11 +6,11 @@ import {bandName, get} from "./main.js";
 
 const STANDARDS = {"2.4g": ["b", "g", "n", "b+g", "g+n", "b+g+n"], "5g": ["a", "n", "ac", "a+n", "n+ac", "a+n+ac"]};
 
-// The fields of those parameters that the snapshot has.
+// The fields of those parameters that the gateway has: others are null.
 function fieldsOf({settings, user_interface: words}, fields) {
   const values = Object.assign({}, ...Object.entries(settings).map(([object, values]) =>
     ({...values, ...words[object]})));
-  return fields.filter(field => field.name in values).map(field =>
+  return fields.filter(field => values[field.name] != null).map(field =>
     ({...field, value: values[field.name], ...field.from?.(values)}));
 }
 
