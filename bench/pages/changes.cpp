@@ -76,6 +76,6 @@ bench::Page changes() {
     return page;
 }
 
-const bench::AddPage added(changes());
+const bench::AddPage kAdded(changes());
 
 } // namespace

@@ -357,8 +357,8 @@ int floorPage(ZintuWanInfo *info) {
     return code;
 }
 
-const bench::AddPage defaultWan(bench::limited(bench::page<ZintuGet_DefWanInfo, floorPage>("default-wan", kAnswers,
-                                                                                           bench::Growth::Params),
-                                               1.043, 1.53));
+const bench::AddPage
+    kAdded(bench::limited(bench::page<ZintuGet_DefWanInfo, floorPage>("default-wan", kAnswers, bench::Growth::Params),
+                          1.043, 1.53));
 
 } // namespace

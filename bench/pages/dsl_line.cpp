@@ -259,7 +259,7 @@ int floorPage(ZintuDslLineInfo *info) {
                : -1;
 }
 
-const bench::AddPage dslLine(
+const bench::AddPage kAdded(
     bench::limited(bench::page<ZintuGet_LineInfo, floorPage>("dsl-line", kAnswers, bench::Growth::Params), 1.05, 1.70));
 
 } // namespace

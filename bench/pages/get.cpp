@@ -77,7 +77,7 @@ int floorPage(Record *record) {
     return code;
 }
 
-const bench::AddPage getPage(bench::limited(bench::page<libraryPage, floorPage>("get", kAnswers, bench::Growth::Params),
-                                            1.034, 1.33));
+const bench::AddPage kAdded(bench::limited(bench::page<libraryPage, floorPage>("get", kAnswers, bench::Growth::Params),
+                                           1.034, 1.33));
 
 } // namespace

@@ -145,7 +145,7 @@ bench::Page hostLookup() {
         1.046, 1.98);
 }
 
-const bench::AddPage few(hostLookup<50>());
-const bench::AddPage many(hostLookup<1000>());
+const bench::AddPage kFew(hostLookup<50>());
+const bench::AddPage kMany(hostLookup<1000>());
 
 } // namespace

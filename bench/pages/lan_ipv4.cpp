@@ -204,7 +204,7 @@ bench::Page lanIpv4Quiet() {
     return bench::page<ZintuGet_LANv4Info, quietFloorPage>("lan-ipv4-quiet", kAnswers, bench::Growth::None);
 }
 
-const bench::AddPage added(lanIpv4());
-const bench::AddPage addedQuiet(lanIpv4Quiet());
+const bench::AddPage kAdded(lanIpv4());
+const bench::AddPage kAddedQuiet(lanIpv4Quiet());
 
 } // namespace

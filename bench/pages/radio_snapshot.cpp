@@ -176,7 +176,7 @@ bench::Page snapshot(const char *name, int times, double total, double own) {
     return bench::limited(page, total, own);
 }
 
-const bench::AddPage oneRadio(snapshot("radio-snapshot", 1, 1.25, 2.38));
-const bench::AddPage fullTable(snapshot("radio-snapshot-100", 4, 1.192, 1.86));
+const bench::AddPage kOneRadio(snapshot("radio-snapshot", 1, 1.25, 2.38));
+const bench::AddPage kFullTable(snapshot("radio-snapshot-100", 4, 1.192, 1.86));
 
 } // namespace

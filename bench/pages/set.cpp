@@ -59,6 +59,6 @@ bench::Page setPage() {
     return page;
 }
 
-const bench::AddPage added(setPage());
+const bench::AddPage kAdded(setPage());
 
 } // namespace

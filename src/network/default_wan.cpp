@@ -158,11 +158,11 @@ int readGateway(const Summary &summary) {
         return code;
     }
     for (ObjectNode &entry : objects(*message)) {
-        enum : uint8_t { Gateway, Origin, Count };
-        constexpr const char *kNames[Count] = {"GatewayIPAddress", "Origin"};
-        const char *values[Count];
+        enum : uint8_t { kGateway, kOrigin, kCount };
+        constexpr const char *kNames[kCount] = {"GatewayIPAddress", "Origin"};
+        const char *values[kCount];
         lookUp(entry, kNames, values);
-        if (const char *gateway = gatewayOf(values[Gateway], values[Origin])) {
+        if (const char *gateway = gatewayOf(values[kGateway], values[kOrigin])) {
             copyText(info.sGateway, gateway);
         }
     }

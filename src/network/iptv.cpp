@@ -26,12 +26,12 @@ void insertDot(ObjectNode &object) {
 }
 
 void takeBridge(ObjectNode &bridge, State &state) {
-    enum : uint8_t { Description, MemberPort, Count };
-    constexpr const char *kNames[Count] = {"Description", "MemberPort"};
-    const char *values[Count];
+    enum : uint8_t { kDescription, kMemberPort, kCount };
+    constexpr const char *kNames[kCount] = {"Description", "MemberPort"};
+    const char *values[kCount];
     lookUp(bridge, kNames, values);
-    if (values[Description] && values[MemberPort] && beginsWith(values[Description], "IPTV")) {
-        state.iptv = *values[MemberPort] ? 1 : 0;
+    if (values[kDescription] && values[kMemberPort] && beginsWith(values[kDescription], "IPTV")) {
+        state.iptv = *values[kMemberPort] ? 1 : 0;
     }
 }
 

@@ -14,14 +14,14 @@ using namespace network;
 
 namespace {
 
-enum Held : uint8_t { TypeName, FirstWan, SecondWan, Enabled, HeldCount };
+enum Held : uint8_t { kTypeName, kFirstWan, kSecondWan, kEnabled, kHeldCount };
 
 struct HeldRow {
     char object[57];
     char param[10];
 };
 
-constexpr HeldRow kHeld[HeldCount] = {
+constexpr HeldRow kHeld[kHeldCount] = {
     {"Device.X_LANTIQ_COM_Multiwan.Multiwan.1.Type", "Name"},
     {"Device.X_LANTIQ_COM_Multiwan.Multiwan.1.WANConnections.1", "Interface"},
     {"Device.X_LANTIQ_COM_Multiwan.Multiwan.1.WANConnections.2", "Interface"},
@@ -34,11 +34,11 @@ bool isSkipped(const char *name) {
                        [name](const char *part) { return strstr(name, part); });
 }
 
-void takeHeld(ObjectNode &object, const char *(&held)[HeldCount]) {
+void takeHeld(ObjectNode &object, const char *(&held)[kHeldCount]) {
     if (isSkipped(object.name)) {
         return;
     }
-    for (size_t i = 0; i < HeldCount; ++i) {
+    for (size_t i = 0; i < kHeldCount; ++i) {
         if (sameName(object.name, kHeld[i].object)) {
             zintu_GetParamFromObjUnit(&object, kHeld[i].param, &held[i]);
         }
@@ -81,23 +81,23 @@ int32_t ZintuGet_MultiWanInfo(ZintuMultiWanInfo *info) {
     if (code != 0) {
         return traceFailure(code, "faltocal_send_main is Failure\n", 1875);
     }
-    const char *held[HeldCount] = {};
+    const char *held[kHeldCount] = {};
     for (ObjectNode &object : objects(*message)) {
         takeHeld(object, held);
     }
-    if (!held[Enabled]) {
+    if (!held[kEnabled]) {
         info->nEnabled = -1;
         return 0;
     }
-    info->nEnabled = atob(held[Enabled]);
-    info->nFailOver = held[TypeName] && beginsWith(held[TypeName], "FailOver") ? 1 : 0;
-    if (held[FirstWan]) {
-        info->nWan1Type = kindOfInterface(held[FirstWan]);
-        copyText(info->sWan1Interface, held[FirstWan]);
+    info->nEnabled = atob(held[kEnabled]);
+    info->nFailOver = held[kTypeName] && beginsWith(held[kTypeName], "FailOver") ? 1 : 0;
+    if (held[kFirstWan]) {
+        info->nWan1Type = kindOfInterface(held[kFirstWan]);
+        copyText(info->sWan1Interface, held[kFirstWan]);
     }
-    if (held[SecondWan]) {
-        info->nWan2Type = kindOfInterface(held[SecondWan]);
-        copyText(info->sWan2Interface, held[SecondWan]);
+    if (held[kSecondWan]) {
+        info->nWan2Type = kindOfInterface(held[kSecondWan]);
+        copyText(info->sWan2Interface, held[kSecondWan]);
     }
     return 0;
 }

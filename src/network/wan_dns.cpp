@@ -24,14 +24,14 @@ bool isIpv4Text(const char *text) {
 
 // The server list that an enabled DHCPv4 client of the interface received, or nullptr.
 const char *receivedServers(ObjectNode &client, const InterfacePath &interface) {
-    enum : uint8_t { Enable, Status, Interface, Servers, Count };
-    constexpr const char *kNames[Count] = {"Enable", "Status", "Interface", "DNSServers"};
-    const char *values[Count];
+    enum : uint8_t { kEnable, kStatus, kInterface, kServers, kCount };
+    constexpr const char *kNames[kCount] = {"Enable", "Status", "Interface", "DNSServers"};
+    const char *values[kCount];
     lookUp(client, kNames, values);
-    const bool taken = values[Enable] && values[Status] && values[Interface] && values[Servers] &&
-                       isOn(values[Enable]) && beginsWithAnyCase(values[Status], "Enabled") &&
-                       interface.is(values[Interface]) && isIpv4Text(values[Servers]);
-    return taken ? values[Servers] : nullptr;
+    const bool taken = values[kEnable] && values[kStatus] && values[kInterface] && values[kServers] &&
+                       isOn(values[kEnable]) && beginsWithAnyCase(values[kStatus], "Enabled") &&
+                       interface.is(values[kInterface]) && isIpv4Text(values[kServers]);
+    return taken ? values[kServers] : nullptr;
 }
 
 // Everything after the first comma goes to the second buffer.
@@ -59,25 +59,25 @@ class ServerPair {
 
 // An enabled server of the interface, or nullptr. Its status does not count.
 const char *enabledServer(ObjectNode &server, const InterfacePath &interface) {
-    enum : uint8_t { Enable, Status, Interface, Address, Count };
-    constexpr const char *kNames[Count] = {"Enable", "Status", "Interface", "DNSServer"};
-    const char *values[Count];
+    enum : uint8_t { kEnable, kStatus, kInterface, kAddress, kCount };
+    constexpr const char *kNames[kCount] = {"Enable", "Status", "Interface", "DNSServer"};
+    const char *values[kCount];
     lookUp(server, kNames, values);
-    const bool counts = values[Enable] && values[Status] && values[Interface] && values[Address] &&
-                        isOn(values[Enable]) && interface.is(values[Interface]) && isIpv4Text(values[Address]);
-    return counts ? values[Address] : nullptr;
+    const bool counts = values[kEnable] && values[kStatus] && values[kInterface] && values[kAddress] &&
+                        isOn(values[kEnable]) && interface.is(values[kInterface]) && isIpv4Text(values[kAddress]);
+    return counts ? values[kAddress] : nullptr;
 }
 
 // A static server of the interface, enabled or not, or nullptr.
 const char *staticServer(ObjectNode &server, const InterfacePath &interface) {
-    enum : uint8_t { Interface, Address, Type, Count };
-    constexpr const char *kNames[Count] = {"Interface", "DNSServer", "Type"};
-    const char *values[Count];
+    enum : uint8_t { kInterface, kAddress, kType, kCount };
+    constexpr const char *kNames[kCount] = {"Interface", "DNSServer", "Type"};
+    const char *values[kCount];
     lookUp(server, kNames, values);
-    const bool counts = values[Interface] && values[Address] && values[Type] &&
-                        beginsWithAnyCase(values[Type], "Static") && interface.is(values[Interface]) &&
-                        isIpv4Text(values[Address]);
-    return counts ? values[Address] : nullptr;
+    const bool counts = values[kInterface] && values[kAddress] && values[kType] &&
+                        beginsWithAnyCase(values[kType], "Static") && interface.is(values[kInterface]) &&
+                        isIpv4Text(values[kAddress]);
+    return counts ? values[kAddress] : nullptr;
 }
 
 using Selection = const char *(*)(ObjectNode &, const InterfacePath &);
