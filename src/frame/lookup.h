@@ -3,6 +3,7 @@
 #pragma once
 
 #include "caltofal.h"
+#include "frame/range.h"
 
 #include <cstring>
 #include <span>
@@ -23,6 +24,23 @@ template <size_t Size>
 bool isNamed(const ParamNode &param, const char (&name)[Size]) {
     static_assert(Size <= sizeof(param.name));
     return memcmp(param.name, name, Size) == 0;
+}
+
+// Calls `take` with every value of a parameter, in order: in an object, or in all objects of an answer. A call, not a
+// range: as a range of values it takes 270 bytes more on MIPS and 160 instructions more on the DSL page.
+template <size_t Size, class Take>
+void forEachValue(ObjectNode &object, const char (&name)[Size], Take take) {
+    for (const ParamNode &param : params(object)) {
+        if (isNamed(param, name)) {
+            take(param.value);
+        }
+    }
+}
+template <size_t Size, class Take>
+void forEachValue(const MsgHeader &answer, const char (&name)[Size], Take take) {
+    for (ObjectNode &object : objects(answer)) {
+        forEachValue(object, name, take);
+    }
 }
 
 // The value of the object's first parameter of that name, or nullptr.

@@ -104,11 +104,7 @@ void readAddress(const Summary &summary) {
     }
     for (ObjectNode &object : objects(*message)) {
         fill(object, kWanAddress, info);
-        for (const ParamNode &param : params(object)) {
-            if (isNamed(param, "AddressingType")) {
-                storeAddressing(info, param.value);
-            }
-        }
+        forEachValue(object, "AddressingType", [&info](const char *type) { storeAddressing(info, type); });
     }
 }
 

@@ -34,12 +34,9 @@ int fetchLine(ZintuDslLineInfo &info, const char *failure, Spot spot = Spot()) {
         return traceFailure(code, failure, spot);
     }
     for (ObjectNode &line : objects(*message)) {
+        // Two walks take fewer instructions than one that looks for the row and the status of each parameter.
         fill(line, kDslLine, info);
-        for (const ParamNode &param : params(line)) {
-            if (isNamed(param, "Status")) {
-                storeStatus(param.value, info.sStatus);
-            }
-        }
+        forEachValue(line, "Status", [&info](const char *value) { storeStatus(value, info.sStatus); });
     }
     return 0;
 }

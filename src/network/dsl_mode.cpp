@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // DSL transmission modes.
 #include "frame/lookup.h"
-#include "frame/range.h"
 #include "frame/text.h"
 #include "network/request.h"
 
@@ -42,12 +41,6 @@ int32_t ZintuGet_DslMode(int32_t modes[10]) {
     if (code != 0) {
         return traceFailure(code, "faltocal_send_main is Failure \n");
     }
-    for (ObjectNode &object : objects(*message)) {
-        for (const ParamNode &param : params(object)) {
-            if (isNamed(param, "XTSE_Modes")) {
-                setFlags(param.value, modes);
-            }
-        }
-    }
+    forEachValue(*message, "XTSE_Modes", [modes](const char *list) { setFlags(list, modes); });
     return 0;
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 // IPv6 prefix delegation on the current WAN.
 #include "frame/lookup.h"
-#include "frame/range.h"
+#include "frame/text.h"
 #include "network/request.h"
-
-#include <cstring>
 
 using namespace frame;
 using namespace network;
@@ -16,12 +14,10 @@ int32_t ZintuGet_IPv6PD(void) {
         return traceFailure(code, "faltocal_send_main is Failure\n", 1442);
     }
     int32_t enabled = 0;
-    for (ObjectNode &object : objects(*message)) {
-        for (const ParamNode &param : params(object)) {
-            if (isNamed(param, "EnableIpv6PD") && strstr(param.value, "true")) {
-                enabled = 1;
-            }
+    forEachValue(*message, "EnableIpv6PD", [&enabled](const char *value) {
+        if (contains(value, "true")) {
+            enabled = 1;
         }
-    }
+    });
     return enabled;
 }

@@ -64,13 +64,12 @@ int request(MsgHeader *message) {
 // The server-wide switch overrides the pool's.
 void applyServerSwitch(const Message &message, LANv4Info &info) {
     for (ObjectNode &object : objects(*message)) {
-        if (!nameContains(object, "Device.DHCPv4.Server")) {
-            continue;
-        }
-        for (const ParamNode &param : params(object)) {
-            if (isNamed(param, "Enable") && atob(param.value) == 0) {
-                info.bDHCPv4Active = 0;
-            }
+        if (nameContains(object, "Device.DHCPv4.Server")) {
+            forEachValue(object, "Enable", [&info](const char *enable) {
+                if (atob(enable) == 0) {
+                    info.bDHCPv4Active = 0;
+                }
+            });
         }
     }
 }

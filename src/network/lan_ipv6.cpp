@@ -35,21 +35,15 @@ bool storeAddress(LANv6Info &info, const char *value) {
 
 bool storeAddresses(LANv6Info &info, ObjectNode &object) {
     bool found = false;
-    for (const ParamNode &param : params(object)) {
-        if (isNamed(param, "IPAddress")) {
-            found = storeAddress(info, param.value) || found;
-        }
-    }
+    forEachValue(object, "IPAddress", [&](const char *value) { found = storeAddress(info, value) || found; });
     return found;
 }
 
 void storeManualPrefix(LANv6Info &info, ObjectNode &object) {
-    for (const ParamNode &param : params(object)) {
-        if (isNamed(param, "ManualPrefixes")) {
-            copyText(info.sManualPrefix, param.value);
-            info.nManualPrefixLength = kPrefixLength;
-        }
-    }
+    forEachValue(object, "ManualPrefixes", [&info](const char *prefix) {
+        copyText(info.sManualPrefix, prefix);
+        info.nManualPrefixLength = kPrefixLength;
+    });
 }
 
 // Objects are told apart by what their name contains, in this order. Whether an address was found.

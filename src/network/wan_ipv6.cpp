@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The IPv6 block of the default WAN summary.
 #include "frame/lookup.h"
-#include "frame/range.h"
 #include "frame/text.h"
 #include "network/interface_path.h"
 #include "network/request.h"
@@ -36,13 +35,8 @@ void readEnable(ZintuWanInfo *info) {
     if (getObject(message, "Device.IPv6.") != 0) {
         return;
     }
-    for (ObjectNode &object : objects(*message)) {
-        for (const ParamNode &param : params(object)) {
-            if (isNamed(param, "Enable")) {
-                info->bIpv6Enable = contains(param.value, "true") ? 1 : 0;
-            }
-        }
-    }
+    forEachValue(*message, "Enable",
+                 [info](const char *enable) { info->bIpv6Enable = contains(enable, "true") ? 1 : 0; });
 }
 
 void readType(ZintuWanInfo *info) {
@@ -50,24 +44,16 @@ void readType(ZintuWanInfo *info) {
     if (getObject(message, "Device.X_ZINTU_CurrentNetwork") != 0) {
         return;
     }
-    for (ObjectNode &object : objects(*message)) {
-        for (const ParamNode &param : params(object)) {
-            if (isNamed(param, "WanIpv6Type") && *param.value) {
-                copyText(info->sIpv6Type, typeOf(param.value));
-            }
+    forEachValue(*message, "WanIpv6Type", [info](const char *type) {
+        if (*type) {
+            copyText(info->sIpv6Type, typeOf(type));
         }
-    }
+    });
 }
 
-// Stores each value of a parameter. A full field has no terminator: one character more than its width is too long.
-void storeAddresses(const Message &message, const char *name, char (&field)[46]) {
-    for (ObjectNode &object : objects(*message)) {
-        for (const ParamNode &param : params(object)) {
-            if (sameName(param.name, name)) {
-                copyWhole(field, sizeof(field) + 1, param.value);
-            }
-        }
-    }
+// A full field has no terminator: one character more than its width is too long.
+void storeAddress(const char *address, char (&field)[46]) {
+    copyWhole(field, sizeof(field) + 1, address);
 }
 
 void readAddress(ZintuWanInfo *info) {
@@ -75,7 +61,7 @@ void readAddress(ZintuWanInfo *info) {
     const Path path("%s.IPv6Address.1", Terminated(info->sWanIpInterface).c_str());
     Message message;
     if (getObject(message, path) == 0) {
-        storeAddresses(message, "IPAddress", info->sIpv6Address);
+        forEachValue(*message, "IPAddress", [info](const char *address) { storeAddress(address, info->sIpv6Address); });
     }
 }
 
@@ -84,7 +70,7 @@ int readNextHop(ZintuWanInfo *info) {
     Message message;
     const int code = getObject(message, path);
     if (code == 0) {
-        storeAddresses(message, "NextHop", info->sIpv6NextHop);
+        forEachValue(*message, "NextHop", [info](const char *address) { storeAddress(address, info->sIpv6NextHop); });
     }
     message.leave(); // this message stays unreleased, whatever its result
     return code;
