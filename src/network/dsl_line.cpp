@@ -45,7 +45,14 @@ int fetchLine(ZintuDslLineInfo &info, const char *failure, Spot spot = Spot()) {
 
 int32_t ZintuGet_LineInfo(ZintuDslLineInfo *info) {
     constexpr char kFailure[] = "faltocal_SendMultiObj is Failure \n"; // of all four requests, whichever way sent
-    const bool done = fetchLine(*info, kFailure) == 0 && fetch(kDslChannel, *info, kFailure) == 0 &&
-                      fetch(kDslTestParams, *info, kFailure) == 0 && fetch(kDslTotals, *info, kFailure) == 0;
-    return done ? 0 : -1;
+    if (fetchLine(*info, kFailure) != 0) {
+        return -1;
+    }
+    if (fetch(kDslChannel, *info, kFailure) != 0) {
+        return -1;
+    }
+    if (fetch(kDslTestParams, *info, kFailure) != 0) {
+        return -1;
+    }
+    return fetch(kDslTotals, *info, kFailure);
 }

@@ -2,6 +2,8 @@
 // DSL line and modes, ATM link, IPv6 prefix delegation.
 #include "platform.h"
 
+#include <set>
+
 using namespace test;
 
 namespace {
@@ -58,6 +60,18 @@ TEST_F(Dsl, StatusIsJudgedInTheField) {
     }
     EXPECT_TRUE(
         withoutLines(takeConsole()).ends_with("\n\n\t[ZintuGet_LineInfo : 0] (-1)faltocal_SendMultiObj is Failure \n"));
+}
+
+TEST_F(Dsl, TheTraceTellsTheFailedRequestsApart) {
+    std::set<std::string> traces;
+    for (int n = 1; n <= 4; ++n) {
+        platform().otherwise({});
+        platform().failSend(n, -1);
+        ZintuDslLineInfo info = {};
+        EXPECT_EQ(-1, ZintuGet_LineInfo(&info));
+        traces.insert(takeConsole());
+    }
+    EXPECT_EQ(4U, traces.size());
 }
 
 TEST_F(Dsl, Modes) {
