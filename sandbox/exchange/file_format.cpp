@@ -6,6 +6,7 @@
 #include "exchange/dump/csv.h"
 #include "exchange/dump/entries.h"
 #include "exchange/dump/json.h"
+#include "exchange/dump/text.h"
 #include "exchange/gateway_file.h"
 #include "exchange/json_file.h"
 #include "exchange/text_encoding.h"
@@ -21,17 +22,33 @@
 namespace sandbox {
 namespace {
 
+constexpr std::string_view kBlanks = " \t\r\n";
+
+// Without anything in it that only these files have, a comment tells it from the dump of another program.
 void writeGatewayFile(const Entries &entries, std::ostream &out) {
+    if (std::all_of(entries.begin(), entries.end(),
+                    [](const Entry &entry) { return isTextDump(gatewayLine(entry)); })) {
+        out << "# A gateway file\n";
+    }
     for (const Entry &entry : entries) {
         out << gatewayLine(entry) << '\n';
     }
 }
 
+// A file that is being read.
+struct Source {
+    std::string_view text;
+    const std::string &file;
+    const std::string &device; // to take of several; "" for none
+};
+
+using Read = FileContent (*)(const Source &source);
+
 struct FormatRow {
     std::string_view name;
     std::string_view suffix;
     FileFormat format;
-    FileContent (*read)(std::string_view text, const std::string &file);
+    Read read;
     void (*write)(const Entries &entries, std::ostream &out);
 };
 
@@ -46,24 +63,30 @@ FileContent takenIn(Dump dump, const std::string &file) {
     return content;
 }
 
-FileContent readAnyGatewayFile(std::string_view text, const std::string &file) {
-    Entries entries = readGatewayFile(text, file);
-    if (!isCapture(text)) {
+FileContent readTextLines(const Source &source) {
+    return takenIn(readTextDump(source.text), source.file);
+}
+
+FileContent readAnyGatewayFile(const Source &source) {
+    Entries entries = readGatewayFile(source.text, source.file);
+    if (!isCapture(source.text)) {
         return {std::move(entries), std::nullopt};
     }
-    FileContent content = takenIn(captureDump(entries), file);
+    FileContent content = takenIn(captureDump(entries), source.file);
     std::copy_if(entries.begin(), entries.end(), std::back_inserter(content.entries),
                  [](const Entry &entry) { return entry.kind == Entry::Kind::Recording; });
     return content;
 }
 
-FileContent readAnyCsv(std::string_view text, const std::string &file) {
-    return isCsvDump(text) ? takenIn(readCsvDump(text, file), file) : FileContent{readCsv(text, file), std::nullopt};
+FileContent readAnyCsv(const Source &source) {
+    return isCsvDump(source.text) ? takenIn(readCsvDump(source.text, source.file), source.file)
+                                  : FileContent{readCsv(source.text, source.file), std::nullopt};
 }
 
-FileContent readAnyJson(std::string_view text, const std::string &file) {
-    const std::vector<JsonNode> values = parseJson(text, file);
-    return isOwnJson(values) ? FileContent{readJson(values, file), std::nullopt} : takenIn(readJsonDump(values), file);
+FileContent readAnyJson(const Source &source) {
+    const std::vector<JsonNode> values = parseJson(source.text, source.file);
+    return isOwnJson(values) ? FileContent{readJson(values, source.file), std::nullopt}
+                             : takenIn(readJsonDump(values, source.file, source.device), source.file);
 }
 
 constexpr FormatRow kFormats[] = {
@@ -77,24 +100,24 @@ const FormatRow &rowOf(FileFormat format) {
                          [format](const FormatRow &row) { return row.format == format; });
 }
 
-// By the first character that is not a blank, by a CSV's header, else by the file's name.
-FileFormat recognised(std::string_view text, const std::string &file) {
-    const size_t first = text.find_first_not_of(" \t\r\n");
-    if (first != std::string_view::npos && (text[first] == '{' || text[first] == '[')) {
-        return FileFormat::Json;
+// By the first character that is not a blank, by a CSV's header, by the file's name, by its lines.
+Read recognised(std::string_view text, const std::string &file) {
+    const size_t first = text.find_first_not_of(kBlanks);
+    if (text[first] == '{' || text[first] == '[') {
+        return readAnyJson;
     }
     if (isOwnCsv(text) || isCsvDump(text)) {
-        return FileFormat::Csv;
+        return readAnyCsv;
     }
-    if (first != std::string_view::npos && (text[first] == '<' || text.find('\0') != std::string_view::npos)) {
+    if (text[first] == '<' || text.find('\0') != std::string_view::npos) {
         throw FileError(file, "is neither a gateway file nor CSV nor JSON, but XML, HTML or no text at all");
     }
     for (const FormatRow &row : kFormats) {
         if (file.ends_with(row.suffix)) {
-            return row.format;
+            return row.read;
         }
     }
-    return FileFormat::Gateway;
+    return isTextDump(text) ? readTextLines : readAnyGatewayFile;
 }
 
 std::string readWhole(const std::string &file) {
@@ -135,13 +158,17 @@ FileFormat formatOf(const std::string &name) {
     throw std::invalid_argument(name + " is not a format");
 }
 
-FileContent readContent(const std::string &file, std::optional<FileFormat> format) {
-    return contentOf(readWhole(file), file, format);
+FileContent readContent(const std::string &file, std::optional<FileFormat> format, const std::string &device) {
+    return contentOf(readWhole(file), file, format, device);
 }
 
-FileContent contentOf(std::string bytes, const std::string &file, std::optional<FileFormat> format) {
+FileContent contentOf(std::string bytes, const std::string &file, std::optional<FileFormat> format,
+                      const std::string &device) {
     const std::string text = plainText(std::move(bytes));
-    return rowOf(format ? *format : recognised(text, file)).read(text, file);
+    if (text.find_first_not_of(kBlanks) == std::string::npos) {
+        throw FileError(file, "is empty");
+    }
+    return (format ? rowOf(*format).read : recognised(text, file))({text, file, device});
 }
 
 void writeEntries(FileFormat format, const Entries &entries, std::ostream &out) {

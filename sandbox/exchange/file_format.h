@@ -26,11 +26,14 @@ struct FileContent {
     std::optional<ImportReport> report;
 };
 
-// Reads a file, or standard input for "-", by what it contains, or in the format asked for. Throws FileError.
-FileContent readContent(const std::string &file, std::optional<FileFormat> format = std::nullopt);
+// Reads a file, or standard input for "-", by what it contains, or in the format asked for. Of a file that holds
+// several devices `device` alone is taken; without it such a file is refused with their names. Throws FileError.
+FileContent readContent(const std::string &file, std::optional<FileFormat> format = std::nullopt,
+                        const std::string &device = {});
 
 // The same of a file's bytes. `file` is the name used in messages.
-FileContent contentOf(std::string bytes, const std::string &file, std::optional<FileFormat> format = std::nullopt);
+FileContent contentOf(std::string bytes, const std::string &file, std::optional<FileFormat> format = std::nullopt,
+                      const std::string &device = {});
 
 void writeEntries(FileFormat format, const Entries &entries, std::ostream &out);
 

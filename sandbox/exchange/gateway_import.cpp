@@ -151,6 +151,9 @@ class Import {
 
     void takeInParameter(const Entry &entry) {
         const std::optional<ParameterRow> row = findParameter(database_, object_, entry.name);
+        if (row && entry.hidden) {
+            return;
+        }
         Definition definition = row ? definitions_.get(row->definition) : Definition();
         std::string stored;
         if (report_) {
@@ -176,7 +179,7 @@ class Import {
 
     // The value as it is stored. The gateway's own type holds where the value fits it, then the entry's, then text.
     std::string overlayLeniently(Definition &definition, const Entry &entry, bool exists) {
-        ++report_->taken;
+        report_->taken += entry.hidden ? 0 : 1;
         std::string value = *entry.value;
         if (exists && (value.empty() || definition.type.check(value) == ValueType::Verdict::Valid)) {
             return value;

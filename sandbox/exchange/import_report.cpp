@@ -8,6 +8,7 @@ namespace {
 constexpr const char *kWords[] = {
     "kept as text, not of the parameter's type",
     "kept as empty, without a value in the file",
+    "left as it was or empty, hidden in the file",
     "counters that differ from the instances in the file, the store counts these",
     "instances named by an alias, numbered",
     "of an unknown type, taken by the value",

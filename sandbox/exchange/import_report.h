@@ -13,6 +13,7 @@ namespace sandbox {
 enum class Reason {
     Misfit,         // kept as text
     NoValue,        // kept as empty
+    Hidden,         // a secret that the file does not tell
     CounterDiffers, // the store counts
     AliasNumbered,  // instance named by an alias
     UnknownType,    // type taken from the value

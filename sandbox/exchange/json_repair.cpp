@@ -4,6 +4,7 @@
 #include "exchange/text_encoding.h"
 #include "value/escape.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 
@@ -13,6 +14,10 @@ namespace {
 // Private code points, the last of Unicode: U+10FF80 to U+10FFFF for the bytes 0x80 to 0xff.
 constexpr char32_t kByteBase = 0x10ff00;
 constexpr std::string_view kBytePrefix = "\xf4\x8f"; // and 0xbe or 0xbf and a fourth byte
+constexpr char32_t kNumberMark = kByteBase;          // in front of a text that was written as a number
+constexpr std::string_view kNumberMarkBytes = "\xf4\x8f\xbc\x80";
+constexpr std::string_view kNoNumbers[] = {"NaN", "nan",  "-nan",      "Infinity", "-Infinity",
+                                           "inf", "-inf", "+Infinity", "+inf"};
 constexpr std::string_view kEscapes = "\"\\/bfnrtu";
 
 class Repair {
@@ -27,6 +32,11 @@ class Repair {
                 copy(1);
             } else if (inText_) {
                 textCharacter(c);
+            } else if (const size_t word = noNumber(); word != 0) {
+                out_ += '"';
+                appendUtf8(out_, kNumberMark);
+                copy(word);
+                out_ += '"';
             } else if (c == ',' && closesNext()) {
                 rest_.remove_prefix(1);
             } else {
@@ -46,6 +56,16 @@ class Repair {
     bool closesNext() const {
         const size_t next = rest_.find_first_not_of(" \t\r\n", 1);
         return next != std::string_view::npos && (rest_[next] == ']' || rest_[next] == '}');
+    }
+
+    // The length of a word that stands for a number that JSON cannot hold; 0 where there is none.
+    size_t noNumber() const {
+        const std::string_view before = out_;
+        if (!before.empty() && std::string_view(" \t\r\n,:[").find(before.back()) == std::string_view::npos) {
+            return 0;
+        }
+        const std::string_view word = rest_.substr(0, rest_.find_first_of(" \t\r\n,]}"));
+        return std::find(std::begin(kNoNumbers), std::end(kNoNumbers), word) == std::end(kNoNumbers) ? 0 : word.size();
     }
 
     void textCharacter(char c) {
@@ -99,6 +119,12 @@ class Repair {
 
 std::string repairedJson(std::string_view text) {
     return Repair(text).run();
+}
+
+bool takeNumberMark(std::string &text) {
+    const bool marked = text.starts_with(kNumberMarkBytes);
+    text.erase(0, marked ? kNumberMarkBytes.size() : 0);
+    return marked;
 }
 
 std::string bytesRestored(std::string text) {

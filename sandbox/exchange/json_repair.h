@@ -10,6 +10,9 @@ namespace sandbox {
 // points that bytesRestored() turns back.
 std::string repairedJson(std::string_view text);
 
+// Whether the text was a word like NaN, which stood for a number; takes the mark off it.
+bool takeNumberMark(std::string &text);
+
 std::string bytesRestored(std::string text);
 
 } // namespace sandbox

@@ -81,6 +81,9 @@ class Builder : public nlohmann::json_sax<json> {
         return add(JsonNode::Kind::Number, text);
     }
     bool string(string_t &value) override {
+        if (repaired_ && takeNumberMark(value)) {
+            return add(JsonNode::Kind::Number, std::move(value));
+        }
         return add(JsonNode::Kind::Text, repaired_ ? bytesRestored(std::move(value)) : std::move(value));
     }
     bool binary(binary_t & /*value*/) override { return false; }

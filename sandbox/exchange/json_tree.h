@@ -32,7 +32,7 @@ struct JsonMember {
 
 // One value after another, as in JSON Lines; usually a single one. Text that other programs get wrong is read as it
 // was meant: bytes that are not UTF-8 and control characters in texts stay as they are, and so do unknown escapes;
-// commas before a closing bracket are passed over. Throws FileError.
+// commas before a closing bracket are passed over, NaN and Infinity are numbers. Throws FileError.
 std::vector<JsonNode> parseJson(std::string_view text, const std::string &file);
 
 } // namespace sandbox

@@ -12,6 +12,7 @@ struct Options {
     std::string name;
     std::string file;
     std::string format;
+    std::string device;
     bool replace = false;
 };
 
@@ -47,6 +48,7 @@ void addImport(Command &root, Tool &tool) {
     command.word("FILE", options->file, "The file; - for standard input", Need::Required);
     command.choice("--format", options->format, formatNames(),
                    "tr181, csv or json; without it, by what the file contains");
+    command.option("--device", options->device, "ID", "The device to take of a file that holds several");
     command.flag("--replace", options->replace, "Start from an empty gateway");
     command.footer(
         "Gateway files, and the CSV and JSON of `export`, are taken in as a whole or not at all. Exports of an ACS,\n"
@@ -59,7 +61,7 @@ void addImport(Command &root, Tool &tool) {
         const Location location = tool.location(options->name);
         const std::optional<FileFormat> format =
             options->format.empty() ? std::nullopt : std::optional(formatOf(options->format));
-        FileContent content = readContent(options->file, format);
+        FileContent content = readContent(options->file, format, options->device);
         const bool made = importFile(location, content, *options);
         const std::string entries = counted(content.entries.size(), "entry", "entries");
         say(location.name + ": " +

@@ -36,6 +36,9 @@ struct Entry {
     std::optional<int> exitCode;  // of a recorded command; empty: a file
     std::optional<uint32_t> last; // of a table: highest instance number ever given
 
+    // The value was hidden: the parameter keeps its own, or is made with an empty one.
+    bool hidden = false;
+
     // Type, access and default are a guess: those that the gateway has go before.
     bool guessed = false;
 

@@ -7,7 +7,8 @@
 namespace sandbox {
 
 bool isSecretName(std::string_view name) {
-    constexpr std::string_view kEndings[] = {"PIN", "Passphrase", "Password", "PreSharedKey", "Secret", "WEPKey"};
+    constexpr std::string_view kEndings[] = {"PIN",          "Passphrase", "Password", "Pin",
+                                             "PreSharedKey", "PrivateKey", "Secret",   "WEPKey"};
     return std::any_of(std::begin(kEndings), std::end(kEndings),
                        [name](std::string_view ending) { return name.ends_with(ending); });
 }

@@ -8,6 +8,9 @@ namespace sandbox {
 // What logs and reasons show in place of a secret.
 inline constexpr std::string_view kHidden = "***";
 
+// What the command line and its captures have in place of a secret.
+inline constexpr std::string_view kMasked = "(hidden)";
+
 // Whether a parameter holds a pass phrase, a password or a key, by its name.
 bool isSecretName(std::string_view name);
 

@@ -12,6 +12,7 @@ result() { # INSTANCE NAME=VALUE...
     printf "Device.WiFi.NeighboringWiFiDiagnostic.Result.$instance.%s\n" "$@" | sed 's/=/ = /'
 }
 {
+    echo '# values as texts'
     printf 'Device.WiFi.Radio.%s.%s = %s\n' 1 Channel 11 1 PossibleChannels '1, 6, 11' 1 Enable True \
         2 Channel 36 2 PossibleChannels 36,40 2 Enable 1
     ssid 1 ath0 net 1

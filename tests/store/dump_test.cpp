@@ -30,8 +30,9 @@ std::string written(const std::string &gateway, FileFormat format) {
 }
 
 // The closing report; "" for a file of this project's own.
-std::string take(const std::string &gateway, const std::string &bytes, const std::string &file) {
-    FileContent content = contentOf(bytes, file);
+std::string take(const std::string &gateway, const std::string &bytes, const std::string &file,
+                 const std::string &device = {}) {
+    FileContent content = contentOf(bytes, file, std::nullopt, device);
     ImportReport *report = content.report ? &*content.report : nullptr;
     EXPECT_TRUE(createGateway(Location::named(gateway), content.entries, file, report)) << gateway;
     return report ? report->text() : "";
@@ -86,6 +87,67 @@ TEST_F(DumpTest, KeepsTheTypesOfAGatewayThatExists) {
     EXPECT_EQ(valueOf("Device.Info", "Name"), "");
 }
 
+TEST_F(DumpTest, LeavesHiddenSecretsAsTheyAre) {
+    take("own", R"({"Device.PPP.Interface.1.Password": "dear"})", "own.json");
+    const char *const shown = R"x({"Device.PPP.Interface.1.Password": "(hidden)",
+                                  "Device.WiFi.AccessPoint.1.Security.KeyPassphrase": "(hidden)"})x";
+    FileContent content = contentOf(shown, "shown.json");
+    importEntries(*openGateway(Location::named("own")), content.entries, "shown.json", &*content.report);
+    EXPECT_TRUE(content.report->text().starts_with(
+        "took in 0 of 2 values\n  left as it was or empty, hidden in the file: 2, first Device.PPP."))
+        << content.report->text();
+    setenv("CALTOFAL_GATEWAY", "own", 1);
+    EXPECT_EQ(valueOf("Device.PPP.Interface.1", "Password"), "dear");
+    EXPECT_EQ(valueOf("Device.WiFi.AccessPoint.1.Security", "KeyPassphrase"), "");
+    EXPECT_EQ(setOne("Device.WiFi.AccessPoint.1.Security", {{"KeyPassphrase", "correct-horse"}}), 0);
+}
+
+TEST_F(DumpTest, TakesOneOfSeveralDevices) {
+    const std::string list = R"([{"_id": "A-1", "Device": {"DeviceInfo": {"SerialNumber": {"_value": "1"}}}},
+        {"_deviceId": {"_SerialNumber": "two"}, "Device": {"DeviceInfo": {"SerialNumber": {"_value": "2"}}}},
+        {"_id": "A-3", "_tags": []}])";
+    const struct {
+        std::string_view text, device, message, serial;
+    } cases[] = {
+        {list, "", "x.json: holds 2 devices: A-1, two; --device takes one of them", ""},
+        {list, "A-3", "x.json: no device \"A-3\" in it; it holds 2 devices: A-1, two", ""},
+        {list, "two", "", "2"},
+        {list, "A-1", "", "1"},
+        {R"([{"_id": "A-1", "Device.DeviceInfo.SerialNumber": "7"}])", "", "", "7"},
+        {R"({"Device.DeviceInfo.SerialNumber": "7"})", "B", "x.json: no device \"B\" in it; it holds 1 device: 1", ""},
+    };
+    for (const auto &row : cases) {
+        const std::string gateway = "g" + std::to_string(&row - cases);
+        try {
+            take(gateway, std::string(row.text), "x.json", std::string(row.device));
+            setenv("CALTOFAL_GATEWAY", gateway.c_str(), 1);
+            EXPECT_EQ(valueOf("Device.DeviceInfo", "SerialNumber"), row.serial) << gateway;
+        } catch (const FileError &error) {
+            EXPECT_EQ(error.what(), row.message) << gateway;
+        }
+    }
+}
+
+TEST_F(DumpTest, KeepsGatewayFilesStrict) {
+    const struct {
+        const char *file, *text, *message;
+    } cases[] = {
+        {"x.tr181", "Device.A.B=1", "x.tr181:1: \"B=1\" is not a parameter name"},
+        {"x", "# mine\nDevice.A.B = 1\nDevice.A.B = 2", "x:3: Device.A.B was already given in line 2"},
+        {"x", "Device.A.B [int] = x\nDevice.A.C = 2", "x:1: Device.A.B: \"x\" is not of type int"},
+        {"x", "Device.A.B = 1\nDevice.A.C", "x:2: \"Device.A.C\" has no value: \" = \" is missing"},
+        {"x", "Device.A.B = 1\nDevice.T.{i}. [table]\nDevice.A.C = \\q", "x:3: the value has an unknown escape"},
+    };
+    for (const auto &row : cases) {
+        try {
+            take("none", row.text, row.file);
+            ADD_FAILURE() << row.text;
+        } catch (const FileError &error) {
+            EXPECT_STREQ(error.what(), row.message);
+        }
+    }
+}
+
 TEST_F(DumpTest, RefusesWhatHoldsNoGateway) {
     struct Case {
         std::string_view text;
@@ -96,7 +158,8 @@ TEST_F(DumpTest, RefusesWhatHoldsNoGateway) {
         {"{\"a\": {\"b\": \"c\"}}", "x.json: no objects or values of a data model found in it"},
         {"{\n\"Device.A.B\": tru\n}", "x.json:2: not JSON at \"tru\""},
         {"{\n\"Device.A.B\": \"x\"", "x.json:2: the JSON ends in the middle"},
-        {"\xef\xbb\xbf \n", "x.json:1: the file is empty"},
+        {"\xef\xbb\xbf \n", "x.json: is empty"},
+        {"", "x.json: is empty"},
         {"<html><body>log in first</body></html>",
          "x.json: is neither a gateway file nor CSV nor JSON, but XML, HTML or no text at all"},
         {std::string_view("\x1f\x8b\x08\0\x1d", 5),

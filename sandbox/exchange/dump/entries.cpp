@@ -8,6 +8,7 @@
 #include "exchange/dump/words.h"
 #include "value/escape.h"
 #include "value/path.h"
+#include "value/secret.h"
 
 #include <algorithm>
 #include <iterator>
@@ -107,6 +108,11 @@ class Conversion {
         if (!row.value) {
             report_.count(Reason::NoValue, path);
             row.value = "";
+        }
+        if (*row.value == kMasked && isSecretName(entry.name)) {
+            report_.count(Reason::Hidden, path);
+            row.value = "";
+            entry.hidden = true;
         }
         if (row.value->size() >= PARAM_VALUE_SIZE || row.value->find('\0') != std::string::npos) {
             report_.count(row.value->size() >= PARAM_VALUE_SIZE ? Reason::TooLong : Reason::HoldsNul, path);

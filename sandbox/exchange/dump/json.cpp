@@ -40,8 +40,21 @@ std::string withDot(std::string path) {
     return path;
 }
 
+std::string textOf(const JsonNode *node) {
+    return node && node->isScalar() ? node->text : "";
+}
+
+// The name that an ACS gives a device; "" for none.
+std::string deviceName(const JsonNode &node) {
+    const JsonNode *id = node.member("_deviceId");
+    const std::string name = textOf(node.member("_id"));
+    return name.empty() && id ? textOf(id->member("_SerialNumber")) : name;
+}
+
 class JsonDump {
   public:
+    JsonDump(const std::string &file, const std::string &device) : file_(file), device_(device) {}
+
     Dump run(const std::vector<JsonNode> &values) {
         std::vector<const JsonNode *> nodes(values.size());
         std::transform(values.begin(), values.end(), nodes.begin(), [](const JsonNode &value) { return &value; });
@@ -51,10 +64,27 @@ class JsonDump {
                 withoutRoot(*node);
             }
         }
+        judgeDevices();
         return std::move(dump_);
     }
 
   private:
+    void judgeDevices() const {
+        if (dump_.rows.empty() || (device_.empty() ? devices_.size() < 2 : chosen_)) {
+            return;
+        }
+        constexpr size_t kMostNames = 20;
+        std::string names;
+        for (size_t i = 0; i < std::min(devices_.size(), kMostNames); ++i) {
+            names += (names.empty() ? "" : ", ") + devices_[i];
+        }
+        names += devices_.size() > kMostNames ? " ..." : "";
+        const std::string holds =
+            "holds " + std::to_string(devices_.size()) + (devices_.size() == 1 ? " device: " : " devices: ") + names;
+        throw FileError(file_, device_.empty() ? holds + "; --device takes one of them"
+                                               : "no device " + quotedShort(device_) + " in it; it " + holds);
+    }
+
     // What is not below a root yet: a wrapper, a root's holder, a list.
     void document(const JsonNode &node) {
         if (isTuple(node)) {
@@ -85,18 +115,46 @@ class JsonDump {
         dump_.rows.push_back(std::move(row));
     }
 
-    // A list's items belong together, unless they are devices, of which the first one is taken.
+    // A list's items belong together, unless they are devices, of which one is taken.
     void pieces(const std::vector<const JsonNode *> &nodes) {
-        std::string device;
         for (const JsonNode *node : nodes) {
             const size_t before = dump_.rows.size();
             document(*node);
-            if (before != 0 && isOtherDevice(*node, before)) {
-                dump_.rows.resize(before);
-                const JsonNode *id = node->member("_id");
-                dump_.report.count(Reason::OtherDevice, id ? id->text : "line " + std::to_string(node->line));
+            if (dump_.rows.size() == before) {
+                continue;
+            }
+            if (before == 0) {
+                firstDevice(*node);
+            } else if (isOtherDevice(*node, before)) {
+                otherDevice(*node, before);
             }
         }
+    }
+
+    // What a wrapper holds names it before the wrapper does.
+    void firstDevice(const JsonNode &node) {
+        const std::string name = deviceName(node);
+        if (devices_.empty()) {
+            devices_.push_back(name.empty() ? "1" : name);
+        } else if (devices_.size() == 1 && !name.empty()) {
+            devices_.front() = name;
+        }
+        chosen_ = chosen_ || device_ == devices_.front();
+    }
+
+    void otherDevice(const JsonNode &node, size_t before) {
+        const std::string name = deviceName(node);
+        devices_.push_back(name.empty() ? std::to_string(devices_.size() + 1) : name);
+        const bool chosen = !chosen_ && device_ == devices_.back();
+        const auto begin = dump_.rows.begin();
+        if (chosen) {
+            dump_.rows.erase(begin, begin + static_cast<ptrdiff_t>(before));
+            dump_.report.count(Reason::OtherDevice, devices_.front());
+        } else {
+            dump_.rows.resize(before);
+            dump_.report.count(Reason::OtherDevice, devices_.back());
+        }
+        chosen_ = chosen_ || chosen;
     }
 
     // Several parameters, at least half of which were there.
@@ -284,13 +342,17 @@ class JsonDump {
         return row;
     }
 
+    const std::string &file_;
+    const std::string &device_; // the wanted one
     Dump dump_;
+    std::vector<std::string> devices_; // the names of all
+    bool chosen_ = false;
 };
 
 } // namespace
 
-Dump readJsonDump(const std::vector<JsonNode> &values) {
-    return JsonDump().run(values);
+Dump readJsonDump(const std::vector<JsonNode> &values, const std::string &file, const std::string &device) {
+    return JsonDump(file, device).run(values);
 }
 
 } // namespace sandbox

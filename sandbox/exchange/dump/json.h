@@ -9,7 +9,8 @@
 
 namespace sandbox {
 
-// `values` as parseJson() reads them.
-Dump readJsonDump(const std::vector<JsonNode> &values);
+// `values` as parseJson() reads them. Of several devices `device` is taken, by the name that the ACS gives it or else
+// by its number; "" where the file should hold one alone. Throws FileError with their names.
+Dump readJsonDump(const std::vector<JsonNode> &values, const std::string &file, const std::string &device);
 
 } // namespace sandbox

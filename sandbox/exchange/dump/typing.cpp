@@ -81,6 +81,9 @@ void Typing::describe(const DumpRow &row, Entry &entry, ImportReport &report) {
     if (!row.type.empty() && !said && (numbers_ || !isInteger(row.type))) {
         report.count(Reason::UnknownType, entry.fullPath() + ": " + row.type);
     }
+    if (row.form == DumpRow::Form::Number && !said && !known && !fits(ValueType::parse("decimal"), *entry.value)) {
+        report.count(Reason::Misfit, entry.fullPath() + ": " + *entry.value + " is not a number");
+    }
     // What is known is narrower than what files say, but the file's type is the device's own.
     const bool useKnown = known && (fits(known->type, *entry.value) || !said);
     entry.type = useKnown ? known->type : said ? *said : typeOfValue(row, *entry.value);
