@@ -2,13 +2,13 @@
 #include "caltofal.h"
 #include "pages/failure.h"
 #include "pages/process/shell_output.h"
+#include "pages/wifi/file_mark.h"
 #include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
 #include "pages/wifi/survey.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -44,27 +44,6 @@ void checkForShell(const std::string &interface, const std::string &ssid) {
                     " bytes together: the most that a scan request carries is " + std::to_string(kNamesMax));
     }
 }
-
-// Which file there is, and since when: another one is another scan's.
-struct FileMark {
-    bool present = false;
-    ino_t inode = 0;
-    timespec changed{};
-    off_t size = 0;
-
-    explicit FileMark(const std::string &path) {
-        struct stat status {};
-        present = stat(path.c_str(), &status) == 0;
-        inode = status.st_ino;
-        changed = status.st_mtim;
-        size = status.st_size;
-    }
-
-    [[nodiscard]] bool isNewerThan(const FileMark &before) const {
-        return present && (!before.present || inode != before.inode || size != before.size ||
-                           changed.tv_sec != before.changed.tv_sec || changed.tv_nsec != before.changed.tv_nsec);
-    }
-};
 
 bool is5GHz(int radio) {
     const std::vector<Object> found =

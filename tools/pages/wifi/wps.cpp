@@ -3,10 +3,10 @@
 #include "pages/failure.h"
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
+#include "pages/wifi/file_mark.h"
 #include "pages/wifi/pages.h"
 
 #include <chrono>
-#include <filesystem>
 #include <fstream>
 #include <functional>
 
@@ -22,12 +22,6 @@ std::string status() {
     std::string word;
     std::ifstream(kStatusFile) >> word;
     return word;
-}
-
-// The earliest time where there is no file.
-std::filesystem::file_time_type lastWritten() {
-    std::error_code ignored;
-    return std::filesystem::last_write_time(kStatusFile, ignored);
 }
 
 // Throws what goes wrong, unless `isIgnored` says afterwards that it does not matter.
@@ -73,13 +67,13 @@ Report ended() {
 
 Report startWps(std::chrono::milliseconds unit, Wait &wait) {
     wait.begin();
-    const auto written = lastWritten();
+    const FileMark before(kStatusFile);
     request(ReqWPSActive, [&] { return wait.cancelled(); });
     const auto start = std::chrono::steady_clock::now();
     // Until the daemon has taken the request up, its file tells how the run before ended.
     const auto isOver = [&] {
-        const bool isFresh =
-            lastWritten() != written || std::chrono::steady_clock::now() - start >= WPS_RetryTime[0] * unit;
+        const bool isFresh = FileMark(kStatusFile).isNewerThan(before) ||
+                             std::chrono::steady_clock::now() - start >= WPS_RetryTime[0] * unit;
         return !wait.cancelled() && isFresh && status() != kRunning;
     };
     switch (askAgain(wait, {WPS_RetryTime, unit}, "WPS: press the button of the other device", isOver)) {
