@@ -139,23 +139,37 @@ class Refusals(unittest.TestCase):
                 self.assertEqual(answer.status, status, answer.body)
                 self.assertIn(word, answer.message)
 
-    def test_what_is_not_http_is_refused(self):
+    def test_what_is_malformed_is_refused(self):
+        """With the server's own answer, but for what the HTTP library judges by itself."""
         head = f"GET /api/v1 HTTP/1.1\r\nHost: {self.server.host}\r\nAuthorization: Bearer {self.server.token}\r\n"
-        cases = [  # bytes, status
-            (head + "X: " + "y" * 17000 + "\r\n\r\n", b"431"),
-            (head + "".join(f"X{i}: y\r\n" for i in range(9000)) + "\r\n", b"431"),
-            (head + "Cookie: " + "; ".join(f"c{i}=v" for i in range(180)) + "\r\n\r\n", b"431"),
-            (head + f"Host: {self.server.host}\r\n\r\n", b"400"),
-            (head + "Content-Length: 99999999999999999999\r\n\r\n", b"4"),
-            (head + "Content-Length: -1\r\n\r\n", b"400"),
-            ("GET / HTTP/1.0\r\n\r\n", b"421"),
-            ("GET / HTTP/1.1\r\n\r\n", b"4"),
-            ("GET " + "/" * 70000 + " HTTP/1.1\r\n\r\n", b"4"),
+        chunked = "Transfer-Encoding: chunked\r\n\r\n"
+        cases = [  # bytes, status, whether the answer is the server's own
+            (head + "X: " + "y" * 17000 + "\r\n\r\n", "431", True),
+            (head + "".join(f"X{i}: y\r\n" for i in range(9000)) + "\r\n", "431", False),
+            (head + "Cookie: " + "; ".join(f"c{i}=v" for i in range(180)) + "\r\n\r\n", "431", True),
+            (head + f"Host: {self.server.host}\r\n\r\n", "400", True),
+            (head + "Content-Length: 1\r\nContent-Length: 2\r\n\r\n12", "400", True),
+            (head + "Content-Length: 99999999999999999999\r\n\r\n", "413", False),
+            (head + "Content-Length: -1\r\n\r\n", "400", False),
+            (head + "X : y\r\n\r\n", "400", True),
+            (head + "no colon\r\n\r\n", "400", False),
+            (head + chunked + "1\r\n{\r\n0\r\n\r\n", "411", True),
+            (head + chunked + "x\r\n", "411", True),
+            (head + chunked.replace("chunked", "gzip"), "411", True),
+            (head.replace("/v1 ", "/v1 /x "), "404", True),
+            (head.replace("1.1", "2.0") + "\r\n", "505", False),
+            ("GET / HTTP/1.0\r\n\r\n", "421", True),
+            ("GET / HTTP/1.1\r\n\r\n", "421", True),
+            ("GET /\r\n\r\n", "400", False),
+            ("GET " + "/" * 70000 + " HTTP/1.1\r\n\r\n", "414", False),
         ]
-        for data, status in cases:
+        for data, status, own in cases:
             with self.subTest(data=data[:40] + data[-40:]):
-                answer = self.server.raw(data.encode(), timeout=3)
-                self.assertTrue(answer.startswith(b"HTTP/1.1 " + status), answer[:80])
+                data += "" if "\r\n\r\n" in data else "\r\n"
+                start, _, body = self.server.raw(data.encode(), timeout=3).decode().partition("\r\n\r\n")
+                self.assertTrue(start.startswith(f"HTTP/1.1 {status} "), start)
+                self.assertEqual(POLICY in start and "no-store" in start and body.startswith("{"), own, start)
+        self.assertEqual(self.server.raw(b"\x16\x03\x01\r\n\r\n", timeout=3), b"")
         self.assertEqual(self.server.get("").status, 200)
 
 
@@ -248,28 +262,58 @@ class Limits(unittest.TestCase):
                     connection.close()
 
     def test_slow_requests_are_ended(self):
+        """Ten seconds for all of a request, however it is dealt out: a burst, then a byte now and then."""
         with Server("--connections-per-address", "40") as server:
-            head = f"PATCH /api/v1/objects HTTP/1.1\r\nHost: {server.host}\r\nAuthorization: Bearer {server.token}\r\n" \
-                   f"Origin: http://{server.host}\r\nContent-Type: {JSON}\r\nContent-Length: 100\r\n\r\n"
-            cases = {"nothing": "", "a line": "GET / HTTP/1.1\r\n", "no body": head, "a drop of it": head + "{"}
-            slow = {}
-            for name, data in cases.items():
-                slow[name] = socket.create_connection(("127.0.0.1", server.port), timeout=5)
-                slow[name].sendall(data.encode())
-            kept = server.connect()
-            self.assertEqual(server.ask("GET", "/api/v1", connection=kept).status, 200)
-            start = time.monotonic()
-            while time.monotonic() < start + 9:
-                time.sleep(1)
-                slow["a drop of it"].sendall(b" ")  # a request has ten seconds in all, not between two bytes
+            line = "PATCH /api/v1/objects HTTP/1.1\r\n"
+            head = f"{line}Host: {server.host}\r\nAuthorization: Bearer {server.token}\r\nOrigin: http://{server.host}\r\n" \
+                   f"Content-Type: {JSON}\r\nContent-Length: 100\r\n\r\n"
+            cases = {  # what comes at once, what comes slowly
+                "nothing": ("", ""), "a line": (line, ""), "no body": (head, ""), "a slow line": ("", line),
+                "a slow end of the line, then slow headers": (line[:-9], head[len(line) - 9:]),
+                "slow headers": (line, head[len(line):]),
+                "a slow end of the headers, then a slow body": (head[:-9], head[-9:] + "{" * 90),
+                "a slow body": (head, "{" * 90)}
+            start, slow = time.monotonic(), {}
+            for name, (burst, drops) in cases.items():
+                for again in (False, True):
+                    connection = socket.create_connection(("127.0.0.1", server.port), timeout=0.01)
+                    if again:  # after another request on the same connection
+                        connection.sendall(f"HEAD /icon.svg HTTP/1.1\r\nHost: {server.host}\r\n\r\n".encode())
+                    slow[name, again] = [connection, burst.encode(), list(drops), b"", None]
+            time.sleep(0.3)
+            for client in slow.values():
+                client[0].sendall(client[1])
+            while time.monotonic() < start + 12:
+                for client in slow.values():
+                    self.deal_out(client, start)
+                time.sleep(0.4)
                 self.assertEqual(server.get("").status, 200)
-            time.sleep(2.5)
-            for name, connection in slow.items():
-                with self.subTest(name=name):
-                    self.assertTrue(read_all(connection).startswith(b"HTTP/1.1 408 "))
+            for (name, again), (connection, burst, _, answer, ended) in slow.items():
+                with self.subTest(name=name, again=again):
                     connection.close()
-            self.assertEqual(kept.sock.recv(10), b"")  # closed without a word
-            kept.close()
+                    self.assertIsNotNone(ended, answer)
+                    self.assertGreater(ended, 9)
+                    self.assertLess(ended, 11.5)
+                    last = answer.split(b"HTTP/1.1 ")[-1]
+                    begun = b"\n" in burst or "end of the line" in name
+                    silent = again and not begun  # closed without a word
+                    self.assertTrue(last.startswith(b"200 " if silent else b"408 "), answer)
+
+    @staticmethod
+    def deal_out(client, start):
+        """Sends the next byte of a slow client, and notes what came back and when the server closed."""
+        connection, _, drops, _, ended = client
+        if ended is None:
+            try:
+                if drops:
+                    connection.sendall(drops.pop(0).encode())
+                while chunk := connection.recv(4096):
+                    client[3] += chunk
+                client[4] = time.monotonic() - start
+            except TimeoutError:
+                pass
+            except OSError:
+                client[4] = time.monotonic() - start
 
     @unittest.skipIf(SANITIZED, "sanitizers take longer than the second that there is")
     def test_ending_lets_requests_finish(self):

@@ -112,9 +112,11 @@ void Connections::become(Handle entry, State state) {
     }
     entry->state = state;
     entry->fresh = false;
-    entry->deadline = state == State::Working
-                          ? steady_clock::time_point::max()
-                          : steady_clock::now() + (state == State::Answering ? kAnswerTime : kRequestTime);
+    if (state == State::Working) {
+        entry->deadline = steady_clock::time_point::max();
+    } else if (state != State::Receiving) { // which has what is left of the time since it was idle
+        entry->deadline = steady_clock::now() + (state == State::Answering ? kAnswerTime : kRequestTime);
+    }
     wakeBefore(entry->deadline);
 }
 

@@ -22,8 +22,10 @@ struct Limits {
 // Safe for many threads. A thread of its own ends the connections that are too slow; it sleeps while there are none.
 class Connections {
   public:
-    static constexpr std::chrono::seconds kRequestTime{10}; // to send a request, and between two
-    static constexpr std::chrono::seconds kAnswerTime{60};  // to take the answer
+    // For a whole request to come, from the beginning of the connection or from the answer before. The HTTP library
+    // tells of a request only when its first line is there: a time from its first byte on could not be kept.
+    static constexpr std::chrono::seconds kRequestTime{10};
+    static constexpr std::chrono::seconds kAnswerTime{60}; // to take the answer
 
     enum class State { Idle, Receiving, Working, Answering, Refused };
 

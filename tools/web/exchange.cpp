@@ -24,10 +24,12 @@ constexpr Wanted kWanted[] = {
     {"If-None-Match", &Request::ifNoneMatch},
 };
 
+constexpr const char *kTwice = "a header stands twice in the request";
+
 struct Headers {
     Request &request;
     size_t bytes = 0;
-    bool twice = false; // one that may stand there once
+    const char *wrong = nullptr; // what is, where something is
     bool awaitsContinue = false;
 };
 
@@ -37,6 +39,9 @@ bool is(const char *name, const char *wanted) {
 
 void takeOther(Headers &headers, const char *name, const char *value) {
     if (is(name, "Content-Length")) {
+        if (headers.request.contentLength) {
+            headers.wrong = kTwice;
+        }
         uint64_t length = 0;
         const auto [end, error] = std::from_chars(value, value + strlen(value), length);
         headers.request.contentLength = error == std::errc() && *end == '\0' ? length : UINT64_MAX;
@@ -51,10 +56,15 @@ MHD_Result takeHeader(void *context, MHD_ValueKind /*kind*/, const char *name, c
     Headers &headers = *static_cast<Headers *>(context);
     const char *value = text ? text : "";
     headers.bytes += strlen(name) + strlen(value) + strlen(": \r\n");
+    if (*name == '\0' || strpbrk(name, " \t")) { // the server in front may take it for another header
+        headers.wrong = "the name of a header is empty or has a blank";
+    }
     for (const Wanted &wanted : kWanted) {
         if (is(name, wanted.name)) {
             std::string &member = headers.request.*wanted.member;
-            headers.twice = headers.twice || !member.empty();
+            if (!member.empty()) {
+                headers.wrong = kTwice;
+            }
             member = value;
         }
     }
@@ -77,8 +87,8 @@ void Exchange::takeHeaders(MHD_Connection *from, const char *method) {
     if (headers.bytes + request.target.size() > kHeadersMax) {
         throw Refusal(Status::HeadersTooLarge, "the headers are larger than " + std::to_string(kHeadersMax) + " bytes");
     }
-    if (headers.twice) {
-        throw Refusal(Status::BadRequest, "a header stands twice in the request");
+    if (headers.wrong) {
+        throw Refusal(Status::BadRequest, headers.wrong);
     }
 }
 

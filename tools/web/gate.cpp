@@ -47,7 +47,7 @@ void Gate::check(const Request &request) const {
     } else if (methodOf(request.method) != kGet) {
         throw Refusal(Status::MethodNotAllowed, "only GET is possible here", {{"Allow", "GET"}});
     }
-    if (request.contentLength.value_or(0) > kBodyMax) {
+    if (request.chunked || request.contentLength.value_or(0) > kBodyMax) {
         checkLength(request);
     }
 }

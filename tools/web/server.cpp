@@ -166,9 +166,9 @@ Server::Server(int listener, Limits limits, const Gate &gate, Api &api)
                                MHD_OPTION_LISTEN_SOCKET, listener, MHD_OPTION_THREAD_POOL_SIZE, kThreads,
                                MHD_OPTION_CONNECTION_LIMIT, limits.connections + kSpareConnections,
                                MHD_OPTION_CONNECTION_MEMORY_LIMIT, kConnectionMemory, MHD_OPTION_CONNECTION_TIMEOUT,
-                               kSilenceMax, MHD_OPTION_STRICT_FOR_CLIENT, 1, MHD_OPTION_NOTIFY_CONNECTION,
-                               &Callbacks::connection, this, MHD_OPTION_URI_LOG_CALLBACK, &Callbacks::begin, this,
-                               MHD_OPTION_NOTIFY_COMPLETED, &Callbacks::end, this, MHD_OPTION_END)) {
+                               kSilenceMax, MHD_OPTION_NOTIFY_CONNECTION, &Callbacks::connection, this,
+                               MHD_OPTION_URI_LOG_CALLBACK, &Callbacks::begin, this, MHD_OPTION_NOTIFY_COMPLETED,
+                               &Callbacks::end, this, MHD_OPTION_END)) {
     if (!daemon_) {
         throw std::runtime_error("the HTTP server cannot be started");
     }
