@@ -31,6 +31,7 @@ class Jobs(unittest.TestCase):
     def test_two_scans_and_wps_at_once(self):
         server = self.start()
         self.assertEqual(server.get("/wifi/survey").status, 404)
+        self.assertEqual(server.get("/wifi/survey?empty=1").json, {"networks": []})
         numbers = [self.begin(server, "/wifi/scans", {"interface": "wlan0", "pace": 20}),
                    self.begin(server, "/wifi/scans", {"interface": "wlan2", "pace": 20}),
                    self.begin(server, "/wifi/wps", {"pace": 50})]
@@ -43,8 +44,18 @@ class Jobs(unittest.TestCase):
         self.assertTrue(all(network["channel"] <= 14 for network in jobs[0]["result"]["networks"]))
         self.assertTrue(all(network["channel"] > 14 for network in jobs[1]["result"]["networks"]))
         self.assertEqual(jobs[2]["result"], {"wps": "Success"})
-        self.assertEqual(server.get("/wifi/survey").status, 200)
+        survey = server.get("/wifi/survey")
+        self.assertEqual((survey.status, server.get("/wifi/survey?empty=1").body), (200, survey.body))
         self.assertEqual([job["id"] for job in server.get("/jobs").json["jobs"]], numbers)
+
+    def test_a_scan_ends_when_its_result_is_there(self):
+        server = self.start(CALTOFAL_BOX_SCAN_MS="1000")
+        for interface in ("wlan0", "wlan2"):
+            start = time.monotonic()
+            job = self.wait(server, self.begin(server, "/wifi/scans", {"interface": interface}))
+            self.assertEqual(job["state"], "done", job)
+            self.assertGreaterEqual(time.monotonic() - start, 1)
+            self.assertLess(time.monotonic() - start, 2.5)
 
     def test_a_second_scan_on_an_interface_fails(self):
         server = self.start(CALTOFAL_BOX_SCAN_MS="1500")

@@ -84,9 +84,16 @@ Report showStations(const Call &call) {
     return pages::wifi::stations(interface, {});
 }
 
-Report showSurvey(const Call & /*call*/) {
+Report showSurvey(const Call &call) {
     needDeviceTools();
-    return pages::wifi::survey({}, {});
+    try {
+        return pages::wifi::survey({}, {});
+    } catch (const pages::Failure &failure) {
+        if (failure.category() != pages::Category::Absent || !call.flag("empty")) {
+            throw;
+        }
+        return {.json = Value::object({{"networks", Value::list()}})};
+    }
 }
 
 Report showEndpoint(const Call & /*call*/) {

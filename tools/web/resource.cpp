@@ -31,7 +31,7 @@ constexpr Resource kResources[] = {
     {"/secrets/wifi/ssids/{N}", kGet, Subject::WifiSecret},
     {"/wifi/channels/{IF}", kGet, Subject::WifiChannels, true},
     {"/wifi/stations/{IF}", kGet, Subject::WifiStations, true},
-    {"/wifi/survey", kGet, Subject::WifiSurvey, true},
+    {"/wifi/survey", kGet, Subject::WifiSurvey, true, "empty "},
     {"/wifi/endpoint", kGet, Subject::WifiEndpoint, true},
     {"/wifi/scans", kPost, Subject::WifiScans},
     {"/wifi/wps", kPost, Subject::WifiWps},

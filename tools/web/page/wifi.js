@@ -8,12 +8,9 @@ import {drawSpectrum, networkColour} from "./spectrum.js";
 import {editRadio, editSsid} from "./wifi_forms.js";
 
 const possible = new Map(); // interface → its channels, which do not change while they are looked at
-let scanned = true; // false when there is no result of a scan to ask for
 
 async function load() {
-  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", hosts: "hosts",
-    ...scanned && {survey: "wifi/survey"}});
-  scanned = base.survey?.error?.status !== 404 && scanned;
+  const base = await getAll({radios: "wifi/radios", ssids: "wifi/ssids", hosts: "hosts", survey: "wifi/survey?empty=1"});
   const radios = base.radios.value?.radios ?? [], ssids = base.ssids.value?.ssids ?? [];
   const serving = ssids.filter(ssid => ssid.enabled && ssid.active && ssid.network !== "uplink");
   const each = (list, key, path) => getAll(Object.fromEntries(list.map(one => [one[key], path + one[key]])));
@@ -24,7 +21,7 @@ async function load() {
   const sides = radios.map(({radio}) => [radio,
     settings[radio].value?.user_interface[`Device.WiFi.Radio.${radio}`]?.ExtensionChannel]);
   return {...base, serving, stations, settings,
-    networks: networksOf(radios, ssids, Object.fromEntries(sides), base.survey?.value?.networks ?? [])};
+    networks: networksOf(radios, ssids, Object.fromEntries(sides), base.survey.value?.networks ?? [])};
 }
 
 const channelsOf = radio => possible.get(radio.interface) ?? [];
@@ -85,10 +82,8 @@ const inBand = (data, radio) => data.networks.filter(network => network.span.ban
 function spectrum(radio, data) {
   const band = bandName(radio.band), shown = inBand(data, radio);
   const title = `Channels in ${band}`, label = `Scan in ${band}`;
-  return section([title, jobButton("Scan", label, "wifi/scans", {interface: radio.interface}, ({networks}) => {
-    scanned = true;
-    return `${networks.length} networks found.`;
-  })],
+  return section([title, jobButton("Scan", label, "wifi/scans", {interface: radio.interface},
+    ({networks}) => `${networks.length} networks found.`)],
   progress(label),
   el("div.chart", {"data-own": "", "data-key": radio.band}),
   note(shown.some(network => network.own) ? "Dashed: own networks, at full height as their signal is not measured."
