@@ -17,8 +17,9 @@ namespace sandbox {
 // CALTOFAL_NO_GATEWAY when there is none, or when the name is not a gateway's.
 std::unique_ptr<Database> openGateway(const Location &location);
 
-// Makes a gateway of a file's entries. It appears whole or not at all. False when it exists already, be it that
-// another process made it in the meantime. Throws FileError for a bad entry; with a report as importEntries() does.
+// Makes a gateway of a file's entries. It appears whole or not at all. False when it exists already, also
+// when another process has made it in the meantime. Throws FileError for a bad entry; with a report as importEntries()
+// does.
 bool createGateway(const Location &location, const Entries &entries, const std::string &file,
                    ImportReport *report = nullptr);
 

@@ -29,7 +29,7 @@ bool skipBlanks(std::string_view &text) {
     return count != 0;
 }
 
-// The annotation at the front of the text, which is taken off it: up to a blank or "]", but for those in quotes or in
+// The annotation at the front of the text, which is taken off it: up to a blank or "]" that is not in quotes or
 // parentheses.
 std::string_view takeAnnotation(std::string_view &text) {
     bool insideQuotes = false;

@@ -30,7 +30,8 @@ FileContent demoContent(const Demo &demo) {
     return {readGatewayFile(demo.text, std::string(demo.name) + ".tr181"), std::nullopt};
 }
 
-// Without `from` the demo of the gateway's own name, else the usual one: as they come, whatever became of them.
+// Without `from` the demo of the gateway's own name, else the usual one: as it is delivered, not as a gateway made of
+// it has become.
 FileContent contentFor(const std::string &name, const std::string &from) {
     if (from.empty()) {
         const Demo *demo = findDemo(name);

@@ -9,8 +9,8 @@
 
 namespace sandbox {
 
-// Bytes of the UTF-8 sequence at the front of the text, which is not empty; 0 when it is none. Long forms, surrogates
-// and what is beyond U+10FFFF are none.
+// Bytes of the UTF-8 sequence at the front of the text, which is not empty; 0 when there is no such sequence. Long
+// forms, surrogates and what is beyond U+10FFFF do not count as one.
 size_t utf8Length(std::string_view text);
 
 // Whether the bytes are UTF-8 without control characters other than tab, line feed and carriage return.

@@ -29,7 +29,7 @@ class Path {
     explicit Path(const char *object) : text_(object) {
         const char *end = strchrnul(object, '&');
         deferred_ = *end != '\0';
-        // The last character is dropped, wherever the '&' stands.
+        // The last character is dropped, also where the '&' is not the last one.
         const bool inside = deferred_ && end[1];
         const size_t length = static_cast<size_t>(end - object) + (inside ? strlen(end + 1) : 0);
         if (deferred_ || length >= kPathSize) {

@@ -44,7 +44,7 @@ int fetchLine(ZintuDslLineInfo &info, const char *failure, Spot spot = Spot()) {
 } // namespace
 
 int32_t ZintuGet_LineInfo(ZintuDslLineInfo *info) {
-    constexpr char kFailure[] = "faltocal_SendMultiObj is Failure \n"; // of all four requests, whichever way sent
+    constexpr char kFailure[] = "faltocal_SendMultiObj is Failure \n"; // for all four requests
     if (fetchLine(*info, kFailure) != 0) {
         return -1;
     }

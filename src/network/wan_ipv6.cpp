@@ -72,7 +72,7 @@ int readNextHop(ZintuWanInfo *info) {
     if (code == 0) {
         forEachValue(*message, "NextHop", [info](const char *address) { storeAddress(address, info->sIpv6NextHop); });
     }
-    message.leave(); // this message stays unreleased, whatever its result
+    message.leave(); // this message stays unreleased, after a failure too
     return code;
 }
 

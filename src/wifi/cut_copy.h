@@ -15,7 +15,7 @@ void copyCut(char (&field)[Size], const char *text) {
     frame::copyText(field, Size - 1, text);
 }
 
-// The same for a text of a known length. The survey's limit and the snapshot's do not bear that it is measured again.
+// The same for a text of a known length: measured again, the survey and the snapshots would miss their limits.
 template <size_t Size>
 void copyCut(char (&field)[Size], const char *text, size_t length) {
     constexpr size_t kLongest = Size - 2;

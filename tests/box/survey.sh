@@ -46,7 +46,7 @@ expect 'a network that is not there leaves an empty result' '0' "$(wc -c <"$resu
 scan home wlan0 '' await
 expect "a gateway does not hear itself" '' "$(grep 'VOLA Home' "$CALTOFAL_SANDBOX_DIR/home.box/wlan_wave/wlan0_scan_by_User.result")"
 
-# Requests that are none: the exit code is the bus client's, nothing else happens.
+# What is not a request: the exit code is the bus client's, nothing else happens.
 before=$(ls -l "$results")
 for request in '{"nid": 138,"type": false,"pn1": "Action", "pv1": "SCAN","pn2": "Na' '{"type": false}' '[138]' \
     '{"nid": 138, "pn1": "Action", "pv1": 5}' '{"nid": 138, "pn1": "Action"}'; do

@@ -112,7 +112,7 @@ TEST_F(Convert, Words) {
 
 TEST_F(Convert, MacAddresses) {
     // The last three are what the rule lets through: the scan stops behind twelve digits, and a separator behind one
-    // digit mends a broken text.
+    // digit makes a broken text whole.
     expectEach(
         "=0&0:011:22:33:44:55=0&:00:11:22:33:44:55=0&00:11:22:33:44:5=0&00:11:22:33:44:55:=0&00:11:22:33:44:55 =0&"
         "0011:2233:4455=0&0011223344556=0&g001122334455=0&00:11:22:33:44:55=1&00-11:22-33-aA-fF=1&001122334455=1&"

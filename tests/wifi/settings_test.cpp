@@ -24,7 +24,7 @@ std::vector<std::string> rows(const WifiParamTable &table) {
 TEST_F(Settings, SetParam) {
     const auto table = std::make_unique<WifiParamTable>();
     const std::string text(300, 'x');
-    for (const int count : {-1, 100}) { // no index, full
+    for (const int count : {-1, 100}) { // not an index, full
         table->count = count;
         EXPECT_EQ(-1, SetParam(table.get(), "o", "p", "v"));
         EXPECT_EQ(count, table->count);

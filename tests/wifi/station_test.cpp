@@ -83,7 +83,7 @@ TEST_F(Stations, FilterAndLimits) {
     const std::string antennas = "-41 : Short-term RSSI average\n-44 : Short-term RSSI average\n";
     const std::string first = "00:11:22:33:44:55 : STA MAC\n" + antennas;
     const std::string second = "66:77:88:99:aa:BB : STA MAC\n" + antennas;
-    // The second station's line ends the first one: it is lost, but where the first is not wanted.
+    // The second station's line ends the first one and is lost, unless the first is not wanted.
     for (const char *filter : {static_cast<const char *>(nullptr), "no address", "00:11:22:33:44:55"}) {
         EXPECT_EQ("00:11:22:33:44:55 -42 (-41,-44,0,0,) ", parse(first + second, filter));
     }
@@ -193,7 +193,7 @@ TEST_F(Stations, MacAccess) {
     expect(1, 0, big.substr(0, 126), big.substr(0, 126));
     expect(2, 0, "", "");
     expect(31, 5, "a", "b");
-    list->count = -1; // no index
+    list->count = -1; // not an index
     EXPECT_EQ(-1, GetMacAccessList(caltofal_nextObject(&message, nullptr), table.c_str(), list.get()));
     EXPECT_EQ(-1, list->count);
     faltocal_finalize(&message);

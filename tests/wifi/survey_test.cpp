@@ -9,7 +9,7 @@ using Survey = WifiTest;
 
 constexpr char kFile[] = "/tmp/wlan_wave/wlan0_scan_by_User.result";
 
-// What reading a file leaves: its entries, and what is printed about the lines that are none.
+// What reading a file leaves: its entries, and what is printed about the lines that are not entries.
 struct Result {
     std::string entries, printed;
 };

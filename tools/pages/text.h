@@ -10,7 +10,7 @@
 
 namespace pages {
 
-// How many bytes the first character of a text takes in UTF-8; 0 where its bytes are none.
+// How many bytes the first character of a text takes in UTF-8; 0 where they are not UTF-8.
 size_t utf8Length(std::string_view text);
 
 bool isUtf8(std::string_view text);

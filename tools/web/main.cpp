@@ -40,8 +40,7 @@ sigset_t blockSignals() {
     return set;
 }
 
-// On a device, and in the sandbox's box, the console has the library's trace. A laptop's console is none of its
-// business.
+// On a device, and in the sandbox's box, the library's trace goes to the console. It does not belong on a laptop's.
 void keepConsole() {
     const char *box = getenv("CALTOFAL_BOX");
     if (pages::isSandbox() && !box) {
@@ -65,7 +64,7 @@ void endSoon() {
     setitimer(ITIMER_REAL, &timer, nullptr);
 }
 
-// One line, whatever reads it sees it at once.
+// One line, flushed: a program that reads it sees it at once.
 void printUrl(const Options &options, const Listener &listener, const std::string &token) {
     const std::string host =
         options.listen.any ? options.hosts.front() + ":" + std::to_string(listener.port) : listener.text();

@@ -97,7 +97,7 @@ int inheritable(int descriptor) {
 // then gets the terminal's signals directly.
 int attend(pid_t child, int own, const Pipe &ready, const Pipe &signals, bool &started) {
     bool starting = true;
-    int toEnd = 0; // a request to end, which is heeded whatever the command makes of it
+    int toEnd = 0; // the last SIGTERM or SIGHUP, which decides the exit code in place of the command
     for (int status = 0;;) {
         pollfd watched[] = {{own, POLLIN, 0}, {starting ? ready.reading() : -1, POLLIN, 0}};
         poll(watched, std::size(watched), -1);

@@ -37,7 +37,7 @@ const char *nameOf(Origin origin);
 // be read or a line with another number of columns.
 Surroundings readSurroundings(sandbox::Database &database);
 
-// What an interface hears: the networks of its band but for those of `interfaces`, the gateway's own.
+// What an interface hears: the networks of its band without those of `interfaces`, the gateway's own.
 std::vector<Neighbour> within(const std::vector<Neighbour> &neighbours, const Interface &interface,
                               const std::vector<Interface> &interfaces);
 

@@ -20,7 +20,7 @@ struct Line {
     const char *description;
 };
 
-// As "%s : %s" splits it, but for the description's end: only its start is looked at.
+// As "%s : %s" splits it. The description is not cut at its end: only its start is looked at.
 Line split(char *line) {
     char *value = skipSpace(line);
     char *end = skipWord(value);

@@ -41,8 +41,8 @@ inline constexpr size_t kMostSettings = 29;
 inline constexpr size_t kMostSteps = 4;
 inline constexpr size_t kLongestName = 32;
 
-// Kept settings by the length of their names: those of n characters are order[first[n]] up to order[first[n + 1]]. The
-// limit of the radio snapshot does not bear a search through all of them (1.77 times the floor where 1.25 is allowed).
+// Kept settings by the length of their names: those of n characters are order[first[n]] up to order[first[n + 1]]. With
+// a search through all of them, the radio snapshot would cost 1.77 times its floor, where its limit is 1.25.
 struct NameIndex {
     uint8_t first[kLongestName + 2];
     uint8_t order[kMostSettings];

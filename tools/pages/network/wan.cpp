@@ -106,7 +106,7 @@ Page bridgeWan() {
         {"the gateway is not a bridge: its operation mode is " + std::to_string(mode),
          {"Device.Routing."},
          CALTOFAL_NO_MATCH});
-    // The library fixes these whatever the device does, and "Down" means no more than that DHCP gave no address.
+    // The library gives these fixed values, and its "Down" means only that DHCP gave no address.
     info.bIpv6Enable = kUntouchedFlag;
     info.sIpv6Type[0] = '\0';
     untouch(info.bVlanEnable, info.nVlanID, info.bDnsAuto);

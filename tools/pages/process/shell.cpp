@@ -98,7 +98,7 @@ FILE *openShell(const char *command) {
     return file;
 }
 
-// Of a stream of openShell(); 0 where it is none.
+// The process of a stream of openShell(); 0 for another stream.
 pid_t forget(FILE *file) {
     const std::lock_guard lock(streamsGuard);
     const auto found =

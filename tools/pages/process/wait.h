@@ -18,7 +18,7 @@ class Wait {
     Wait &operator=(const Wait &) = delete;
     virtual ~Wait() = default;
 
-    // What follows is in progress on the device: from now on it is for cancelled() to say that it shall end.
+    // What follows is in progress on the device: from now on cancelled() says whether it has to end.
     virtual void begin() {}
 
     // Waits; false as soon as it was cancelled.

@@ -76,7 +76,7 @@ std::string pathOf(const Group &group, const Numbers &numbers) {
     return table + std::to_string(numbers.own) + group.rest;
 }
 
-// Those whose objects have a name: without an access point there are none of its settings.
+// The groups whose objects have a name: without an access point, its settings are left out.
 template <class Act>
 void eachGroup(const Numbers &numbers, Act act) {
     const std::span<const Group> groups =
