@@ -11,6 +11,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <sstream>
 #include <stdexcept>
 #include <unistd.h>
@@ -129,12 +130,15 @@ int run(const Request &request) {
     }
     const Places places = findPlaces();
     const std::string storeDirectory = realDirectory(request.gateway.directory);
-    const std::string state = stateDirectory({storeDirectory, request.gateway.name});
+    const State state({storeDirectory, request.gateway.name});
+    if (!state.obstacle().empty()) {
+        std::cerr << "caltofal-sandbox: " << state.obstacle() << ": what the device writes is kept for this run only\n";
+    }
     const Shown shown = shownFor(request, places, storeDirectory);
     const std::string here = fs::current_path().string();
 
     std::vector<std::string> arguments{places.bwrap, "--unshare-pid", "--as-pid-1"};
-    const std::vector<std::string> mounts = mountArguments(places, state, shown);
+    const std::vector<std::string> mounts = mountArguments(places, state.directory(), shown);
     arguments.insert(arguments.end(), mounts.begin(), mounts.end());
     arguments.insert(arguments.end(), {"--chdir", shown.has(here) ? here : "/", "--"});
     setEnvironment(request, places, storeDirectory);

@@ -3,10 +3,14 @@
 
 #include "device/box/obstacle.h"
 
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <sstream>
+#include <stdexcept>
 #include <unistd.h>
+#include <vector>
 
 namespace box {
 namespace {
@@ -58,18 +62,73 @@ Places findPlaces() {
     return places;
 }
 
-std::string stateDirectory(const sandbox::Location &gateway) {
-    std::string directory = directoryOfState(gateway);
+namespace {
+
+constexpr const char *kStateParts[] = {"gddbc", "log", "servd", "wlan_wave"};
+
+void setLogsAside(const sandbox::Location &gateway) {
     for (const std::string &log : {consoleFile(gateway), messagesFile(gateway)}) {
         std::error_code absent;
         if (const auto size = fs::file_size(log, absent); !absent && size > kLogMax) {
             fs::rename(log, log + ".old");
         }
     }
-    for (const char *part : {"gddbc", "log", "servd", "wlan_wave"}) {
+}
+
+void makeParts(const std::string &directory) {
+    for (const char *part : kStateParts) {
         fs::create_directories(directory + "/" + part);
     }
-    return directory;
+}
+
+// What stands against a box that writes there; "" for nothing.
+std::string obstacleTo(const sandbox::Location &gateway, const std::string &directory) {
+    std::vector<std::string> needed = {directory, consoleFile(gateway), messagesFile(gateway)};
+    for (const char *part : kStateParts) {
+        needed.push_back(directory + "/" + part);
+    }
+    for (const std::string &path : needed) {
+        if (access(path.c_str(), W_OK) != 0 && errno != ENOENT) {
+            return path + ": " + std::strerror(errno);
+        }
+    }
+    return "";
+}
+
+std::string temporaryCopy(const std::string &directory) {
+    std::string copy = (fs::temp_directory_path() / "caltofal-box-XXXXXX").string();
+    if (mkdtemp(copy.data()) == nullptr) {
+        throw std::runtime_error(copy + ": " + std::strerror(errno));
+    }
+    std::error_code unreadable;
+    for (const fs::directory_entry &entry : fs::directory_iterator(directory, unreadable)) {
+        std::error_code lost; // what cannot be read is done without
+        fs::copy(entry.path(), fs::path(copy) / entry.path().filename(), fs::copy_options::recursive, lost);
+    }
+    makeParts(copy);
+    return copy;
+}
+
+} // namespace
+
+State::State(const sandbox::Location &gateway) : directory_(directoryOfState(gateway)) {
+    try {
+        makeParts(directory_);
+        setLogsAside(gateway);
+        obstacle_ = obstacleTo(gateway, directory_);
+    } catch (const fs::filesystem_error &error) {
+        obstacle_ = error.path1().string() + ": " + error.code().message();
+    }
+    if (!obstacle_.empty()) {
+        directory_ = temporaryCopy(directory_);
+    }
+}
+
+State::~State() {
+    std::error_code ignored;
+    if (!obstacle_.empty()) {
+        fs::remove_all(directory_, ignored);
+    }
 }
 
 void removeState(const sandbox::Location &gateway) {

@@ -19,8 +19,23 @@ struct Places {
 // Throws an Obstacle when something is missing.
 Places findPlaces();
 
-// What a gateway's device keeps between two boxes: databases, logs, survey results. Made when it is not there yet.
-std::string stateDirectory(const sandbox::Location &gateway);
+// What a gateway's device keeps between two boxes: databases, logs, survey results. Made when it is not there yet. Who may
+// not write there gets a copy, which is gone at scope end.
+class State {
+  public:
+    explicit State(const sandbox::Location &gateway);
+    State(const State &) = delete;
+    State &operator=(const State &) = delete;
+    ~State();
+
+    const std::string &directory() const { return directory_; }
+    // The file that cannot be written, and why; "" where nothing is lost.
+    const std::string &obstacle() const { return obstacle_; }
+
+  private:
+    std::string directory_;
+    std::string obstacle_;
+};
 
 // Deletes it, if it is there.
 void removeState(const sandbox::Location &gateway);
