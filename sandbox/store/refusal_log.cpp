@@ -2,6 +2,7 @@
 #include "store/refusal_log.h"
 
 #include "store/log_line.h"
+#include "store/store.h"
 
 #include <cstdio>
 #include <exception>
@@ -23,10 +24,10 @@ void setAside(const std::string &file) {
 } // namespace
 
 void logRefusal(const Location &location, const char *operation, int code, const char *reason) noexcept {
-    if (!isGatewayName(location.name)) {
-        return; // a file of that name would not be the sandbox's
-    }
     try {
+        if (!storeExists(location)) {
+            return; // the log of a gateway that is not there would be nobody's
+        }
         const std::string file = location.logFile();
         setAside(file);
         // A lost line is no reason to fail.

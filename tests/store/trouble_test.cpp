@@ -55,6 +55,7 @@ TEST_F(Trouble, WithoutAGateway) {
         EXPECT_EQ(getInfo(), CALTOFAL_NO_GATEWAY) << name;
     }
     EXPECT_STREQ(cal_sandboxReason(), "\"/\" is not a gateway name: letters, digits, '.', '_' and '-'");
+    EXPECT_FALSE(std::filesystem::exists(location("nosuch").logFile()));
     EXPECT_FALSE(std::filesystem::exists(outside + ".log")) << "logged outside the sandbox";
     setenv("CALTOFAL_GATEWAY", "lab", 1);
     EXPECT_EQ(getInfo(), 0);
