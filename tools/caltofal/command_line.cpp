@@ -158,11 +158,17 @@ std::string faultOf(const CLI::App &app, const std::string &words, const CLI::Pa
     return dynamic_cast<const CLI::ValidationError *>(&error) ? name + " is empty" : message;
 }
 
+// With the noun and verb that it is about, "" for none.
+std::string withHelp(const std::string &words, const std::string &fault) {
+    return (words.empty() ? "" : words + ": ") + fault + "; see caltofal " + (words.empty() ? "" : words + " ") +
+           "--help";
+}
+
 std::string reasonOf(const CLI::App &app, const CLI::ParseError &error) {
     const std::string words = chosenWords(app);
-    return (words.empty() ? "" : words + ": ") + faultOf(app, words, error) + "; see caltofal " +
-           (words.empty() ? "" : words + " ") + "--help";
+    return withHelp(words, faultOf(app, words, error));
 }
+
 
 std::string examplesOf(const std::string &words, const char *examples) {
     std::string result = "Examples:";
@@ -250,6 +256,14 @@ struct Parser {
 
 } // namespace
 
+void namingCommand(const Task &task, const std::function<void()> &act) {
+    try {
+        act();
+    } catch (const Usage &usage) {
+        throw Usage(withHelp(task.words, usage.what()));
+    }
+}
+
 Task parse(const std::vector<std::string> &words, Options &options) {
     CLI::App app("Reads and changes a residential gateway's TR-181 configuration.", "caltofal");
     Common common{options, {}, {}};
@@ -270,8 +284,12 @@ Task parse(const std::vector<std::string> &words, Options &options) {
     } catch (const CLI::ParseError &error) {
         throw Usage(reasonOf(app, error));
     }
-    common.take();
-    return {parser.command, parser.command->prepare(parser.arguments())};
+    Task task{parser.command, {}, chosenWords(app)};
+    namingCommand(task, [&] {
+        common.take();
+        task.show = task.command->prepare(parser.arguments());
+    });
+    return task;
 }
 
 } // namespace cli

@@ -21,10 +21,14 @@ struct Options {
 struct Task {
     const Command *command = nullptr;
     Show show;
+    std::string words = {}; // the noun, and the verb where it has some
 };
 
 // What to do; the words are those of typed_words.h. Prints help or version and answers no command where that was asked
 // for; throws Usage.
 Task parse(const std::vector<std::string> &words, Options &options);
+
+// Runs `act`. A Usage that it throws gets the command's words: what checks an argument does not know whose it is.
+void namingCommand(const Task &task, const std::function<void()> &act);
 
 } // namespace cli

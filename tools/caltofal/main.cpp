@@ -56,9 +56,6 @@ void occupyStreams() {
 
 // What the command's page says. A signal ends its waiting.
 pages::Report answerOf(const Task &task) {
-    if (task.command->device) {
-        needDevice();
-    }
     try {
         return task.show();
     } catch (const pages::Cancelled &cancelled) {
@@ -83,11 +80,16 @@ void runCommand(const std::vector<std::string> &words) {
         collectConsole();
         return report;
     };
-    if (options.watch > 0) {
-        watch(answer, options.form, std::chrono::seconds(options.watch));
-    } else {
-        print(answer(), options.form);
+    if (task.command->device) {
+        needDevice();
     }
+    namingCommand(task, [&] {
+        if (options.watch > 0) {
+            watch(answer, options.form, std::chrono::seconds(options.watch));
+        } else {
+            print(answer(), options.form);
+        }
+    });
 }
 
 } // namespace
