@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "pages/capture/line.h"
 #include "pages/capture/pages.h"
+#include "pages/capture/standard_access.h"
 #include "pages/failure.h"
 #include "pages/layer/definition.h"
 #include "pages/secret.h"
@@ -65,10 +66,12 @@ std::map<std::string, std::string> valuesNow(const std::vector<Line> &lines) {
     return values;
 }
 
+// By the layer, by the file, by the standard: whichever tells first.
 bool isReadOnly(const Line &line) {
     const std::string own = definitionOf(line.object + line.parameter);
-    const std::string words = " " + (own.empty() ? line.annotations : own) + " ";
-    return words.find(" rw ") == std::string::npos && words != "  ";
+    const std::string words = own.empty() ? line.annotations : own;
+    return words.empty() ? isReadOnlyByStandard(line.object, line.parameter)
+                         : (" " + words + " ").find(" rw ") == std::string::npos;
 }
 
 bool isReplaced(const Line &line) {
