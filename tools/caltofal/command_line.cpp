@@ -169,7 +169,6 @@ std::string reasonOf(const CLI::App &app, const CLI::ParseError &error) {
     return withHelp(words, faultOf(app, words, error));
 }
 
-
 std::string examplesOf(const std::string &words, const char *examples) {
     std::string result = "Examples:";
     std::istringstream lines(examples);

@@ -19,8 +19,8 @@ struct Places {
 // Throws an Obstacle when something is missing.
 Places findPlaces();
 
-// What a gateway's device keeps between two boxes: databases, logs, survey results. Made when it is not there yet. Who may
-// not write there gets a copy, which is gone at scope end.
+// What a gateway's device keeps between two boxes: databases, logs, survey results. Made when it is not there yet. Who
+// may not write there gets a copy, which is gone at scope end.
 class State {
   public:
     explicit State(const sandbox::Location &gateway);
