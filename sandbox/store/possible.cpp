@@ -8,9 +8,9 @@
 #include "value/path.h"
 #include "value/refusal.h"
 #include "value/standard_type.h"
+#include "value/value_list.h"
 
 #include <algorithm>
-#include <charconv>
 #include <iterator>
 #include <vector>
 
@@ -26,8 +26,10 @@ struct Listed {
     std::string_view always = {}; // a value that needs no mention
 };
 
+constexpr std::string_view kChannels = "PossibleChannels"; // as channelsOf() reads them
+
 constexpr Listed kListed[] = {
-    {"Device.WiFi.Radio.{i}.", "Channel", "PossibleChannels"},
+    {"Device.WiFi.Radio.{i}.", "Channel", kChannels},
     {"Device.WiFi.Radio.{i}.", "OperatingFrequencyBand", "SupportedFrequencyBands"},
     {"Device.WiFi.Radio.{i}.", "OperatingStandards", "SupportedStandards", Takes::Several},
     {"Device.WiFi.Radio.{i}.", "OperatingChannelBandwidth", "SupportedOperatingChannelBandwidths"},
@@ -45,42 +47,6 @@ struct Band {
 };
 constexpr Band kBands[] = {{"2.4GHz", "1-14"}, {"5GHz", "32-177"}, {"6GHz", "1-233"}};
 
-std::vector<std::string_view> items(std::string_view list) {
-    std::vector<std::string_view> result;
-    while (!list.empty()) {
-        const size_t end = std::min(list.find(','), list.size());
-        std::string_view item = list.substr(0, end);
-        list.remove_prefix(std::min(end + 1, list.size()));
-        item.remove_prefix(std::min(item.find_first_not_of(' '), item.size()));
-        item = item.substr(0, item.find_last_not_of(' ') + 1);
-        if (!item.empty()) {
-            result.push_back(item);
-        }
-    }
-    return result;
-}
-
-bool isNumber(std::string_view text, int &number) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size();
-}
-
-// An item of a list may be a range of numbers, "36-64".
-bool includes(std::string_view item, std::string_view value) {
-    const size_t dash = item.find('-', 1);
-    int number = 0;
-    int least = 0;
-    int most = 0;
-    const bool range = dash != std::string_view::npos && isNumber(value, number) &&
-                       isNumber(item.substr(0, dash), least) && isNumber(item.substr(dash + 1), most);
-    return item == value || (range && number >= least && number <= most);
-}
-
-bool allows(std::string_view list, std::string_view value) {
-    const std::vector<std::string_view> possible = items(list);
-    return std::any_of(possible.begin(), possible.end(), [value](auto item) { return includes(item, value); });
-}
-
 // The running value of another parameter of the object; "" where there is none.
 std::string valueBeside(Database &database, const std::string &key, std::string_view name) {
     const std::optional<ObjectRow> object = findObject(database, key);
@@ -92,11 +58,19 @@ std::string valueBeside(Database &database, const std::string &key, std::string_
     throw Refusal(CALTOFAL_OUT_OF_RANGE, parameter + ": " + quotedShort(value) + " is not possible, " + possible);
 }
 
+bool allows(const Listed &rule, std::string_view list, std::string_view item) {
+    if (rule.list != kChannels) {
+        return listAllows(list, item);
+    }
+    const std::vector<int> channels = channelsOf(list);
+    return std::any_of(channels.begin(), channels.end(), [&](int one) { return std::to_string(one) == item; });
+}
+
 void holdAgainst(const Listed &rule, const std::string &list, const std::string &parameter, std::string_view value) {
     const std::vector<std::string_view> wanted =
-        rule.takes == Takes::Several ? items(value) : std::vector<std::string_view>{value};
+        rule.takes == Takes::Several ? listItems(value) : std::vector<std::string_view>{value};
     for (const std::string_view item : wanted) {
-        if (item != rule.always && !allows(list, item)) {
+        if (item != rule.always && !allows(rule, list, item)) {
             refuse(parameter, item, std::string(rule.list) + " has " + list);
         }
     }
@@ -105,7 +79,7 @@ void holdAgainst(const Listed &rule, const std::string &list, const std::string 
 void holdAgainstBand(Database &database, const std::string &key, const std::string &parameter, std::string_view value) {
     const std::string band = valueBeside(database, key, "OperatingFrequencyBand");
     const auto *row = std::find_if(std::begin(kBands), std::end(kBands), [&](const Band &b) { return b.name == band; });
-    if (row != std::end(kBands) && !allows(row->channels, value)) {
+    if (row != std::end(kBands) && !listAllows(row->channels, value)) {
         refuse(parameter, value, band + " has the channels " + std::string(row->channels));
     }
 }

@@ -13,8 +13,8 @@ result() { # INSTANCE NAME=VALUE...
 }
 {
     echo '# values as texts'
-    printf 'Device.WiFi.Radio.%s.%s = %s\n' 1 Channel 11 1 PossibleChannels '1, 6, 11' 1 Enable True \
-        2 Channel 36 2 PossibleChannels 36,40 2 Enable 1
+    printf 'Device.WiFi.Radio.%s.%s = %s\n' 1 Channel 11 1 PossibleChannels '1-3, 11' 1 Enable True \
+        2 Channel 36 2 PossibleChannels 36-44 2 Enable 1
     ssid 1 ath0 net 1
     ssid 2 wl1.1 net5 2
     printf 'Device.WiFi.AccessPoint.1.%s = %s\n' SSIDReference Device.WiFi.SSID.1 AssociatedDevice.1.MACAddress 02:00:5E:00:00:01 \
@@ -29,7 +29,7 @@ expect 'interfaces by the names that the gateway gives' 'ath0 wl1.1' "$(in_box o
 expect 'stations without Active are there, inactive ones are not' '02:00:5E:00:00:01' \
     "$(in_box other 'sed -n "s/ *\(.*\) : STA MAC/\1/p" /proc/net/mtlk/ath0/PeerFlowStatus')"
 expect 'radios by their place' 'phy0 phy1' "$(in_box other 'for i in ath0 wl1.1; do iw dev $i info; done' | sed -n 's/.*wiphy /phy/p' | paste -sd ' ')"
-expect 'their channels' '1|6|11 36|40' "$(in_box other 'for p in phy0 phy1; do iw phy $p show_channel | cut -d " " -f 1 | paste -sd "|"; done' | paste -sd ' ')"
+expect 'their channels' '1|2|3|11 36|40|44' "$(in_box other 'for p in phy0 phy1; do iw phy $p show_channel | cut -d " " -f 1 | paste -sd "|"; done' | paste -sd ' ')"
 
 scan() { # INTERFACE: the result and where it comes from
     in_box "$1" '. /opt/lantiq/etc/ugw_notify_defs.sh

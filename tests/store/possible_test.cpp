@@ -9,6 +9,7 @@
 #include "sandbox_fixture.h"
 #include "store/possible.h"
 #include "value/path.h"
+#include "value/value_list.h"
 
 namespace {
 
@@ -82,6 +83,13 @@ TEST_F(PossibleTest, HoldsSettingsAgainstTheGateway) {
         EXPECT_EQ(cal_sandboxReason(), possible ? "" : path + "." + row.name + ": " + row.reason);
         EXPECT_EQ(valueOf(path, row.name) == row.value, possible) << row.value;
     }
+}
+
+TEST(ChannelList, HasEveryFourthNumberBeyond24GHz) {
+    EXPECT_EQ(sandbox::channelsOf("1-3, 13,"), (std::vector{1, 2, 3, 13}));
+    EXPECT_EQ(sandbox::channelsOf("36-48,149"), (std::vector{36, 40, 44, 48, 149}));
+    EXPECT_EQ(sandbox::channelsOf("1-2147483647").size(), 233U);
+    EXPECT_EQ(sandbox::channelsOf("x,-,9-"), std::vector<int>());
 }
 
 TEST_F(PossibleTest, JudgesAMessageAsAWhole) {

@@ -3,6 +3,7 @@
 
 #include "device/model/rows.h"
 #include "device/model/words.h"
+#include "value/value_list.h"
 
 #include <algorithm>
 #include <iterator>
@@ -37,8 +38,8 @@ std::string securityOf(const Row &row) {
 
 std::string joined(const std::string &list) {
     std::string text;
-    for (const std::string &part : commaSeparated(list)) {
-        text += (text.empty() ? "" : "+") + part;
+    for (const std::string_view part : sandbox::listItems(list)) {
+        text += (text.empty() ? "" : "+") + std::string(part);
     }
     return column(text);
 }

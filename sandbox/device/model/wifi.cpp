@@ -3,6 +3,7 @@
 
 #include "device/model/rows.h"
 #include "device/model/words.h"
+#include "value/value_list.h"
 
 #include <algorithm>
 #include <cctype>
@@ -37,10 +38,11 @@ Radio radioOf(const Row &row) {
     radio.channel = row.number("Channel");
     radio.band = bandOf(row.text("OperatingFrequencyBand"), radio.channel);
     radio.width = widthOf(row, radio.band == "5GHz");
-    radio.widths = commaSeparated(row.text("SupportedOperatingChannelBandwidths"));
-    for (const std::string &channel : commaSeparated(row.text("PossibleChannels"))) {
-        radio.channels.push_back(leadingNumber(channel));
+    const std::string widths = row.text("SupportedOperatingChannelBandwidths");
+    for (const std::string_view width : sandbox::listItems(widths)) {
+        radio.widths.emplace_back(width);
     }
+    radio.channels = sandbox::channelsOf(row.text("PossibleChannels"));
     return radio;
 }
 

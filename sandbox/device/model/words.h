@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
-// How the model writes what the device's tools want: lists, numbers, bands.
+// How the model writes what the device's tools want: numbers, bands.
 #pragma once
 
 #include <string>
-#include <vector>
 
 namespace device {
-
-// The parts of a list, without blanks around them.
-std::vector<std::string> commaSeparated(const std::string &text);
 
 // The leading number of a text; 0 when there is none.
 int leadingNumber(const std::string &text);
