@@ -81,8 +81,7 @@ std::string parameterText(const ParamNode &param) {
     if (!isValued(param)) {
         return param.name;
     }
-    const std::string value = isSecretName(param.name) ? std::string(kHidden) : quotedShort(param.value);
-    return std::string(param.name) + "=" + value;
+    return std::string(param.name) + "=" + quotedValue(param.name, param.value);
 }
 
 // "Device.Hosts.(HostNumberOfEntries) Device.WiFi.Radio.1.": each object with the parameters that the message names.

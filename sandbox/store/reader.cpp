@@ -7,6 +7,7 @@
 #include "value/escape.h"
 #include "value/path.h"
 #include "value/refusal.h"
+#include "value/secret.h"
 
 #include <algorithm>
 #include <set>
@@ -162,7 +163,7 @@ class Reader {
     std::string filterText() const {
         std::string text;
         for (const auto &[name, value] : request_.filters) {
-            text += (text.empty() ? "" : " and ") + name + " = " + quotedShort(value);
+            text += (text.empty() ? "" : " and ") + name + " = " + quotedValue(name, value);
         }
         return text;
     }

@@ -2,7 +2,6 @@
 #include "value/accepted_value.h"
 
 #include "caltofal.h"
-#include "value/escape.h"
 #include "value/refusal.h"
 #include "value/secret.h"
 
@@ -10,7 +9,7 @@ namespace sandbox {
 
 std::string acceptedValue(const ValueType &type, std::string_view parameter, std::string value) {
     const std::string subject = std::string(parameter) + ": ";
-    const std::string shown = isSecretName(parameter) ? std::string(kHidden) : quotedShort(value);
+    const std::string shown = quotedValue(parameter, value);
     if (value.size() >= PARAM_VALUE_SIZE) {
         throw Refusal(CALTOFAL_OUT_OF_RANGE, subject + "the value has " + std::to_string(value.size()) +
                                                  " bytes, at most " + std::to_string(PARAM_VALUE_SIZE - 1) +

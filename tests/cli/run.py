@@ -235,6 +235,51 @@ class WifiChanges(unittest.TestCase):
         self.assertEqual(lines[1].index("02:00") + 3 - 1, lines[2].index("02:00"), "three take two columns, one none")
 
 
+class Secrets(unittest.TestCase):
+    def setUp(self):
+        self.folder = tool.folder()
+
+    def run_tool(self, *words):
+        return tool.run(*words, folder=self.folder)
+
+    def test_the_tool_and_the_sandbox_hide_the_same(self):
+        """One shows values, the other quotes filters; arrows keep them from sharing the list of names."""
+        names = {"Channel", "KeyIndex", "Passphrases"}
+        for file in ("tools/pages/secret.cpp", "sandbox/value/secret.cpp"):
+            with open(os.path.join(HERE, "../..", file), encoding="ascii") as source:
+                names |= set(re.findall(r'"([A-Z]\w+)"', source.read().split("kEndings", 1)[1].split("}")[0]))
+        self.assertGreater(len(names), 10)
+        path = os.path.join(self.folder, "names.tr181")
+        with open(path, "w", encoding="ascii") as file:
+            file.writelines(f"Device.X_Test.A{name} [string rw] = open sesame\n" for name in names)
+        subprocess.run([tool.sandbox_executable, "import", "names", path], stderr=subprocess.DEVNULL, check=True,
+                       env=tool.environment(self.folder))
+        shown = self.run_tool("-g", "names", "get", "Device.X_Test").out.decode()
+        for name in names:
+            reason = self.run_tool("-g", "names", "get", "Device.X_Test", "--where", f"A{name}=guess").err
+            self.assertEqual("(hidden)" in reason, bool(re.search(rf"\.A{name} +\(hidden\)\n", shown)), name)
+            self.assertEqual("guess" in reason, "hidden" not in reason)
+
+    def test_a_trace_hides_them(self):
+        words = ("wifi", "set", "ssid", "1", "KeyPassphrase=correct-horse", "--trace")
+        hidden, asked = self.run_tool(*words), self.run_tool(*words, "--force", "--show-secrets")
+        self.assertRegex(hidden.err, r"KeyPassphrase=>\(hidden\)\]\n")
+        self.assertNotIn("correct-horse", hidden.err)
+        self.assertIn("KeyPassphrase=>correct-horse]\n", asked.err)
+        for words in (("get", "Device.PPP.Interface", "--where", "Password=correct-horse"),
+                      ("find", "Device.PPP.Interface", "Password", "correct-horse", "Name")):
+            for form in ("--trace", "--json"):
+                self.assertNotIn("correct-horse", self.run_tool(*words, form).err)
+
+    def test_what_stands_in_their_place_is_not_written(self):
+        table = "Device.DHCPv4.Server.Pool.1.StaticAddress"
+        for words in (("set", "Device.PPP.Interface.1", "Password=(hidden)"), ("add", table, "XPassword=(hidden)"),
+                      ("wifi", "set", "ssid", "1", "KeyPassphrase=(hidden)")):
+            result = self.run_tool(*words)
+            self.assertEqual(result.code, 2)
+            self.assertIn("stands in place of a secret", result.err)
+
+
 class FailedRequests(unittest.TestCase):
     """A page asks for several objects and answers one code: the tool says which request it was."""
 

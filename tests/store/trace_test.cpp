@@ -69,7 +69,7 @@ TEST_F(TraceTest, TellsWhyAMessageIsRefused) {
     cal_getValue(&Message::get(kPlainGet, "Device.Info.")->header);
     setenv("CALTOFAL_GATEWAY", "no/name", 1);
     cal_getValue(&Message::get(kPlainGet, "Device.Info.")->header);
-    EXPECT_EQ(takeTrace(), "lab set -203 unknown-parameter Device.Pair(Left=\"1\",KeyPassphrase=***) : "
+    EXPECT_EQ(takeTrace(), "lab set -203 unknown-parameter Device.Pair(Left=\"1\",KeyPassphrase=(hidden)) : "
                            "Device.Pair: no parameter \"KeyPassphrase\"\n"
                            "lab get -201 bad-message no object : there is no message\n"
                            "lab get -201 bad-message no object : the message names no object\n"

@@ -36,7 +36,7 @@ bool asksForJson(int argc, char **argv) {
 // A device's console keeps its trace, as with every other program there, unless it is to be shown here.
 void arrangeTrace(const Options &options) {
     if (options.trace) {
-        showTrace();
+        showTrace(options.secrets);
         unfaltocalLogType |= kLogToStdout;
     }
     if (options.trace || pages::isSandbox()) {

@@ -5,6 +5,7 @@
 #include "caltofal/terminal.h"
 #include "pages/process/console.h"
 #include "pages/process/output.h"
+#include "pages/secret.h"
 
 #include <array>
 #include <sys/mman.h>
@@ -19,14 +20,20 @@ namespace {
 constexpr std::array<std::string_view, 4> kTags = {"console", "stderr", "log", "request"};
 
 bool shown = false;
+bool showSecrets = false;
 int console = -1; // all console descriptors share its offset
 std::array<std::string, kTags.size()> unfinished;
 
 void show(std::string_view tag, std::string_view line) {
     const size_t start = line.find_first_not_of(" \t\r");
-    if (start != std::string_view::npos) {
-        writeAll(STDERR_FILENO, "[" + std::string(tag) + "] " + printable(line.substr(start)) + "\n");
+    if (start == std::string_view::npos) {
+        return;
     }
+    std::string text(line.substr(start));
+    if (!showSecrets) {
+        text = pages::withoutSecrets(std::move(text));
+    }
+    writeAll(STDERR_FILENO, "[" + std::string(tag) + "] " + printable(text) + "\n");
 }
 
 void addText(Source source, std::string_view text) {
@@ -47,8 +54,9 @@ void takeText(Source source, std::string_view text) {
 
 } // namespace
 
-void showTrace() {
+void showTrace(bool secrets) {
     shown = true;
+    showSecrets = secrets;
     pages::takeOutput(takeText);
 }
 

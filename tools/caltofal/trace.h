@@ -4,8 +4,8 @@
 
 namespace cli {
 
-// From now on complete lines are shown as they come, each with its source.
-void showTrace();
+// From now on complete lines are shown as they come, each with its source; with their secrets only where `secrets`.
+void showTrace(bool secrets);
 
 // What the library writes to the console goes into a private memory file, and from there to the trace.
 void captureConsole();

@@ -6,15 +6,42 @@
 
 #include <algorithm>
 #include <iterator>
+#include <mutex>
+#include <set>
 
 namespace pages {
 namespace {
 
-// Endings of names; a key that only names an entry ends otherwise.
-constexpr std::string_view kEndings[] = {"Passphrase",   "Password",   "Secret", "WEPKey",
-                                         "PreSharedKey", "PrivateKey", "PIN",    "Pin"};
+// Endings of names; a key that only names an entry ends otherwise. sandbox/value/secret.cpp has the same.
+constexpr std::string_view kEndings[] = {"PIN",          "Passphrase", "Password", "Pin",
+                                         "PreSharedKey", "PrivateKey", "Secret",   "WEPKey"};
+
+constexpr std::string_view kArrow = "=>";
+constexpr size_t kNotedLeast = 5; // bytes: what is shorter stands in other words as well
 
 thread_local bool showing = false;
+
+std::mutex access;
+std::set<std::string, std::less<>> noted;
+
+void replaceAll(std::string &text, std::string_view part, std::string_view by) {
+    for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + by.size())) {
+        text.replace(at, part.size(), by);
+    }
+}
+
+// The library writes a row of a table as "OBJECT.NAME=>VALUE", in brackets or at the line's end.
+void hideRow(std::string &line) {
+    const size_t arrow = line.find(kArrow);
+    if (arrow == std::string::npos || !isSecret(std::string_view(line).substr(0, arrow))) {
+        return;
+    }
+    const size_t start = arrow + kArrow.size();
+    const size_t end = line.ends_with(']') ? line.size() - 1 : line.size();
+    if (end > start) {
+        line.replace(start, end - start, kHidden);
+    }
+}
 
 } // namespace
 
@@ -37,6 +64,22 @@ std::string shownText(std::string_view parameter, std::string_view value) {
 
 Value shownValue(std::string_view parameter, std::string_view value) {
     return typed(parameter, shownText(parameter, value));
+}
+
+void noteSecret(std::string_view parameter, std::string_view value) {
+    if (value.size() >= kNotedLeast && isSecret(parameter)) {
+        const std::lock_guard lock(access);
+        noted.emplace(value);
+    }
+}
+
+std::string withoutSecrets(std::string line) {
+    hideRow(line);
+    const std::lock_guard lock(access);
+    for (const std::string &secret : noted) {
+        replaceAll(line, secret, kHidden);
+    }
+    return line;
 }
 
 void refuseHidden(std::string_view parameter, std::string_view value) {

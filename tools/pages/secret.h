@@ -33,6 +33,12 @@ std::string shownText(std::string_view parameter, std::string_view value);
 // The same with the type that it looks like: typed() of text.h.
 Value shownValue(std::string_view parameter, std::string_view value);
 
+// Notes the value of a parameter that passes by, for withoutSecrets().
+void noteSecret(std::string_view parameter, std::string_view value);
+
+// A line that others wrote, with kHidden in place of noted secrets and of what stands behind "SECRET=>".
+std::string withoutSecrets(std::string line);
+
 // Throws Usage for a secret that is to become kHidden: somebody writes back what was shown.
 void refuseHidden(std::string_view parameter, std::string_view value);
 

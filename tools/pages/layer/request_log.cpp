@@ -8,6 +8,7 @@
 #include "pages/layer/code.h"
 #include "pages/layer/left_messages.h"
 #include "pages/process/output.h"
+#include "pages/secret.h"
 #include "pages/text.h"
 
 #include <cstring>
@@ -38,6 +39,16 @@ std::vector<std::string> objectsOf(const MsgHeader *message) {
     return names;
 }
 
+// So that they stay out of what is shown of the library's own output.
+void noteSecrets(const MsgHeader *message) {
+    const bool ofValues = outputIsTaken() && (message->listFlags & CALTOFAL_VALUE_KINDS) != 0;
+    for (const ObjectNode *object = nullptr; ofValues && (object = caltofal_nextObject(message, object));) {
+        for (const ParamNode *param = nullptr; (param = caltofal_nextParam(object, param));) {
+            noteSecret(text(param->name), text(param->value));
+        }
+    }
+}
+
 void trace(const Request &request) {
     std::string line = std::string(request.verb) + " " + objectNames(request) + " -> " + std::to_string(request.code);
     if (request.code != 0) {
@@ -52,7 +63,9 @@ int passOn(const char *function, const char *verb, MsgHeader *message) {
         return CALTOFAL_NO_GATEWAY;
     }
     Request request{verb, objectsOf(message), 0, {}};
+    noteSecrets(message);
     request.code = call(message);
+    noteSecrets(message);
     LeftMessages::note(*message);
     static const auto reason = findReason();
     if (request.code != 0 && reason) {

@@ -20,6 +20,14 @@ Value listOf(const std::vector<Object> &objects) {
     return list;
 }
 
+void refuseHidden(const std::vector<Object> &objects) {
+    for (const Object &object : objects) {
+        for (const Parameter &parameter : object.parameters) {
+            pages::refuseHidden(parameter.name, parameter.value);
+        }
+    }
+}
+
 Report report(const char *what, const std::vector<Object> &objects, bool storeOnly) {
     return {.json = Value::object({{what, listOf(objects)}, {"applied", !storeOnly}})};
 }
@@ -32,12 +40,14 @@ Report set(const std::vector<Object> &objects, bool storeOnly) {
             throw Usage(object.name + ": nothing to set");
         }
     }
+    refuseHidden(objects);
     change(objects, Change::Set, storeOnly);
     return report("set", objects, storeOnly);
 }
 
 // The layer puts the new instances' names into the message.
 Report add(const std::vector<Object> &tables, bool storeOnly) {
+    refuseHidden(tables);
     const std::vector<Object> added = change(tables, Change::Add, storeOnly);
     Report result = report("added", added, storeOnly);
     for (const Object &object : added) {

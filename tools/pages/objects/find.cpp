@@ -5,6 +5,7 @@
 #include "pages/objects/pages.h"
 #include "pages/page.h"
 #include "pages/secret.h"
+#include "pages/text.h"
 
 namespace pages::objects {
 namespace {
@@ -20,8 +21,8 @@ Report find(const Search &search) {
         return zintu_GetValueFromDBInfo(checkedPath(search.table).c_str(), search.filter.c_str(), search.value.c_str(),
                                         search.wanted.c_str(), object, value);
     };
-    ask(call, {search.table + ": no instance whose " + search.filter + " is \"" + search.value + "\" has a parameter " +
-               search.wanted});
+    ask(call, {search.table + ": no instance whose " + search.filter + " is " +
+               quoted(shownText(search.filter, search.value)) + " has a parameter " + search.wanted});
     return pageOf({
         {"object", "Object", text(object)},
         {"value", search.wanted, shownValue(search.wanted, text(value))},

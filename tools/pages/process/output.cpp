@@ -14,6 +14,10 @@ void takeOutput(Sink sink) {
     taker = sink;
 }
 
+bool outputIsTaken() {
+    return taker != nullptr;
+}
+
 void output(Source source, std::string_view text) {
     if (const Sink sink = taker) {
         sink(source, text);

@@ -14,6 +14,8 @@ using Sink = void (*)(Source source, std::string_view text);
 // Who takes them; nobody where it is not said. To be called before the first page, once.
 void takeOutput(Sink sink);
 
+bool outputIsTaken();
+
 // Hands a piece to whoever takes them.
 void output(Source source, std::string_view text);
 
