@@ -25,10 +25,15 @@ bool hasBytes(int descriptor) {
 }
 
 // A connection that was silent since its last answer is closed without a word: a client could take it for the answer
-// to what it is about to ask.
+// to what it is about to ask. Where bytes wait to be read, the server is late and not the client.
 void expire(Connections::Entry &entry) {
     using State = Connections::State;
-    if (entry.state == State::Receiving || (entry.state == State::Idle && entry.fresh)) {
+    const bool isAwaited = entry.state == State::Receiving || entry.state == State::Idle;
+    if (isAwaited && hasBytes(entry.descriptor)) {
+        entry.deadline += std::chrono::seconds(1);
+        return;
+    }
+    if (isAwaited && (entry.state == State::Receiving || entry.fresh)) {
         sayGoodbye(entry.descriptor,
                    Refusal(Status::RequestTimeout, "the request did not come whole within " +
                                                        std::to_string(Connections::kRequestTime.count()) + " seconds"));
