@@ -73,7 +73,7 @@ class Link(PageCase):
         self.await_script(f"{TROUBLE}.includes('connection to the server is lost')", timeout=REFRESH + 5)
         self.assertIn("IPv4/Address", self.read()["LAN"]["facts"])
         self.script("location.hash = '#/mesh'")  # which was not loaded before
-        self.await_script("document.querySelector('main').innerText.includes('Not available.')")
+        self.await_script("document.querySelector('main').innerText.includes('Not available:')")
         self.driver.get_log("browser")  # the browser's own words on the refused connection
 
     def test_an_ended_session_is_said_and_nothing_more_asked(self):
@@ -90,11 +90,11 @@ class Link(PageCase):
         server = self.serve()
         self.open("internet")
         self.sandbox(server, "fault", "add", "Device.DSL.", "--code", "store-failed")
-        self.await_script("document.querySelector('[aria-label=\"DSL line\"]').innerText.includes('Not available.')")
+        self.await_script("document.querySelector('[aria-label=\"DSL line\"]').innerText.includes('Not available:')")
         self.assertEqual(self.read()["WAN"]["facts"]["Address"], "203.0.113.45")
         self.sandbox(server, "fault", "add", "any", "--code", "store-failed")
         self.script("location.hash = '#/model'")
-        self.await_script("document.querySelector('main').innerText.includes('Not available.')")
+        self.await_script("document.querySelector('main').innerText.includes('Not available:')")
         self.sandbox(server, "fault", "clear")
         self.await_script("document.querySelector('main').innerText.includes('parameters.')")
 

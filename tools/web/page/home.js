@@ -4,7 +4,7 @@ import {connected, el, facts, figure, getStatus, name, note, onOff, pair, part, 
 
 const ipv4 = lan => facts(["Address", lan.address], ["Subnet mask", lan.subnet_mask], ["MAC address", lan.mac_address],
   ["DHCP server", onOff(lan.dhcp_active)], ["Hands out", lan.dhcp_start && `${lan.dhcp_start} to ${lan.dhcp_end}`],
-  ["For", figure(lan.lease_time_s / 3600, "hours")]);
+  ["Lease", figure(lan.lease_time_s / 3600, "hours")]);
 
 const ipv6 = lan => facts(["State", onOff(lan.active)],
   ["Address", lan.address && `${lan.address}/${lan.prefix_length_bits}`],
@@ -16,7 +16,7 @@ const COLUMNS = [
   ["State", host => connected(host.active, "Away")],
   ["Address", "address"],
   ["MAC address", "mac"],
-  ["By", "type"]];
+  ["Link", "type"]];
 
 const hostTable = ({hosts}) => [note(`${hosts.filter(host => host.active).length} of ${hosts.length} are connected.`),
   table("Hosts", COLUMNS, [...hosts].sort((a, b) => b.active - a.active), "number", "No host has been seen yet.")];

@@ -164,7 +164,7 @@ export const button = (label, onclick, subject) =>
 
 // What a view makes of an answer; `thing` is what is missing where there is none.
 export const answered = ({value, error}, show, thing) => !error ? show(value) : error.status === 404 && thing
-  ? note(`This gateway has no ${thing}.`) : el("p", el("strong.refused", "Not available. "), visible(error.message));
+  ? note(`This gateway has no ${thing}.`) : el("p", el("strong.refused", "Not available: "), visible(error.message));
 export const part = (title, answer, show, thing) => section(title, answered(answer, show, thing));
 
 // For a screen reader and the corner of the eye: something was done.

@@ -34,6 +34,6 @@ export default {
       mesh.value?.enabled && mesh.value.master && jobButton("Synchronise", "Synchronisation",
         "mesh/sync", {}, () => "the satellites have the settings.")],
     mesh, satellites, "mesh"),
-    part("Repeater uplink", endpoint, uplink, "repeater uplink that is on"),
+    part("Repeater uplink", endpoint, uplink, "active repeater uplink"),
   ],
 };

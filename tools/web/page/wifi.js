@@ -25,8 +25,8 @@ async function load() {
 }
 
 const channelsOf = radio => possible.get(radio.interface) ?? [];
-const channel = ({channel: number, auto_channel: auto}) => [String(number), auto && quiet(" automatic"),
-  isRadar(number) && quiet(" DFS")];
+const channel = ({channel: number, auto_channel: auto}) => [auto && quiet("automatic "),
+  isRadar(number) && quiet("DFS "), String(number)];
 
 const radioTable = (radios, settings) => table("Radios", [
   ["Radio", radio => bandName(radio.band)],
@@ -67,7 +67,7 @@ function swatch(network) {
 }
 
 const taken = ({channels, sure}) => [
-  channels.length > 2 ? `${channels[0]} to ${channels.at(-1)}` : channels.join(" + "), !sure && quiet(" perhaps")];
+  channels.length > 2 ? `${channels[0]} to ${channels.at(-1)}` : channels.join("\xa0+\xa0"), !sure && quiet(" perhaps")];
 
 const AROUND = [
   ["Network", swatch],
@@ -109,7 +109,7 @@ function stationTable({serving, stations, hosts}) {
 
 export default {
   load,
-  render: data => [
+  render: data => data.radios.error?.status === 404 ? answered(data.radios, null, "Wi-Fi") : [
     part("Radios", data.radios, ({radios}) => radioTable(radios, data.settings), "Wi-Fi"),
     part("Networks", data.ssids, ({ssids}) => networkTables(ssids, data.radios.value?.radios ?? []), "Wi-Fi"),
     ...(data.radios.value?.radios ?? []).map(radio => spectrum(radio, data)),
