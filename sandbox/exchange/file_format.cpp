@@ -18,6 +18,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <sstream>
 
 namespace sandbox {
 namespace {
@@ -129,11 +130,14 @@ std::string readWhole(const std::string &file) {
         stream.open(file, std::ios::binary);
     }
     std::istream &in = file == "-" ? std::cin : stream;
-    std::string text(std::istreambuf_iterator<char>(in), {});
-    if (!in || in.bad()) {
+    std::ostringstream text;
+    if (in && in.peek() != std::istream::traits_type::eof()) {
+        text << in.rdbuf();
+    }
+    if (in.bad() || !text || (in.fail() && !in.eof())) {
         throw FileError(file, std::strerror(errno));
     }
-    return text;
+    return std::move(text).str();
 }
 
 } // namespace

@@ -172,12 +172,21 @@ void Model::addParameter(std::string_view key, int64_t object, std::string_view 
 
 void Model::addParameter(std::string_view key, int64_t object, std::string_view name, int64_t definition,
                          std::string_view running, std::string_view stored) {
+    if (object != filling_.object) {
+        Statement find(database_,
+                       "SELECT (SELECT coalesce(max(position) + 1, 0) FROM parameter WHERE object = ?1), "
+                       "CASE kind WHEN 2 THEN parent END FROM object WHERE id = ?1",
+                       object);
+        find.step();
+        filling_ = {object, find.integer(0), find.isNull(1) ? std::nullopt : std::optional(find.integer(1))};
+    }
+    // Without a SELECT in it, which SQLite would take a temporary table for.
     Statement(database_,
               "INSERT INTO parameter(object, position, name, definition, running, pending, container) "
-              "SELECT ?1, (SELECT coalesce(max(position) + 1, 0) FROM parameter WHERE object = ?1), ?2, ?3, ?4, ?5, "
-              "CASE kind WHEN 2 THEN parent END FROM object WHERE id = ?1",
-              object, name, definition, running, pendingOf(running, stored))
+              "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7)",
+              object, filling_.position, name, definition, running, pendingOf(running, stored), filling_.container)
         .run();
+    ++filling_.position;
     if (isKeptCount(database_, key, name)) {
         writeCount(std::string(key) + std::string(name.substr(0, name.size() - kCountSuffix.size())) + ".");
     }
@@ -222,6 +231,7 @@ void Model::shapeLike(std::string_view key, std::string_view sibling, int presen
 }
 
 void Model::removeInstance(std::string_view key, int layers) {
+    filling_ = {};
     const std::string end = keyEnd(key);
     const int left = findObject(database_, key)->presence & layers;
     Statement(database_, "UPDATE object SET presence = presence & ~?3 WHERE key >= ?1 AND key < ?2", key, end, layers)

@@ -88,9 +88,17 @@ class Model {
     void bumpCount(std::string_view tableKey, int running, int stored);
     void writeCount(std::string_view tableKey);
 
+    // The object that got a parameter last: usually the next one is for it too.
+    struct Filling {
+        int64_t object = 0;   // 0: none
+        int64_t position = 0; // of the next one
+        std::optional<int64_t> container = {};
+    };
+
     Database &database_;
     Definitions &definitions_;
     const Templates &templates_;
+    Filling filling_ = {};
 };
 
 } // namespace sandbox

@@ -46,7 +46,6 @@ constexpr const char *kTables = R"sql(
         PRIMARY KEY(object, position)
     ) WITHOUT ROWID;
     CREATE UNIQUE INDEX parameter_name ON parameter(object, name);
-    CREATE INDEX parameter_filter ON parameter(container, name, running) WHERE container IS NOT NULL;
     CREATE INDEX parameter_pending ON parameter(object) WHERE pending IS NOT NULL;
 
     -- What the instances of tables are made of.
@@ -73,6 +72,10 @@ constexpr const char *kTables = R"sql(
     );
 )sql";
 
+// Made of a filled table, an index costs a fraction of one that grows with it.
+constexpr const char *kFilter =
+    "CREATE INDEX parameter_filter ON parameter(container, name, running) WHERE container IS NOT NULL";
+
 int64_t pragma(Database &database, const char *sql) {
     Statement statement(database, sql);
     return statement.step() ? statement.integer(0) : -1;
@@ -80,8 +83,10 @@ int64_t pragma(Database &database, const char *sql) {
 
 } // namespace
 
-void createSchema(Database &database) {
+void createSchema(Database &database, const std::function<void(Database &)> &fill) {
     database.execute(kTables);
+    fill(database);
+    database.execute(kFilter);
 }
 
 void checkSchema(Database &database, const std::string &file) {

@@ -5,10 +5,12 @@
 
 #include "store/database.h"
 
+#include <functional>
+
 namespace sandbox {
 
-// Makes the tables in an empty database.
-void createSchema(Database &database);
+// Makes the tables in an empty database, and has them filled.
+void createSchema(Database &database, const std::function<void(Database &)> &fill);
 
 // Throws a Refusal when the database is not a store that this version can use.
 void checkSchema(Database &database, const std::string &file);

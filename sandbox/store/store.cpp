@@ -128,8 +128,7 @@ void make(const std::string &file, const std::function<void(Database &)> &fill) 
     database->execute("PRAGMA synchronous = OFF; PRAGMA journal_mode = MEMORY");
     {
         Transaction transaction(*database, Transaction::Kind::Write);
-        createSchema(*database);
-        fill(*database);
+        createSchema(*database, fill);
         transaction.commit();
     }
     database->execute("PRAGMA journal_mode = WAL");

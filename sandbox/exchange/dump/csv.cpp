@@ -82,12 +82,13 @@ class CsvDump {
     }
 
   private:
-    std::string field(const CsvRecord &record, Column column) const {
+    // Taken out of the record.
+    std::string field(CsvRecord &record, Column column) const {
         const std::optional<size_t> at = header_.at[column];
-        return at && *at < record.size() ? record[*at].value_or("") : "";
+        return at && *at < record.size() && record[*at] ? std::move(*record[*at]) : "";
     }
 
-    void take(const CsvRecord &record) {
+    void take(CsvRecord &record) {
         DumpRow row;
         row.path = field(record, kPath);
         row.type = field(record, kType);
@@ -100,10 +101,10 @@ class CsvDump {
             dump_.report.count(Reason::TornRow, row.path.empty() ? "line " + std::to_string(row.line) : row.path);
             return;
         }
-        const std::string value = field(record, kValue);
+        std::string value = field(record, kValue);
         const bool never = value.empty() && row.type.empty() && header_.at[kType]; // the ACS never asked for it
         if (!row.object && !never) {
-            row.value = value;
+            row.value = std::move(value);
         }
         dump_.rows.push_back(std::move(row));
     }

@@ -52,7 +52,10 @@ std::optional<Reason> troubleOf(std::string_view path) {
 
 class Conversion {
   public:
-    explicit Conversion(Dump &dump) : dump_(dump), report_(dump.report), typing_(dump.rows) {}
+    explicit Conversion(Dump &dump) : dump_(dump), report_(dump.report), typing_(dump.rows) {
+        entries_.reserve(dump.rows.size());
+        places_.reserve(dump.rows.size());
+    }
 
     Entries run() {
         for (DumpRow &row : dump_.rows) {
@@ -67,9 +70,14 @@ class Conversion {
 
   private:
     void take(DumpRow &row) {
-        std::string path(trimmed(row.path));
+        std::string &path = row.path;
+        if (const std::string_view bare = trimmed(path); bare.size() != path.size()) {
+            path = std::string(bare);
+        }
         row.object = row.object || path.ends_with('.');
-        path += row.object && !path.ends_with('.') ? "." : "";
+        if (row.object && !path.ends_with('.')) {
+            path += '.';
+        }
         const std::optional<Reason> trouble = troubleOf(path);
         report_.values += row.object || trouble == Reason::AcsRow ? 0 : 1;
         if (trouble) {
@@ -77,12 +85,28 @@ class Conversion {
             return;
         }
         try {
-            Entry entry = entryOf(path);
+            Entry entry = entryFor(path);
             entry.line = row.line;
             row.object ? takeObject(row, std::move(entry)) : takeValue(row, std::move(entry));
         } catch (const std::invalid_argument &error) {
             report_.count(Reason::BadPath, path + ": " + error.what());
         }
+    }
+
+    // Parameters of an object usually come in a row: its path is judged once.
+    Entry entryFor(const std::string &path) {
+        const size_t end = path.rfind('.') + 1;
+        const std::string_view name = std::string_view(path).substr(end);
+        if (end == 0 || path.compare(0, end, judged_) != 0 || !isName(name)) {
+            Entry entry = entryOf(path);
+            judged_ = entry.path;
+            return entry;
+        }
+        Entry entry{};
+        entry.kind = Entry::Kind::Parameter;
+        entry.path = judged_;
+        entry.name = name;
+        return entry;
     }
 
     void takeObject(const DumpRow &row, Entry entry) {
@@ -98,13 +122,13 @@ class Conversion {
         if (isTableWord(row.type)) {
             tables_.insert(entry.path);
         }
-        if (noteObject(entry.path)) {
+        if (noteObject(row.path)) {
             entries_.push_back(std::move(entry));
         }
     }
 
     void takeValue(DumpRow &row, Entry entry) {
-        const std::string path = entry.fullPath();
+        const std::string &path = row.path;
         if (!row.value) {
             report_.count(Reason::NoValue, path);
             row.value = "";
@@ -118,7 +142,7 @@ class Conversion {
             report_.count(row.value->size() >= PARAM_VALUE_SIZE ? Reason::TooLong : Reason::HoldsNul, path);
             return;
         }
-        noteObject(entry.path);
+        noteObject(std::string_view(path).substr(0, entry.path.size()));
         entry.value = std::move(row.value);
         typing_.describe(row, entry, report_);
         const auto [first, added] = places_.emplace(path, entries_.size());
@@ -131,15 +155,15 @@ class Conversion {
         entries_.push_back(std::move(entry));
     }
 
-    // Remembers the object and those above it; whether it was new.
-    bool noteObject(const std::string &path) {
+    // Remembers the object and those above it; whether it was new. `path` is of a row.
+    bool noteObject(std::string_view path) {
         if (path == lastObject_) {
             return false;
         }
         lastObject_ = path;
         bool added = false;
         for (std::string_view object = path; !object.empty(); object = parentKey(object)) {
-            if (!objects_.emplace(object).second) {
+            if (!objects_.insert(object).second) {
                 break;
             }
             added = true;
@@ -160,6 +184,12 @@ class Conversion {
     }
 
     void dropValuesOfObjects() {
+        const bool any = std::any_of(objects_.begin(), objects_.end(), [this](std::string_view object) {
+            return places_.contains(object.substr(0, object.size() - 1));
+        });
+        if (!any) {
+            return;
+        }
         std::erase_if(entries_, [this](const Entry &entry) {
             const bool conflict = !entry.name.empty() && objects_.contains(entry.fullPath() + ".");
             if (conflict) {
@@ -170,8 +200,7 @@ class Conversion {
     }
 
     void addTable(const std::string &path) {
-        const std::string parameter = path.substr(0, path.size() - 1);
-        if (places_.contains(parameter) || !keyOf(path)) {
+        if (places_.contains(std::string_view(path).substr(0, path.size() - 1)) || !keyOf(path)) {
             return;
         }
         Entry entry = entryOf(path);
@@ -190,9 +219,11 @@ class Conversion {
     ImportReport &report_;
     Typing typing_;
     Entries entries_;
-    std::unordered_map<std::string, size_t> places_; // of parameters in entries_
-    std::unordered_set<std::string> objects_;
-    std::string lastObject_;
+    std::string judged_; // the last object's path
+    // Paths below are the rows' own.
+    std::unordered_map<std::string_view, size_t> places_; // of parameters in entries_
+    std::unordered_set<std::string_view> objects_;
+    std::string_view lastObject_;
     std::set<std::string> tables_;
     std::unordered_set<std::string> tablesInUse_; // with instances
     std::unordered_map<std::string, bool> writableTables_;
