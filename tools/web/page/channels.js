@@ -74,7 +74,7 @@ export function placeLabels(labels, area) {
   return labels.map(({x, y, width, height}) => {
     const left = Math.max(area.left, Math.min(x - width / 2, area.right - width));
     const wanted = Math.max(area.top, Math.min(y, area.bottom) - height);
-    const box = [0, -1, 1, -2, 2, -3, 3, -4, 4].map(step => ({left, top: wanted + step * height, width, height}))
+    const box = [0, -.5, -1, .5, -1.5, 1, -2, 2, -3, 3, -4, 4].map(step => ({left, top: wanted + step * height, width, height}))
       .find(one => one.top >= area.top && one.top + height <= area.bottom && !placed.some(other => covers(other, one)));
     if (box) placed.push(box);
     return box ?? null;
