@@ -49,8 +49,8 @@ set(CMAKE_C_FLAGS_RELEASE "-O1 -DNDEBUG")
 
 set(CALTOFAL_LIBRARY_FLAGS -O2 CACHE STRING "How a release build optimises the library; '-Os' where flash is dear")
 
-# Large headers of other libraries are parsed once a target instead of once a file.
-option(CALTOFAL_PRECOMPILE "Precompile the large headers of other libraries" ON)
+# Large headers are parsed once, not once a file.
+option(CALTOFAL_PRECOMPILE "Precompile the large headers of the standard library and of others" ON)
 # caltofal_precompile(TARGET HEADER...) or (TARGET REUSE_FROM TARGET)
 function(caltofal_precompile target)
   if(NOT CALTOFAL_PRECOMPILE)
@@ -62,12 +62,27 @@ function(caltofal_precompile target)
     target_precompile_headers(${target} PRIVATE ${ARGN})
   endif()
 endfunction()
-# Likewise those of the standard library that most files of a large target include.
-function(caltofal_precompile_std target)
-  if(CMAKE_CROSSCOMPILING)
+# The headers of the standard library that most files of sandbox and tools include: one copy for all their targets, which
+# therefore are compiled with the same options. It must come before other options of the target.
+function(caltofal_precompile_std)
+  if(NOT CALTOFAL_PRECOMPILE)
     return()
   endif()
-  caltofal_precompile(${target} <algorithm> <functional> <memory> <optional> <span> <string> <string_view> <vector>)
+  if(NOT TARGET std_headers)
+    file(WRITE ${PROJECT_BINARY_DIR}/std_headers.cpp "")
+    add_library(std_headers STATIC ${PROJECT_BINARY_DIR}/std_headers.cpp)
+    caltofal_precompile(std_headers <algorithm> <cstdlib> <functional> <iterator> <memory> <optional> <span> <string>
+                        <string_view> <vector>)
+    caltofal_precompiled_options(std_headers)
+  endif()
+  foreach(target ${ARGN})
+    caltofal_precompile(${target} REUSE_FROM std_headers)
+    caltofal_precompiled_options(${target})
+  endforeach()
+endfunction()
+function(caltofal_precompiled_options target)
+  # Not by POSITION_INDEPENDENT_CODE, which means another option for a program than for a library.
+  target_compile_options(${target} PRIVATE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
   # GCC 12, which then knows no longer that they are the system's, sees short texts overrun in their concatenations.
   target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
 endfunction()
