@@ -7,17 +7,14 @@
 #include "value/value_syntax.h"
 
 #include <map>
-#include <nlohmann/json.hpp>
 #include <ostream>
 #include <unordered_map>
 
 namespace sandbox {
 namespace {
 
-using nlohmann::json;
-
 constexpr const char *kHexKey = "hex";
-constexpr std::string_view kDefinitions = "definitions";
+constexpr const char *kDefinitions = "definitions";
 
 std::string valueOf(const JsonNode &node) {
     const JsonNode *hex = node.children.size() == 1 ? node.member(kHexKey) : nullptr;
@@ -99,10 +96,10 @@ class Writer {
         for (const Entry &entry : entries) {
             add(entry);
         }
-        out_ << (any_ ? ",\n" : "{\n") << "  " << json(kDefinitions).dump() << ": {";
+        out_ << (any_ ? ",\n" : "{\n") << "  " << quotedJson(kDefinitions) << ": {";
         const char *separator = "\n    ";
         for (const auto &[path, annotations] : definitions_) {
-            out_ << separator << json(path).dump() << ": " << json(annotations).dump();
+            out_ << separator << quotedJson(path) << ": " << quotedJson(annotations);
             separator = ",\n    ";
         }
         out_ << (definitions_.empty() ? "}\n}\n" : "\n  }\n}\n");
@@ -127,24 +124,19 @@ class Writer {
     }
 
     void member(const std::string &path, const std::string &value) {
-        out_ << (any_ ? ",\n" : "{\n") << "  " << json(path).dump() << ": " << value;
+        out_ << (any_ ? ",\n" : "{\n") << "  " << quotedJson(path) << ": " << value;
         any_ = true;
     }
 
     std::string valueText(const Entry &entry) const {
         const std::string &text = *entry.value;
         if (!isCleanText(text)) {
-            return json{{kHexKey, hexOf(text)}}.dump();
+            return R"({"hex":")" + hexOf(text) + R"("})";
         }
         const auto found = types_.find(patternOf(entry.path) + entry.name);
         const ValueType type = entry.type ? *entry.type : found != types_.end() ? found->second : ValueType();
         const bool flag = type.isFlag() && (text == "true" || text == "false");
-        if (flag || (type.isNumber() && isDecimal(text))) {
-            if (json::parse(text, nullptr, false).dump() == text) {
-                return text;
-            }
-        }
-        return json(text).dump();
+        return flag || (type.isNumber() && isJsonNumber(text)) ? text : quotedJson(text);
     }
 
     std::ostream &out_;

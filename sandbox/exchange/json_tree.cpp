@@ -180,4 +180,17 @@ std::vector<JsonNode> parseJson(std::string_view text, const std::string &file) 
     }
 }
 
+std::vector<JsonNode> parseStrictJson(std::string_view text, const std::string &file) {
+    return parse(text, file, false);
+}
+
+std::string quotedJson(const std::string &text) {
+    return json(text).dump();
+}
+
+bool isJsonNumber(const std::string &text) {
+    const json number = json::parse(text, nullptr, false);
+    return number.is_number() && number.dump() == text;
+}
+
 } // namespace sandbox

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // JSON as a tree that keeps what a data model's dump needs: the order of members, members given twice, the text of
-// numbers, and lines.
+// numbers, and lines. json_tree.cpp alone sees the large header of the JSON library.
 #pragma once
 
 #include <string>
@@ -34,5 +34,12 @@ struct JsonMember {
 // was meant: bytes that are not UTF-8 and control characters in texts stay as they are, and so do unknown escapes;
 // commas before a closing bracket are passed over, NaN and Infinity are numbers. Throws FileError.
 std::vector<JsonNode> parseJson(std::string_view text, const std::string &file);
+// Likewise, but what is not JSON to the letter is an error.
+std::vector<JsonNode> parseStrictJson(std::string_view text, const std::string &file);
+
+// A text as it stands in JSON, quoted. It must be UTF-8.
+std::string quotedJson(const std::string &text);
+// Whether the text stands in JSON as a number that is read back as it is written.
+bool isJsonNumber(const std::string &text);
 
 } // namespace sandbox

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Rows of a list as JSON. The library's large header is seen by json_rows.cpp alone.
+// Rows of a list as JSON.
 #pragma once
 
 #include <cstdint>

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "device/model/notification.h"
 
-#include <nlohmann/json.hpp>
+#include "exchange/json_tree.h"
+#include "value/entry.h"
+#include "value/value_syntax.h"
 
 namespace device {
 namespace {
 
-using Json = nlohmann::json;
+using sandbox::JsonNode;
 
 // An SSID may hold any bytes, the parser takes UTF-8 only: bytes beyond ASCII pass it as characters U+E080 to U+E0FF
 // of the private area, three bytes each.
@@ -41,11 +43,12 @@ std::string unshield(const std::string &text) {
     return bytes;
 }
 
-bool takeId(const Json &object, Notification &notification) {
+bool takeId(const JsonNode &object, Notification &notification) {
     for (const char *key : {"notify_id", "nid"}) {
-        if (const auto found = object.find(key); found != object.end() && found->is_number_integer()) {
+        const JsonNode *id = object.member(key);
+        if (id && id->kind == JsonNode::Kind::Number && sandbox::isInteger(id->text)) {
             notification.idKey = key;
-            notification.id = found->dump();
+            notification.id = id->text;
             return true;
         }
     }
@@ -53,29 +56,34 @@ bool takeId(const Json &object, Notification &notification) {
 }
 
 // The pairs "pnI"/"pvI" from 1 on, without gaps.
-bool takePairs(const Json &object, Notification &notification) {
+bool takePairs(const JsonNode &object, Notification &notification) {
     for (int i = 1;; ++i) {
-        const auto name = object.find("pn" + std::to_string(i));
-        const auto value = object.find("pv" + std::to_string(i));
-        if (name == object.end() && value == object.end()) {
+        const JsonNode *name = object.member("pn" + std::to_string(i));
+        const JsonNode *value = object.member("pv" + std::to_string(i));
+        if (!name && !value) {
             return true;
         }
-        if (name == object.end() || value == object.end() || !name->is_string() || !value->is_string()) {
+        if (!name || !value || name->kind != JsonNode::Kind::Text || value->kind != JsonNode::Kind::Text) {
             return false;
         }
-        notification.named[unshield(name->get<std::string>())] = unshield(value->get<std::string>());
+        notification.named[unshield(name->text)] = unshield(value->text);
     }
 }
 
 } // namespace
 
 std::optional<Notification> parseNotification(std::string_view json) {
-    const Json object = Json::parse(shield(json), nullptr, false);
-    Notification notification;
-    if (!object.is_object() || !takeId(object, notification) || !takePairs(object, notification)) {
-        return std::nullopt;
+    try {
+        const std::vector<JsonNode> values = sandbox::parseStrictJson(shield(json), "the notification");
+        Notification notification;
+        if (values.size() == 1 && values[0].kind == JsonNode::Kind::Object && takeId(values[0], notification) &&
+            takePairs(values[0], notification)) {
+            return notification;
+        }
+    } catch (const sandbox::FileError &) {
+        // What the daemon cannot read it passes over.
     }
-    return notification;
+    return std::nullopt;
 }
 
 } // namespace device
