@@ -325,6 +325,29 @@ class FailedRequests(unittest.TestCase):
                          (0, "caltofal: no IPv4 forwarding entry tells the gateway of Device.IP.Interface.3\n"))
         self.assertIn(b"Gateway               -\n", result.out)
 
+    def test_a_request_that_failed_behind_a_page_is_told(self):
+        self.make_fail("Device.IP.Interface.3", "store-busy")
+        result = tool.run("wan", folder=self.folder)
+        self.assertEqual((result.code, result.out.count(b"pppoe")), (0, 1))
+        self.assertIn("caltofal: request on Device.IP.Interface.3 failed: fault 1 hit Device.IP.Interface.3; what it "
+                      "tells is missing here\n", result.err)
+
+    def test_a_default_wan_that_is_not_there_is_told(self):
+        tool.run("set", "Device.X_ZINTU_CurrentNetwork.WanIpInterface=Device.IP.Interface.77", folder=self.folder)
+        reason = "Device.X_ZINTU_CurrentNetwork: WanIpInterface is Device.IP.Interface.77, which does not exist"
+        for page in ("wan", "ipv6", "dns"):
+            self.assert_fails(page, 10, reason)
+        self.assertEqual(tool.run("status", folder=self.folder).out.decode().count(f" ({reason})\n"), 2)
+
+    def test_status_tells_what_a_page_lacks_of_what_there_is(self):
+        self.make_fail("Device.DSL.Channel", "absent-object")
+        self.assertRegex(tool.run("status", folder=self.folder).out.decode(),
+                         r"\nDSL +\(request on Device.DSL.Channel.1 failed: ")
+
+    def test_a_read_parameter_leaves_no_refusal(self):
+        self.assertEqual(tool.run("get", "Device.WiFi.Radio.1.Channel", folder=self.folder).code, 0)
+        self.assertFalse(os.path.exists(os.path.join(self.folder, "home.log")))
+
     def test_status_goes_on_behind_failed_pages(self):
         self.make_fail("Device.DSL", "store-failed")
         result = tool.run("status", "--json", folder=self.folder)
@@ -395,7 +418,15 @@ class Lacking(unittest.TestCase):
         result = self.run_tool("lower-layers", "Device.IP.Interface.3")
         self.assertIn("--all shows the whole one", result.err)
         whole = self.run_tool("lower-layers", "Device.IP.Interface.3", "--all")
-        self.assertEqual(whole.out.decode(), layers.replace(".,", ",").rstrip(".") + "\n")
+        self.assertEqual(whole.out.decode(), layers.replace(".,", "\n").rstrip(".") + "\n")
+        cut = json.loads(self.run_tool("lower-layers", "Device.IP.Interface.3", "--json").out)["lower_layers"]
+        self.assertEqual(cut, layers.replace(".,", ",").split(",")[:len(cut)], "no path is cut")
+        self.assertEqual(self.run_tool("set", "Device.IP.Interface.3", "LowerLayers=Device.PPP.Interface.1.,"
+                                       "Device.Ethernet.Link.1.,Device.Nope.1.").code, 0)
+        self.assertIn("--all walks them all", self.run_tool("lower-layers", "Device.IP.Interface.3", "--walk").err)
+        every = self.run_tool("lower-layers", "Device.IP.Interface.3", "--walk", "--all")
+        self.assertRegex(every.out.decode(), r"(?s)^Device.PPP.Interface.1\n.*\nDevice.Ethernet.Link.1\n  .*Nope.1\n$")
+        self.assertIn("Device.Nope.1: no such object", every.err)
 
     def test_wifi_pages_of_another_maker_show_what_there_is(self):
         self.import_other_maker()

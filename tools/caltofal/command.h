@@ -49,13 +49,19 @@ class Arguments {
 // Asks the gateway; throws pages::Failure.
 using Show = std::function<pages::Report()>;
 
+enum Trait : unsigned {
+    kPage = 0,
+    kDevice = 1, // runs the device's own tools, or reads its files
+    kActs = 2    // changes something, or writes a file: nothing to show again and again
+};
+
 struct Command {
     const char *name;
     const char *summary;
     const char *examples;                         // argument lists, a line each
     Show (*prepare)(const Arguments &) = nullptr; // checks what was typed; throws pages::Usage
     std::initializer_list<Argument> arguments = {};
-    bool device = false;                 // runs the device's own tools, or reads its files
+    unsigned traits = kPage;             // of Trait
     std::span<const Command> verbs = {}; // instead of `prepare`
 };
 

@@ -2,8 +2,10 @@
 #include "caltofal/command_line.h"
 
 #include "caltofal/print.h"
+#include "caltofal/typed_words.h"
 #include "pages/checked.h"
 #include "pages/similar.h"
+#include "pages/text.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -25,11 +27,29 @@ Exit codes: 0 done, 1 failed, 2 wrong usage, 3 time out, 4 no gateway,
 `caltofal NOUN --help` shows a noun's arguments and examples.)";
 
 constexpr int kWatchMax = 86400; // a day
+constexpr const char *kDefaultSeconds = "2";
 
 constexpr const char *kVerbMissing = "A subcommand is required"; // the parser's words
 
 std::string notEmpty(const std::string &value) {
     return value.empty() ? "is empty" : "";
+}
+
+int secondsOf(const std::string &word) {
+    try {
+        return pages::checkedNumber(word, "--watch", 1, kWatchMax);
+    } catch (const Usage &) {
+        throw Usage("--watch takes whole seconds from 1 to " + std::to_string(kWatchMax) + ", not " +
+                    pages::quoted(word));
+    }
+}
+
+// A word too many behind --watch was meant for its time.
+void refuseWatchWord(const std::vector<std::string> &words, const std::vector<std::string> &rest) {
+    const auto watch = std::find(words.begin(), words.end(), kDefaultWatch);
+    if (rest.size() == 1 && watch != words.end() && std::next(watch) != words.end() && *std::next(watch) == rest[0]) {
+        secondsOf(rest[0]);
+    }
 }
 
 struct Common {
@@ -58,7 +78,7 @@ struct Common {
             throw Usage("--json goes with neither --terse nor --columns");
         }
         if (!watch.empty()) {
-            options.watch = pages::checkedNumber(watch, "--watch", 1, kWatchMax);
+            options.watch = secondsOf(watch == kDefaultWatch ? kDefaultSeconds : watch);
         }
         for (size_t at = 0; at < columns.size();) {
             const size_t end = std::min(columns.find(',', at), columns.size());
@@ -281,11 +301,15 @@ Task parse(const std::vector<std::string> &words, Options &options) {
         flushOutput();
         return {};
     } catch (const CLI::ParseError &error) {
+        namingCommand({nullptr, {}, chosenWords(app)}, [&] { refuseWatchWord(words, app.remaining(true)); });
         throw Usage(reasonOf(app, error));
     }
     Task task{parser.command, {}, chosenWords(app)};
     namingCommand(task, [&] {
         common.take();
+        if (options.watch > 0 && (task.command->traits & kActs) != 0) {
+            throw Usage("--watch is for pages: this would be done again and again");
+        }
         task.show = task.command->prepare(parser.arguments());
     });
     return task;

@@ -9,6 +9,7 @@
 #include "caltofal/trace.h"
 #include "caltofal/typed_words.h"
 #include "caltofal/watch.h"
+#include "pages/layer/call.h"
 #include "pages/layer/request_log.h"
 #include "pages/process/streams.h"
 #include "pages/secret.h"
@@ -57,7 +58,10 @@ void occupyStreams() {
 // What the command's page says. A signal ends its waiting.
 pages::Report answerOf(const Task &task) {
     try {
-        return task.show();
+        const pages::HiddenFailures hidden;
+        pages::Report report = task.show();
+        report.notes.insert(report.notes.end(), hidden.notes().begin(), hidden.notes().end());
+        return report;
     } catch (const pages::Cancelled &cancelled) {
         throw Interrupted(notedSignal(), cancelled.what());
     }
@@ -80,7 +84,7 @@ void runCommand(const std::vector<std::string> &words) {
         collectConsole();
         return report;
     };
-    if (task.command->device) {
+    if ((task.command->traits & kDevice) != 0) {
         needDevice();
     }
     namingCommand(task, [&] {

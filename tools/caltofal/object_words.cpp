@@ -3,6 +3,7 @@
 
 #include "pages/checked.h"
 #include "pages/failure.h"
+#include "pages/text.h"
 
 namespace cli {
 
@@ -25,6 +26,12 @@ Object &startObject(std::vector<Object> &objects, const std::string &path) {
 }
 
 } // namespace
+
+void refuseStar(const std::string &path) {
+    if (path.starts_with("*.") || path.ends_with(".*") || path.find(".*.") != std::string::npos) {
+        throw Usage(quoted(path) + ": \"*\" is for get alone");
+    }
+}
 
 std::vector<Object> objectsToRead(const std::vector<std::string> &words) {
     std::vector<Object> objects;
@@ -55,6 +62,9 @@ std::vector<Object> objectsToChange(const std::vector<std::string> &words) {
         } else {
             objects.back().parameters.push_back(assignment(word));
         }
+    }
+    for (const Object &object : objects) {
+        refuseStar(object.name);
     }
     return objects;
 }

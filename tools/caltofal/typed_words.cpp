@@ -13,8 +13,10 @@ using Words = std::vector<std::string>;
 
 constexpr std::string_view kWithValue[] = {"-g", "--gateway", "--columns"}; // of the common options
 
+// "2", also "0.5", which is refused later; an address is none.
 bool isNumber(const std::string &word) {
-    return !word.empty() && word.find_first_not_of("0123456789") == std::string::npos;
+    return !word.empty() && word.find_first_not_of("0123456789.") == std::string::npos &&
+           std::count(word.begin(), word.end(), '.') <= 1;
 }
 
 // "--watch 5" and "--watch": a word follows only where it can be the value.

@@ -12,7 +12,7 @@ namespace cli {
 std::vector<std::string> parserWords(std::vector<std::string> words);
 
 // What the parser takes for `--watch` and `--mode-section` without a value.
-inline constexpr const char *kDefaultWatch = "2";
+inline constexpr const char *kDefaultWatch = "default";
 inline constexpr const char *kAllModes = "?";
 
 } // namespace cli

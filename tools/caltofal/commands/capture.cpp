@@ -57,7 +57,8 @@ const Command kCommands[] = {
      prepareCapture,
      {{"OBJECT", Take::AnyWords, "The objects to capture, with all below them; none: the whole model"},
       {"--driver", Take::Flag, "Also the wireless driver's files, and what the device's tools answer"},
-      {"--with-secrets", Take::Flag, "Pass phrases, passwords and keys as they are"}}},
+      {"--with-secrets", Take::Flag, "Pass phrases, passwords and keys as they are"}},
+     kActs},
     {"apply",
      "Write what differs in a capture back, in one message",
      "- --dry-run\n"
@@ -65,7 +66,8 @@ const Command kCommands[] = {
      prepareApply,
      {{"FILE", Take::Word, "A capture, or another gateway file; - for standard input"},
       {"--dry-run", Take::Flag, "Only tell what would be written"},
-      {"--db-only", Take::Flag, "Store without applying: in force after the next start"}}},
+      {"--db-only", Take::Flag, "Store without applying: in force after the next start"}},
+     kActs},
 };
 
 } // namespace

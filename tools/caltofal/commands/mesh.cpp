@@ -30,20 +30,20 @@ Show prepareIp(const Arguments &given) {
 }
 
 const Command kVerbs[] = {
-    {"status", "Whether the mesh is on, and who belongs to it", "-g mesh", prepareStatus, {}, true},
-    {"enable", "Switch the mesh on", "", prepareSwitch<true>},
-    {"disable", "Switch the mesh off", "", prepareSwitch<false>},
-    {"sync", "Have the satellites take over this gateway's settings", "-g mesh", prepareSync, {}, true},
+    {"status", "Whether the mesh is on, and who belongs to it", "-g mesh", prepareStatus, {}, kDevice},
+    {"enable", "Switch the mesh on", "", prepareSwitch<true>, {}, kActs},
+    {"disable", "Switch the mesh off", "", prepareSwitch<false>, {}, kActs},
+    {"sync", "Have the satellites take over this gateway's settings", "-g mesh", prepareSync, {}, kDevice | kActs},
     {"ip",
      "The IP address of a satellite",
      "02:00:5e:20:00:01 -g mesh",
      prepareIp,
      {{"MAC", Take::Word, "A MAC address"}},
-     true},
+     kDevice},
 };
 
 const Command kCommands[] = {
-    {"mesh", "The roaming mesh and its satellites", "status -g mesh", nullptr, {}, false, kVerbs},
+    {"mesh", "The roaming mesh and its satellites", "status -g mesh", nullptr, {}, kPage, kVerbs},
 };
 
 } // namespace

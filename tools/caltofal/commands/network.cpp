@@ -52,11 +52,7 @@ Show prepareHost(const Arguments &given) {
 }
 
 Show prepareLowerLayers(const Arguments &given) {
-    if (given.given("--walk") && given.given("--all")) {
-        throw Usage("--walk and --all exclude each other");
-    }
-    const LowerLayers rest = given.given("--all") ? LowerLayers::Whole : LowerLayers::Next;
-    const LowerLayers how = given.given("--walk") ? LowerLayers::Walk : rest;
+    const LowerLayers how{.walk = given.given("--walk"), .whole = given.given("--all")};
     return [object = given.word("OBJECT"), how] { return lowerLayers(object, how); };
 }
 
@@ -107,7 +103,8 @@ const Command kCommands[] = {
      prepareLowerLayers,
      {{"OBJECT", Take::Word, "An object of the interface stack"},
       {"--walk", Take::Flag, "Go on downwards to the physical interface"},
-      {"--all", Take::Flag, "The whole list, also where it is longer than the library's record"}}},
+      {"--all", Take::Flag,
+       "The whole list, also where it is longer than the library's record; every branch of a walk"}}},
     {"address",
      "Tell what kind of address a text is",
      "192.168.1.1\nfe80::1",

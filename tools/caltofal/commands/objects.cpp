@@ -31,6 +31,9 @@ Show prepareChange(const Arguments &given) {
 }
 
 Show prepareDel(const Arguments &given) {
+    for (const std::string &path : given.words("OBJECT")) {
+        refuseStar(path);
+    }
     return [words = given.words("OBJECT"), storeOnly = given.given("--db-only")] {
         return objects::remove(words, storeOnly);
     };
@@ -70,17 +73,20 @@ const Command kCommands[] = {
      prepareChange<objects::set>,
      {{"OBJECT", Take::Words, "An object and its new values, then more objects; also OBJECT.NAME=VALUE",
        "NAME=VALUE..."},
-      kDbOnly}},
+      kDbOnly},
+     kActs},
     {"add",
      "Add an instance to a table and print its name",
      "Device.DHCPv4.Server.Pool.1.StaticAddress Chaddr=02:00:00:00:00:01 Yiaddr=192.168.1.50",
      prepareChange<objects::add>,
-     {{"OBJECT", Take::Words, "A table and the new instance's values, then more tables", "[NAME=VALUE...]"}, kDbOnly}},
+     {{"OBJECT", Take::Words, "A table and the new instance's values, then more tables", "[NAME=VALUE...]"}, kDbOnly},
+     kActs},
     {"del",
      "Delete instances",
      "Device.DHCPv4.Server.Pool.1.StaticAddress.1",
      prepareDel,
-     {{"OBJECT", Take::Words, "The instances to delete", "..."}, kDbOnly}},
+     {{"OBJECT", Take::Words, "The instances to delete", "..."}, kDbOnly},
+     kActs},
     {"find",
      "Find an instance by one parameter and read another",
      "Device.X_LANTIQ_COM_NwHardware.WANConnection ConnMode ETH UciSection",

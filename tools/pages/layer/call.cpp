@@ -39,12 +39,45 @@ Failure failureOf(const Request &request) {
     return {categoryOf(request.code), "request on " + objects + " failed: " + reason, objects, request.code};
 }
 
+// Failures of a call that answered all the same.
+void tellHidden(std::span<const Request> asked) {
+    const bool answered =
+        std::any_of(asked.begin(), asked.end(), [](const Request &request) { return request.code == 0; });
+    for (const Request &request : asked) {
+        if (request.code == 0 || categoryOf(request.code) == Category::Absent) {
+            continue;
+        }
+        const Failure failure = failureOf(request);
+        if (!answered) {
+            throw Failure(failure);
+        }
+        HiddenFailures::note(std::string(failure.what()) + "; what it tells is missing here");
+    }
+}
+
+thread_local HiddenFailures *innermost = nullptr;
+
 } // namespace
+
+HiddenFailures::HiddenFailures() : outer_(innermost) {
+    innermost = this;
+}
+
+HiddenFailures::~HiddenFailures() {
+    innermost = outer_;
+}
+
+void HiddenFailures::note(const std::string &line) {
+    if (innermost) {
+        innermost->notes_.push_back(line);
+    }
+}
 
 int ask(const std::function<int()> &call, const Expectation &expectation) {
     const RequestLog log;
     const int result = call();
     if (result >= 0 || (expectation.tolerated != 0 && result == expectation.tolerated)) {
+        tellHidden(log.requests());
         return result;
     }
     if (const Request *request = culprit(log.requests(), expectation.decisive)) {

@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace pages {
 
@@ -20,7 +21,28 @@ struct Expectation {
     int tolerated = 0;
 };
 
-// What `call` answers; throws a Failure when it is negative and not tolerated.
+// The failed requests behind calls of its thread that answered all the same, while it lives: what they ask for is
+// missing on the pages. Objects and parameters that a gateway does not have are not among them.
+class HiddenFailures {
+  public:
+    HiddenFailures();
+    HiddenFailures(const HiddenFailures &) = delete;
+    HiddenFailures &operator=(const HiddenFailures &) = delete;
+    ~HiddenFailures();
+
+    // A line each for people.
+    [[nodiscard]] const std::vector<std::string> &notes() const { return notes_; }
+
+    // To the innermost of this thread.
+    static void note(const std::string &line);
+
+  private:
+    HiddenFailures *outer_;
+    std::vector<std::string> notes_;
+};
+
+// What `call` answers; throws a Failure when it is negative and not tolerated, or when
+// no request was answered, for another reason than that the gateway lacks something.
 int ask(const std::function<int()> &call, const Expectation &expectation);
 
 // Likewise for a function that hides a failed request behind what it found until then: each of its requests counts.

@@ -2,6 +2,7 @@
 // The current network, on which several pages hang.
 #pragma once
 
+#include "pages/failure.h"
 #include "pages/value.h"
 
 #include <string>
@@ -21,7 +22,10 @@ inline constexpr int kRouterBit = 4; // a router, or the master of a mesh
 // A DNS server as a record holds it: what is not an address is shown as it is, and told in a note.
 Value server(const std::string &text, std::vector<std::string> &notes);
 
-// The IP interface object of the default WAN.
+// The default WAN names an interface that the gateway does not have.
+Failure noSuchInterface(const std::string &interface);
+
+// The IP interface object of the default WAN, which is there. Throws Failure.
 std::string gatewayInterface();
 
 } // namespace pages

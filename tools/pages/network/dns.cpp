@@ -16,7 +16,9 @@ constexpr const char *kServers = "Device.DNS.Client.Server";
 
 Page dns(const std::string &given) {
     const std::string interface = given.empty() ? gatewayInterface() : checkedPath(given);
-    get({{interface}}, Reading::Leaf); // the library's functions do not say that it is not there
+    if (!given.empty()) {
+        get({{interface}}, Reading::Leaf); // the library's functions do not say that it is not there
+    }
     char used1[kAddressSize] = "";
     char used2[kAddressSize] = "";
     ask([&] { return ZintuGet_WanDns(interface.c_str(), used1, used2); }, {interface + ": no DNS servers", {kServers}});
@@ -31,12 +33,12 @@ Page dns(const std::string &given) {
          "",
          {
              {"interface", "Interface", interface},
-             {"dns1", "Server 1", server(text(used1), notes)},
-             {"dns2", "Server 2", server(text(used2), notes)},
-             {"automatic", "Automatic", flag(automatic)},
+             {"dns1", "Server 1 in use", server(text(used1), notes)},
+             {"dns2", "Server 2 in use", server(text(used2), notes)},
+             {"automatic", "No static server", flag(automatic)},
          }},
         {"static",
-         "Static",
+         "Static servers",
          {{"dns1", "Server 1", server(text(static1), notes)}, {"dns2", "Server 2", server(text(static2), notes)}}},
     }};
     page.notes = notes;

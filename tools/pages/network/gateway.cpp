@@ -72,8 +72,23 @@ Report uciSectionOfMode(const std::string &mode) {
     return single("uci_section", text(section));
 }
 
+Failure noSuchInterface(const std::string &interface) {
+    return {Category::Absent,
+            "Device.X_ZINTU_CurrentNetwork: WanIpInterface is " + interface + ", which does not exist", interface,
+            CALTOFAL_ABSENT_OBJECT};
+}
+
 std::string gatewayInterface() {
-    return text(defaultGateway().sWanIpInterface);
+    std::string interface = text(defaultGateway().sWanIpInterface);
+    try {
+        get({{interface, {{"Enable"}}}}, Reading::Leaf); // the library's functions do not say that it is not there
+    } catch (const Failure &failure) {
+        if (failure.code() == CALTOFAL_ABSENT_OBJECT) {
+            throw noSuchInterface(interface);
+        }
+        throw;
+    }
+    return interface;
 }
 
 Page gateway() {

@@ -31,9 +31,12 @@ Report hosts();
 // One of them by MAC or IPv4 address. Throws Usage for what is neither.
 Page host(const std::string &address);
 
-// What lies below an object of the interface stack. Whole: also what the library's record has no room for.
-enum class LowerLayers { Next, Walk /* on down to the physical interface */, Whole };
-Report lowerLayers(const std::string &object, LowerLayers how);
+// What lies below an object of the interface stack.
+struct LowerLayers {
+    bool walk = false;  // on down to the physical interface, below the first of several
+    bool whole = false; // also what the library's record has no room for; a walk takes every branch
+};
+Report lowerLayers(const std::string &object, const LowerLayers &how);
 
 // What kind of address a text is.
 Page address(const std::string &text);

@@ -3,6 +3,7 @@
 #include "caltofal.h"
 #include "pages/layer/call.h"
 #include "pages/layer/left_messages.h"
+#include "pages/layer/request_log.h"
 #include "pages/network/current.h"
 #include "pages/network/pages.h"
 #include "pages/secret.h"
@@ -18,7 +19,7 @@ ZintuWanInfo untouchedInfo() {
     return info;
 }
 
-Page sectionsOf(const ZintuWanInfo &info) {
+Page sectionsOf(const ZintuWanInfo &info, const char *dnsTitle) {
     std::vector<std::string> notes;
     Page page{{
         {"",
@@ -52,7 +53,7 @@ Page sectionsOf(const ZintuWanInfo &info) {
              {"service_name", "Service name", text(info.sServiceName)},
          }},
         {"dns",
-         "DNS",
+         dnsTitle,
          {
              {"automatic", "Automatic", flag(info.bDnsAuto)},
              {"dns1", "Server 1", server(text(info.sDNS1), notes)},
@@ -78,8 +79,8 @@ Page sectionsOf(const ZintuWanInfo &info) {
 }
 
 // The WAN being down is an answer, not a failure: no forwarding entry tells a gateway then.
-Page noted(const ZintuWanInfo &info) {
-    Page page = sectionsOf(info);
+Page noted(const ZintuWanInfo &info, const char *dnsTitle) {
+    Page page = sectionsOf(info, dnsTitle);
     if (info.sGateway[0] == '\0') {
         page.notes.push_back("no IPv4 forwarding entry tells the gateway of " + text(info.sWanIpInterface));
     }
@@ -91,11 +92,17 @@ Page noted(const ZintuWanInfo &info) {
 Page wan() {
     ZintuWanInfo info = untouchedInfo();
     const LeftMessages left;
+    const RequestLog log;
     ask([&] { return ZintuGet_DefWanInfo(&info); },
         {kNoDefaultWan,
          {"Device.X_ZINTU_CurrentNetwork", "Device.Routing.Router.1.IPv4Forwarding", "Device.Ethernet.VLANTermination"},
          CALTOFAL_NO_MATCH});
-    return noted(info);
+    for (const Request &request : log.requests()) {
+        if (request.code == CALTOFAL_ABSENT_OBJECT && objectNames(request) == withoutDot(text(info.sWanIpInterface))) {
+            throw noSuchInterface(objectNames(request));
+        }
+    }
+    return noted(info, "DNS setting");
 }
 
 // The operation mode's bits are the flags by which a router is refused and a Wi-Fi link is known.
@@ -113,7 +120,7 @@ Page bridgeWan() {
     if (text(info.sStatus) == "Down") {
         info.sStatus[0] = '\0';
     }
-    return noted(info);
+    return noted(info, "DNS in use");
 }
 
 Report wanInterfaceName() {

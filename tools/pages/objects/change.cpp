@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "pages/checked.h"
 #include "pages/failure.h"
+#include "pages/objects/hint.h"
 #include "pages/objects/pages.h"
 #include "pages/secret.h"
 #include "pages/text.h"
@@ -32,6 +33,15 @@ Report report(const char *what, const std::vector<Object> &objects, bool storeOn
     return {.json = Value::object({{what, listOf(objects)}, {"applied", !storeOnly}})};
 }
 
+// `change` with a hint where something is not there.
+std::vector<Object> hintedChange(const std::vector<Object> &objects, Change what, bool storeOnly) {
+    try {
+        return change(objects, what, storeOnly);
+    } catch (const Failure &failure) {
+        throw withHint(failure, objects);
+    }
+}
+
 } // namespace
 
 Report set(const std::vector<Object> &objects, bool storeOnly) {
@@ -41,14 +51,14 @@ Report set(const std::vector<Object> &objects, bool storeOnly) {
         }
     }
     refuseHidden(objects);
-    change(objects, Change::Set, storeOnly);
+    hintedChange(objects, Change::Set, storeOnly);
     return report("set", objects, storeOnly);
 }
 
 // The layer puts the new instances' names into the message.
 Report add(const std::vector<Object> &tables, bool storeOnly) {
     refuseHidden(tables);
-    const std::vector<Object> added = change(tables, Change::Add, storeOnly);
+    const std::vector<Object> added = hintedChange(tables, Change::Add, storeOnly);
     Report result = report("added", added, storeOnly);
     for (const Object &object : added) {
         result.table.rows.push_back({{std::string(withoutDot(object.name))}});
@@ -61,7 +71,7 @@ Report remove(const std::vector<std::string> &instances, bool storeOnly) {
     for (const std::string &instance : instances) {
         objects.push_back({checkedPath(instance)});
     }
-    change(objects, Change::Delete, storeOnly);
+    hintedChange(objects, Change::Delete, storeOnly);
     return report("deleted", objects, storeOnly);
 }
 

@@ -2,6 +2,7 @@
 #include "pages/failure.h"
 #include "pages/layer/definition.h"
 #include "pages/layer/request_log.h"
+#include "pages/objects/hint.h"
 #include "pages/objects/pages.h"
 #include "pages/objects/select.h"
 #include "pages/page.h"
@@ -12,17 +13,6 @@
 
 namespace pages::objects {
 namespace {
-
-// The names that stand in an object, or in the objects of its table.
-std::vector<std::string> namesIn(const std::string &object) {
-    std::vector<std::string> names;
-    for (const Object &one : get({{object}}, Reading::Leaf)) {
-        for (const Parameter &parameter : one.parameters) {
-            names.push_back(parameter.name);
-        }
-    }
-    return names;
-}
 
 // Layers differ in whether they refuse a name that an object does not have, or leave it out of the answer.
 void checkAnswered(const Object &asked, const std::vector<Object> &answer) {
@@ -54,6 +44,16 @@ std::vector<Object> asParameter(const Object &object) {
     return {{path.substr(0, dot), {{path.substr(dot + 1)}}}};
 }
 
+// The same where the layer tells what is a parameter without being asked for an object of that name.
+void resolveParameters(std::vector<Object> &objects) {
+    for (Object &object : objects) {
+        const std::vector<Object> other = asParameter(object);
+        if (!other.empty() && !definitionOf(object.name).empty()) {
+            object = other.front();
+        }
+    }
+}
+
 std::vector<Object> getObject(const Object &object, Reading reading) {
     try {
         return get({object}, reading);
@@ -66,10 +66,10 @@ std::vector<Object> getObject(const Object &object, Reading reading) {
         try {
             found = get(other, reading);
         } catch (const Failure &) {
-            throw failure;
+            throw withHint(failure, object.name);
         }
         if (found.empty()) {
-            throw;
+            throw withHint(failure, object.name);
         }
         return found;
     }
@@ -118,7 +118,9 @@ Report namesBelow(const Query &query) {
     for (const Object &object : query.objects) {
         Value &list = result.json[withoutDot(object.name)];
         list = Value::list();
-        for (const std::string &name : directlyBelow(object.name, get({object}, Reading::Whole))) {
+        const std::vector<Object> answer =
+            query.where.empty() ? get({object}, Reading::Whole) : matching(object, query.where, false);
+        for (const std::string &name : directlyBelow(object.name, answer)) {
             list.push(name);
             result.table.rows.push_back({{withDot(object.name) + name}});
         }
@@ -151,13 +153,26 @@ void check(const Query &query) {
     if (!query.where.empty() && query.objects.size() > 1) {
         throw Usage("--where goes with one object");
     }
+    if (query.types && query.valuesOnly) {
+        throw Usage("--types and --values exclude each other");
+    }
+    if (query.names && (query.leaf || query.defaults || query.types || query.valuesOnly)) {
+        throw Usage("--names goes with none of --leaf, --defaults, --types and --values");
+    }
+    const bool parameters = std::any_of(query.objects.begin(), query.objects.end(),
+                                        [](const Object &object) { return !object.parameters.empty(); });
+    if (query.names && parameters) {
+        throw Usage("--names tells what stands below objects: a parameter has nothing below it");
+    }
     const bool pattern = std::any_of(query.objects.begin(), query.objects.end(), isPattern);
     if (pattern && (query.defaults || query.names || !query.where.empty())) {
         throw Usage("\"*\" in a path goes with none of --defaults, --names and --where");
     }
 }
 
-Report read(const Query &query) {
+Report read(const Query &asked) {
+    Query query = asked;
+    resolveParameters(query.objects);
     check(query);
     if (query.names) {
         return namesBelow(query);

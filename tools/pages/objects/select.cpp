@@ -2,6 +2,8 @@
 #include "pages/objects/select.h"
 
 #include "pages/failure.h"
+#include "pages/objects/hint.h"
+#include "pages/similar.h"
 #include "pages/text.h"
 
 #include <algorithm>
@@ -66,6 +68,16 @@ std::vector<std::vector<Parameter>> spelledFilters(const std::vector<Parameter> 
     return result;
 }
 
+// Of a filter that nothing matched: its parameter may be none.
+void refuseUnknown(const std::string &object, const std::string &parameter) {
+    const std::vector<std::string> names = namesIn(object);
+    if (!names.empty() && std::find(names.begin(), names.end(), parameter) == names.end()) {
+        throw Failure(
+            Category::Absent,
+            withDot(object) + parameter + ": no object here has that parameter" + didYouMean(parameter, names), object);
+    }
+}
+
 std::vector<Object> getFiltered(Object request, const std::vector<Parameter> &where) {
     std::optional<Failure> first;
     for (const std::vector<Parameter> &filters : spelledFilters(where)) {
@@ -78,6 +90,9 @@ std::vector<Object> getFiltered(Object request, const std::vector<Parameter> &wh
             }
             first = first ? first : failure;
         }
+    }
+    for (const Parameter &filter : where) {
+        refuseUnknown(request.name, filter.name);
     }
     throw Failure(*first);
 }

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// What somebody may have meant who names what is not there.
+#pragma once
+
+#include "pages/failure.h"
+#include "pages/layer/query.h"
+
+#include <string>
+#include <vector>
+
+namespace pages::objects {
+
+// The names of the parameters that stand in an object, or in the objects of its table.
+std::vector<std::string> namesIn(const std::string &object);
+
+// The refusal of a path of which a part is not there, with what there is instead of the first such part.
+Failure withHint(const Failure &failure, const std::string &path);
+
+// The same of a change, also for a parameter.
+Failure withHint(const Failure &failure, const std::vector<Object> &objects);
+
+} // namespace pages::objects
