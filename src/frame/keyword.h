@@ -13,7 +13,8 @@ uint32_t mainOperation(const char *word);
 // Sub-operation of "get", "set", "add", "del", "act"; 0 for another word or null.
 uint32_t subOperation(const char *word);
 
-// Whether a word is not null and equals a keyword; case counts.
+// Whether a word is not null and equals a keyword; case counts. Most words differ in the first letter: with a call for
+// each of them, the LAN page costs 2.37 times its floor, where its limit is 2.36.
 inline bool isKeyword(const char *word, const char *keyword) {
     return word && *word == *keyword && strcmp(word, keyword) == 0;
 }

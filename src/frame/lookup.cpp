@@ -87,6 +87,7 @@ int caltofal_paramValue_get(ObjectNode *objectList, const char *objectPart, cons
             continue;
         }
         for (const ParamNode &param : params(object)) {
+            // As in sameName(): without the first letter, "get" costs 3.02 times its floor, where its limit is 1.33.
             if (*param.name == *paramName && strncmp(param.name, paramName, kCompared) == 0) {
                 copyText(*out, kValueSize, param.value);
                 return 0;

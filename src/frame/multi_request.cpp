@@ -23,7 +23,8 @@ struct TraceLines {
     int failedSend;
 };
 
-// The object's path as it is sent: at most 255 characters, and without the "&".
+// The object's path as it is sent: at most 255 characters, and without the "&". Copied only where it is not sent as it
+// stands: if all are, the LAN page costs 2.45 times its floor, where its limit is 2.36.
 class Path {
   public:
     explicit Path(const char *object) : text_(object) {
@@ -54,6 +55,8 @@ bool isStoreOnly(const Request &request) {
     return isKeyword(request.mainOper, "set_only_db");
 }
 
+// The first letter spares a call for almost every object: without it, here and in faltocal_SendMultiObj(), the LAN page
+// costs 2.59 times its floor, where its limit is 2.36.
 bool isQuery(const char *object) {
     return (*object == 'q' || *object == 'Q') && strncasecmp(object, "query", kPathSize) == 0;
 }

@@ -10,7 +10,8 @@ namespace frame {
 namespace {
 
 // Whether a name is that of a row; the caller has compared the first four bytes. Compares four bytes at a time and
-// begins with the last ones, terminator included: names that begin alike differ there.
+// begins with the last ones, terminator included: names that begin alike differ there. With strcmp() or memcmp() the
+// DSL line costs 1.89 times its floor, where its limit is 1.70.
 bool isRow(const Field &field, const char *name) {
     constexpr size_t kStep = 4;
     const size_t last = field.length + 1 - kStep;
@@ -71,7 +72,8 @@ void storeField(const Field &field, const char *value, void *record, size_t reco
 }
 
 void fillRecord(ObjectNode &object, const PageHead &page, void *record) {
-    const NameFilter filter = page.filter; // a copy that no store into the record can change
+    // A copy that no store into the record can change: read anew for each parameter, the DSL line misses its limit.
+    const NameFilter filter = page.filter;
     for (const ParamNode &param : params(object)) {
         if (!filter.mayHold(param.name)) {
             continue;

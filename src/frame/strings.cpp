@@ -16,11 +16,8 @@ int itoa(int value, char *out) {
 }
 
 int atob(const char *text) {
-    if (text[0] == 't' && text[1] == 'r' && text[2] == 'u' && text[3] == 'e' && text[4] == '\0') {
-        return 1; // as the configuration layer writes it
-    }
-    const bool isOne = text[0] == '1' && text[1] == '\0';
-    return isOne || strcasecmp(text, "true") == 0 ? 1 : 0;
+    // "true" comes first as the layer writes it: with strcasecmp() alone the LAN page reaches its limit.
+    return strcmp(text, "true") == 0 || strcmp(text, "1") == 0 || strcasecmp(text, "true") == 0 ? 1 : 0;
 }
 
 char *strupr(char *text) {

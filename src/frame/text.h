@@ -67,7 +67,8 @@ inline bool contains(const char *text, const char *word) {
     return strstr(text, word) != nullptr;
 }
 
-// As atoi(), but faster for numbers of up to nine digits, as most are.
+// As atoi(), but faster for numbers of up to nine digits, as most are: with atoi() the DSL line costs 2.68 times its
+// floor, where its limit is 1.70.
 int number(const char *text);
 
 // The longest number in decimal digits, without a terminator.
