@@ -150,6 +150,7 @@ const std::vector<Getter> &getters() {
          [] { return fill<WifiParamTable>([](auto *table) { return GetWireInfoFromFapiToBuff(2, table); }); }},
         {"WriteBack", 0, writeBack},
         {"EPEnable", 0, [] { return fillText(GetEPEnable); }},
+        {"EPConnectionStatus", 0, [] { return fillText(GetEPConnectionStatus); }},
         {"Requests", 0, everyRequest},
     };
     return rows;
