@@ -86,8 +86,9 @@ FileContent readAnyCsv(const Source &source) {
 
 FileContent readAnyJson(const Source &source) {
     const std::vector<JsonNode> values = parseJson(source.text, source.file);
-    return isOwnJson(values) ? FileContent{readJson(values, source.file), std::nullopt}
-                             : takenIn(readJsonDump(values, source.file, source.device), source.file);
+    return isOwnJson(values) && source.device.empty()
+               ? FileContent{readJson(values, source.file), std::nullopt}
+               : takenIn(readJsonDump(values, source.file, source.device), source.file);
 }
 
 constexpr FormatRow kFormats[] = {
@@ -172,7 +173,11 @@ FileContent contentOf(std::string bytes, const std::string &file, std::optional<
     if (text.find_first_not_of(kBlanks) == std::string::npos) {
         throw FileError(file, "is empty");
     }
-    return (format ? rowOf(*format).read : recognised(text, file))({text, file, device});
+    const Read read = format ? rowOf(*format).read : recognised(text, file);
+    if (!device.empty() && read != readAnyJson) {
+        throw FileError(file, "is no JSON: there is no device in it to choose");
+    }
+    return read({text, file, device});
 }
 
 void writeEntries(FileFormat format, const Entries &entries, std::ostream &out) {

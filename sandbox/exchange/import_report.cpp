@@ -18,7 +18,7 @@ constexpr const char *kWords[] = {
     "left out, not a path of a data model",
     "left out, a placeholder for instances",
     "left out, a value where an object has the path",
-    "left out, a row that lacks fields or has too many",
+    "left out, a line or row that lacks fields or has too many",
     "left out, below neither Device. nor InternetGatewayDevice.",
     "passed over, rows of the ACS itself",
     "passed over, further devices in the file",

@@ -114,6 +114,7 @@ TEST_F(DumpTest, TakesOneOfSeveralDevices) {
         {list, "two", "", "2"},
         {list, "A-1", "", "1"},
         {R"([{"_id": "A-1", "Device.DeviceInfo.SerialNumber": "7"}])", "", "", "7"},
+        {"path,value\nDevice.A.B,1\n", "B", "x.json: is no JSON: there is no device in it to choose", ""},
         {R"({"Device.DeviceInfo.SerialNumber": "7"})", "B", "x.json: no device \"B\" in it; it holds 1 device: 1", ""},
     };
     for (const auto &row : cases) {
@@ -136,6 +137,7 @@ TEST_F(DumpTest, KeepsGatewayFilesStrict) {
         {"x", "# mine\nDevice.A.B = 1\nDevice.A.B = 2", "x:3: Device.A.B was already given in line 2"},
         {"x", "Device.A.B [int] = x\nDevice.A.C = 2", "x:1: Device.A.B: \"x\" is not of type int"},
         {"x", "Device.A.B = 1\nDevice.A.C", "x:2: \"Device.A.C\" has no value: \" = \" is missing"},
+        {"x", "Device.A.B=1\nDevice.A.C [int] = 2", "x:1: \"B=1\" is not a parameter name"},
         {"x", "Device.A.B = 1\nDevice.T.{i}. [table]\nDevice.A.C = \\q", "x:3: the value has an unknown escape"},
     };
     for (const auto &row : cases) {

@@ -73,7 +73,7 @@ void showTrace(Shown &shown) {
         return;
     }
     const std::string file = fs::absolute(named).lexically_normal().string();
-    std::ofstream(file, std::ios::app); // what a box shows must be there
+    const std::ofstream made(file, std::ios::app); // what a box shows must be there
     if (fs::exists(file)) {
         shown.add(file, true);
         setenv("CALTOFAL_SANDBOX_TRACE", file.c_str(), 1);

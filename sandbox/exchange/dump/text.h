@@ -7,8 +7,8 @@
 
 namespace sandbox {
 
-// Whether every line is of that form, the first one below a root. Nothing is in it that makes a gateway file: comments,
-// annotations, patterns, objects without a value.
+// Whether every line is of that form, or most are and none could be a gateway file's, the first one below a root.
+// Nothing is in it that makes a gateway file: comments, annotations, patterns.
 bool isTextDump(std::string_view text);
 
 // Values are taken byte for byte; where all of them are in quotes, without these.
