@@ -117,7 +117,7 @@ TEST_F(Processes, MakeTheHomeGatewayTogether) {
         return cal_getValue(&Message::get(kPlainGet, "Device.Hosts.")->header) == 0 ? 0 : 2;
     };
     EXPECT_EQ(inProcesses(kWorkers, firstUse), std::vector<int>(kWorkers, 0));
-    for (const auto &entry : std::filesystem::directory_iterator(directory_)) {
+    for (const auto &entry : std::filesystem::directory_iterator(directory)) {
         EXPECT_EQ(entry.path().string().find("draft"), std::string::npos) << entry.path();
     }
     EXPECT_EQ(valueOf("Device.DeviceInfo", "ProvisioningCode").substr(0, 1), "X") << "nobody's set was overwritten";

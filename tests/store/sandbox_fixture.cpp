@@ -88,15 +88,15 @@ std::string valueOf(const std::string &path, const std::string &name) {
 void SandboxTest::SetUp() {
     std::string pattern = (std::filesystem::temp_directory_path() / "caltofal-store-XXXXXX").string();
     ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    directory_ = pattern;
-    setenv("CALTOFAL_SANDBOX_DIR", directory_.c_str(), 1);
+    directory = pattern;
+    setenv("CALTOFAL_SANDBOX_DIR", directory.c_str(), 1);
     setenv("CALTOFAL_GATEWAY", "lab", 1);
     const std::string text = readFile(LAB_FILE);
     ASSERT_TRUE(sandbox::createGateway(location(), sandbox::readGatewayFile(text, "lab.tr181"), "lab.tr181"));
 }
 
 void SandboxTest::TearDown() {
-    std::filesystem::remove_all(directory_);
+    std::filesystem::remove_all(directory);
 }
 
 Lines SandboxTest::exported(const std::string &name) {

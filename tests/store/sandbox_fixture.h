@@ -69,5 +69,5 @@ class SandboxTest : public testing::Test {
     static Lines exported(const std::string &name = "lab");
     static std::string readFile(const std::string &file);
 
-    std::string directory_;
+    std::string directory;
 };

@@ -20,10 +20,10 @@ class ToolTest : public SandboxTest {
   protected:
     // Runs the tool by the shell; {} in `arguments` stands for the test's directory.
     Result run(const std::string &arguments) {
-        const std::string errorFile = directory_ + "/stderr";
+        const std::string errorFile = directory + "/stderr";
         std::string command = std::string(SANDBOX_TOOL) + " " + arguments + " 2>" + errorFile;
         for (size_t at = command.find("{}"); at != std::string::npos; at = command.find("{}")) {
-            command.replace(at, 2, directory_);
+            command.replace(at, 2, directory);
         }
         Result result{-1, {}, {}};
         FILE *pipe = popen(command.c_str(), "r");
@@ -37,7 +37,7 @@ class ToolTest : public SandboxTest {
     }
 
     void write(const std::string &name, const std::string &text) const {
-        std::ofstream(directory_ + "/" + name) << text;
+        std::ofstream(directory + "/" + name) << text;
     }
 };
 
@@ -56,7 +56,7 @@ TEST_F(ToolTest, CopiesAGatewayThroughEveryFormat) {
     EXPECT_EQ(run("export --format json --stored | grep -F Info.Name").out,
               "  \"Device.Info.Name\": \"a,\\\"b\\\"\",\n"
               "    \"Device.Info.Name\": \"string(1:16) rw default=\\\"none\\\"\",\n");
-    const std::string json = readFile(directory_ + "/copy.json");
+    const std::string json = readFile(directory + "/copy.json");
     for (const char *line :
          {"\n  \"Device.Info.UpTime\": 42,\n", "\n  \"Device.Info.Serial\": \"0001\",\n",
           "\n  \"Device.Net.Host.2.Active\": true,\n", "\n  \"Device.Info.Text\": {\"hex\":\"74776f0a"}) {
@@ -84,7 +84,7 @@ TEST_F(ToolTest, NamesFileAndLineOfAMistake) {
         write(row.file, row.text);
         const Result result = run(std::string("import lab {}/") + row.file);
         EXPECT_EQ(result.code, 1) << row.file;
-        EXPECT_EQ(result.errors, "caltofal-sandbox: " + directory_ + "/" + row.message + "\n");
+        EXPECT_EQ(result.errors, "caltofal-sandbox: " + directory + "/" + row.message + "\n");
         EXPECT_EQ(result.out, "");
     }
     EXPECT_EQ(exported(), before);
@@ -131,7 +131,7 @@ TEST_F(ToolTest, ShowsDifferencesAndBoots) {
 TEST_F(ToolTest, KeepsGateways) {
     EXPECT_EQ(run("new bench --from home").code, 0);
     EXPECT_EQ(run("new bench").code, 1);
-    EXPECT_EQ(run("-g bench path").out, directory_ + "/bench.db\n");
+    EXPECT_EQ(run("-g bench path").out, directory + "/bench.db\n");
     const std::string list = run("list").out;
     EXPECT_NE(list.find("\n  home      demo, made on first use\n"), std::string::npos) << list;
     EXPECT_NE(list.find("\n* lab  "), std::string::npos) << list;

@@ -13,7 +13,7 @@ class TraceTest : public SandboxTest {
   protected:
     void SetUp() override {
         SandboxTest::SetUp();
-        setenv("CALTOFAL_SANDBOX_TRACE", (directory_ + "/trace").c_str(), 1);
+        setenv("CALTOFAL_SANDBOX_TRACE", (directory + "/trace").c_str(), 1);
     }
     void TearDown() override {
         unsetenv("CALTOFAL_SANDBOX_TRACE");
@@ -22,8 +22,8 @@ class TraceTest : public SandboxTest {
 
     // The lines without what changes from run to run; the file is gone afterwards.
     std::string takeTrace() {
-        std::istringstream trace(readFile(directory_ + "/trace"));
-        unlink((directory_ + "/trace").c_str());
+        std::istringstream trace(readFile(directory + "/trace"));
+        unlink((directory + "/trace").c_str());
         std::string text;
         for (std::string line; std::getline(trace, line);) {
             std::istringstream words(line);
@@ -74,14 +74,14 @@ TEST_F(TraceTest, TellsWhyAMessageIsRefused) {
                            "lab get -201 bad-message no object : there is no message\n"
                            "lab get -201 bad-message no object : the message names no object\n"
                            "nosuch get -209 no-gateway Device.Info. : there is no gateway \"nosuch\" in " +
-                               directory_ +
+                               directory +
                                "\n"
                                "no/name get -209 no-gateway Device.Info. : "
                                "\"no/name\" is not a gateway name: letters, digits, '.', '_' and '-'\n");
 }
 
 TEST_F(TraceTest, FailsNoMessage) {
-    setenv("CALTOFAL_SANDBOX_TRACE", (directory_ + "/none/trace").c_str(), 1);
+    setenv("CALTOFAL_SANDBOX_TRACE", (directory + "/none/trace").c_str(), 1);
     EXPECT_EQ(valueOf("Device.Info", "Name"), "lab");
 }
 

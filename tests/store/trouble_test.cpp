@@ -48,7 +48,7 @@ TEST(Codes, EachHasWordsOfItsOwn) {
 }
 
 TEST_F(Trouble, WithoutAGateway) {
-    const std::string outside = directory_ + "-outside";
+    const std::string outside = directory + "-outside";
     for (const std::string &name :
          {std::string("nosuch"), ".." + outside.substr(outside.rfind('/')), std::string("/")}) {
         setenv("CALTOFAL_GATEWAY", name.c_str(), 1);
@@ -99,13 +99,13 @@ TEST_F(Trouble, WithAFullDisk) {
     EXPECT_EQ(result, 0);
     EXPECT_EQ(valueOf("Device.Pair", "Left"), "0");
     EXPECT_FALSE(storeExists(location("home")));
-    for (const auto &entry : std::filesystem::directory_iterator(directory_)) {
+    for (const auto &entry : std::filesystem::directory_iterator(directory)) {
         EXPECT_EQ(entry.path().string().find("draft"), std::string::npos) << entry.path();
     }
 }
 
 TEST_F(Trouble, WithADirectoryThatCanNotBeMade) {
-    setenv("CALTOFAL_SANDBOX_DIR", (directory_ + "/lab.db/below").c_str(), 1);
+    setenv("CALTOFAL_SANDBOX_DIR", (directory + "/lab.db/below").c_str(), 1);
     setenv("CALTOFAL_GATEWAY", "home", 1);
     EXPECT_EQ(getInfo(), CALTOFAL_STORE_FAILED);
 }
