@@ -184,6 +184,9 @@ class Sessions(unittest.TestCase):
             self.assertEqual(server.get("", Authorization=None, Cookie=f"a=b; {cookie}; c=d").status, 200)
             elsewhere = cookie.replace(str(server.port), str(other.port))
             self.assertEqual(other.get("", Authorization=None, Cookie=elsewhere).status, 401)
+            others = other.ask("GET", f"/?token={other.token}", Authorization=None).headers["Set-Cookie"].split("; ")[0]
+            for one in (server, other):  # a browser keeps the cookies of all ports of a host in one jar
+                self.assertEqual(one.get("", Authorization=None, Cookie=f"{cookie}; {others}").status, 200)
             self.assertEqual(other.get("", Authorization=f"Bearer {server.token}").status, 401)
 
     def test_five_wrong_tokens_make_wait(self):

@@ -66,7 +66,7 @@ struct ScanRequest {
 ScanRequest checkedScan(const std::string &interface, const std::string &ssid);
 
 // Has the device look for networks, waits for them and shows them. Needs the device.
-Report scan(const ScanRequest &request, Wait &wait);
+Report scan(const ScanRequest &wanted, Wait &wait);
 
 // WPS by push-button: presses the button and waits for a device to join; ends that; forgets what it has configured.
 // Need the device.
