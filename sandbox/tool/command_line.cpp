@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <memory>
 
 namespace sandbox {
 namespace {
@@ -22,6 +23,22 @@ else in caltofal/ below XDG_STATE_HOME or ~/.local/state.
 Exit codes: 0 done, 1 failed (diff: different), 2 usage, 10 absent.)";
 
 constexpr const char *kName = "caltofal-sandbox";
+
+// The help without the parser's own marks.
+class PlainFormatter : public CLI::Formatter {
+  public:
+    std::string make_option_usage(const CLI::Option *option) const override {
+        return option->get_required() ? option->get_name() : "[" + option->get_name() + "]";
+    }
+    std::string make_option_opts(const CLI::Option *option) const override {
+        constexpr std::string_view kAnyText = "TEXT";
+        std::string kind = option->get_type_name();
+        if (kind.starts_with(kAnyText)) {
+            kind.replace(0, kAnyText.size(), option->get_positional() ? "" : "WORD");
+        }
+        return kind.empty() ? "" : " " + kind;
+    }
+};
 
 // Checks of a value: each answers what is wrong with it, "" for nothing.
 CLI::Validator filled() {
@@ -48,6 +65,27 @@ CLI::Validator between(int64_t least, int64_t most) {
     return {check, ""};
 }
 
+// Whether all letters of a word stand in another one, in that order.
+bool isWithin(const std::string &word, const std::string &other) {
+    size_t at = 0;
+    return std::all_of(word.begin(), word.end(), [&](char letter) {
+        at = other.find(letter, at);
+        return at++ != std::string::npos;
+    });
+}
+
+// " (did you mean list?)" for "lst" or "listt"; "" where no command is near.
+std::string meantBy(const std::string &word, const CLI::App &app) {
+    for (const CLI::App *one : app.get_subcommands([](const CLI::App *) { return true; })) {
+        const std::string &name = one->get_name();
+        const bool near = word.size() > 1 && word.size() + 2 >= name.size() && name.size() + 2 >= word.size();
+        if (near && (isWithin(word, name) || isWithin(name, word))) {
+            return " (did you mean " + name + "?)";
+        }
+    }
+    return "";
+}
+
 // The help of the command that the words name.
 std::string helpOf(CLI::App &app, const std::vector<std::string> &words) {
     CLI::App *command = &app;
@@ -57,7 +95,9 @@ std::string helpOf(CLI::App &app, const std::vector<std::string> &words) {
         try {
             command = command->get_subcommand(word);
         } catch (const CLI::OptionNotFound &) {
-            throw Failure("help: " + inQuotes(word) + " is not a command; see " + kName + " --help", kUsage);
+            throw Failure("help: " + inQuotes(word) + " is not a command" + meantBy(word, *command) + "; see " + kName +
+                              " --help",
+                          kUsage);
         }
     }
     return app.get_formatter()->make_help(command, names, CLI::AppFormatMode::Normal);
@@ -83,12 +123,13 @@ std::pair<const CLI::App *, std::string> chosenCommand(const CLI::App &app) {
 }
 
 // A word that no argument takes.
-std::string strangerOf(const std::vector<std::string> &rest, bool command) {
+std::string strangerOf(const std::vector<std::string> &rest, const CLI::App &app, bool command) {
     const auto option = std::find_if(rest.begin(), rest.end(), [](const auto &word) { return word.starts_with('-'); });
     if (option != rest.end()) {
         return inQuotes(*option) + " is not an option";
     }
-    return inQuotes(rest.front()) + (command ? " is not a command" : " is one word too many");
+    return inQuotes(rest.front()) +
+           (command ? " is not a command" + meantBy(rest.front(), app) : " is one word too many");
 }
 
 // What is wrong. The parser's texts begin with the argument's name, up to a colon or a blank.
@@ -97,7 +138,7 @@ std::string faultOf(const CLI::App &app, const CLI::App &chosen, const CLI::Pars
     const std::string name = message.substr(0, message.find_first_of(": "));
     const bool group = chosen.get_require_subcommand_min() > 0;
     if (const std::vector<std::string> rest = app.remaining(true); !rest.empty()) {
-        return strangerOf(rest, group);
+        return strangerOf(rest, chosen, group);
     }
     if (dynamic_cast<const CLI::RequiredError *>(&error)) {
         return group ? "which command?" : name + " is missing";
@@ -192,6 +233,7 @@ Command &Command::runs(std::function<void()> work) {
 void runCommandLine(int argc, char **argv, Tool &tool) {
     takeWords(argc, argv, tool);
     CLI::App app("Gateways on a laptop: what the sandbox's configuration layer serves.", kName);
+    app.formatter(std::make_shared<PlainFormatter>());
     app.set_version_flag("-V,--version", std::string(kName) + " " + CALTOFAL_VERSION, "Print the version");
     app.set_help_flag("-h,--help", "Print this help");
     app.require_subcommand(1);

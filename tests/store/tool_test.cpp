@@ -181,6 +181,7 @@ TEST_F(ToolTest, TellsWrongUseApart) {
         {"fault add any --nth 0",
          "fault add: --nth \"0\" is not a number from 1 to 1000000000; see caltofal-sandbox fault add --help"},
         {"fault add any --on", "fault add: --on needs a value; see caltofal-sandbox fault add --help"},
+        {"lst", "\"lst\" is not a command (did you mean list?); see caltofal-sandbox --help"},
         {"fault add 1.2", "1.2 is not an object path"},
         {"export --format xml",
          "export: --format \"xml\" is not one of tr181, csv, json; see caltofal-sandbox export --help"},
