@@ -8,6 +8,13 @@ _caltofal_commands() {
     "$@" --help 2>/dev/null | sed -n '/^Subcommands:/,/^$/s/^  \([a-z][a-z0-9-]*\).*/\1/p'
 }
 
+# _caltofal_meant WORD PROGRAM [NOUN...]: the noun or verb of that name, or the only one that begins so
+_caltofal_meant() {
+    local -a all
+    mapfile -t all < <(_caltofal_commands "${@:2}" | grep -x -e "$1" || _caltofal_commands "${@:2}" | grep -e "^$1")
+    [[ ${#all[@]} -eq 1 ]] && echo "${all[0]}"
+}
+
 # _caltofal_options PROGRAM [NOUN...]: a line for each option, with the word for its argument if it takes one
 _caltofal_options() {
     "$@" --help 2>/dev/null | sed -nE 's/^  ((-[a-zA-Z]),)?(--[a-z0-9-]+)( ([^ ]+))?( .*)?$/\3 \5\n\2 \5/p' | grep -e '^-'
@@ -96,6 +103,8 @@ _caltofal_option_values() {
         -g:* | --gateway:*) words=$(_caltofal_gateways "$4") ;;
         *:*"{"*) words=${3#*"{"} && words=${words%"}"*} && words=${words//,/ } ;;
         --code:*) words=$("${@:4}" --help | sed -n 's/^  -[0-9]*  \([a-z-]*\):.*/\1/p') ;;
+        --columns:*) words=$(_caltofal_headings "$1" "${@:4}" "${gateway[@]}") ;;
+        --mode-section:*) words=$("$4" "${gateway[@]}" gateway --mode-section 2>/dev/null) ;;
         *:GATEWAY*) words="$(_caltofal_gateways "$4") $(compgen -f -- "$1")" ;;
         *:[a-z]*\|*) words=${3//|/ } ;;
         *:DIRECTORY*) _caltofal_files "$1" -d && return ;;
@@ -106,10 +115,38 @@ _caltofal_option_values() {
     _caltofal_reply "$1" $words
 }
 
+# _caltofal_settable PROGRAM GATEWAY-OPTIONS...: of the paths that come in, objects, and parameters that can be set with
+# "=" behind
+_caltofal_settable() {
+    local path
+    while read -r path; do
+        if [[ $path == *. ]]; then
+            echo "$path"
+        elif _caltofal_writable "${path%.*}" "$@" | grep -qx -e "${path##*.}"; then
+            echo "$path="
+        fi
+    done
+}
+
+# _caltofal_headings CURRENT PROGRAM...: the columns of a page behind the list so far, a word for each
+_caltofal_headings() {
+    local before=""
+    [[ $1 == *,* ]] && before=${1%,*},
+    "${@:2}" --columns '?' 2>&1 | sed -n 's/; see .*//; s/.*; there are //p' | tr ',' '\n' |
+        awk -v before="$before" '{ print before tolower($1) }'
+}
+
+# _caltofal_numbers PROGRAM GATEWAY-OPTIONS... SUBJECT: the instance numbers of radios or SSIDs
+_caltofal_numbers() {
+    local page=${*: -1}s
+    "${@:1:$#-1}" wifi "$page" --terse 2>/dev/null | cut -f 1
+}
+
 # _caltofal_objects CURRENT SUFFIX LAST-OBJECT PROGRAM GATEWAY-OPTIONS...: an object, or a parameter of the last one
 _caltofal_objects() {
     local words
     words=$(_caltofal_paths "$1" "${@:4}")
+    [[ -n $2 ]] && words=$(_caltofal_settable "${@:4}" <<<"$words")
     if [[ -n $3 && $1 != Device.* && -n $2 ]]; then
         words+=" $(_caltofal_writable "$3" "${@:4}" | sed "s/\$/$2/")"
     elif [[ -n $3 && $1 != Device.* ]]; then
@@ -123,7 +160,7 @@ _caltofal_objects() {
 
 # _caltofal_read WORD...: takes the words before the current one apart
 _caltofal_read() {
-    local word
+    local word verb
     for word in "$@"; do
         if [[ -n $option ]]; then
             [[ $option == -g || $option == --gateway ]] && gateway=(-g "$word")
@@ -133,8 +170,10 @@ _caltofal_read() {
         elif [[ $word == -* ]]; then
             kind=$(_caltofal_argument "$word" "${command[@]}")
             option=${kind:+$word}
-        elif [[ ${#given[@]} -eq 0 ]] && _caltofal_commands "${command[@]}" | grep -qx -e "$word"; then
-            command+=("$word")
+        elif [[ $word == help && ${#given[@]} -eq 0 && ${program##*/} == caltofal ]]; then
+            continue # its words are those that stand without it
+        elif [[ ${#given[@]} -eq 0 ]] && verb=$(_caltofal_meant "$word" "${command[@]}") && [[ -n $verb ]]; then
+            command+=("$verb")
         else
             given+=("$word")
             [[ $word == Device.* ]] && object=$word
@@ -161,10 +200,20 @@ _caltofal_place() {
             # shellcheck disable=SC2046
             _caltofal_reply "$current" any $(_caltofal_paths "$current" "$program" "${gateway[@]}") ;;
         caltofal:set:* | caltofal:add:*) _caltofal_objects "$current" = "$object" "$program" "${gateway[@]}" ;;
+        caltofal:capture:*) _caltofal_objects "$current" "" "" "$program" "${gateway[@]}" ;;
         caltofal:get:* | caltofal:del:* | caltofal:find:* | caltofal:lower-layers:0 | caltofal:dns:0)
             _caltofal_objects "$current" "" "$object" "$program" "${gateway[@]}" ;;
         "caltofal:wifi set:0") _caltofal_reply "$current" ssid radio ;;
-        "caltofal:wifi set:1") ;;
+        "caltofal:wifi set:1")
+            # shellcheck disable=SC2046
+            _caltofal_reply "$current" $(_caltofal_numbers "$program" "${gateway[@]}" "${given[0]}") ;;
+        "caltofal:wifi radio:0" | "caltofal:wifi clients:0")
+            # shellcheck disable=SC2046
+            _caltofal_reply "$current" $(_caltofal_numbers "$program" "${gateway[@]}" radio) ;;
+        "caltofal:wifi ssid:0" | "caltofal:wifi acl:0")
+            # shellcheck disable=SC2046
+            _caltofal_reply "$current" $(_caltofal_numbers "$program" "${gateway[@]}" ssid) ;;
+        caltofal:apply:0) _caltofal_files "$current" -f ;;
         "caltofal:wifi set:"*)
             # shellcheck disable=SC2046
             _caltofal_reply "$current" $("$program" "${gateway[@]}" wifi "${given[@]:0:2}" 2>/dev/null |
