@@ -486,7 +486,7 @@ class Words(unittest.TestCase):
     def test_short_forms_mean_the_long_ones(self):
         for short, whole in (("-j hosts", "hosts --json"), ("gat --mode", "gateway --mode-section"), ("-V", "--version"),
                              ("wifi con -j", "wifi convert --json"), ("help wifi acl", "wifi acl --help"),
-                             ("help", "--help"), ("lo Device.IP.Interface.3", "lower-layers Device.IP.Interface.3"),
+                             ("help", "--help"), ("-g home help mode", "mode --help"), ("wifi help acl", "wifi acl --help"), ("lo Device.IP.Interface.3", "lower-layers Device.IP.Interface.3"),
                              ("-g bridge mo", "mode -g bridge"), ("mul", "multiwan"), ("m", "m")):
             with self.subTest(short):
                 # "--mode" is not an option: only words are completed
@@ -497,7 +497,11 @@ class Words(unittest.TestCase):
         self.assertEqual(tool.run("hosts", "--columns", "name,addr", "--terse").out.splitlines()[0],
                          b"study-laptop\t192.168.1.10")
         self.assertEqual(tool.run("hosts", "--columns", "Mac").out.splitlines()[0], b"MAC")
-        self.assertIn(b"PPP\t\nInterface\tDevice.PPP.Interface.1\n", tool.run("wan", "--terse").out)
+        for words, line in (("wan", "ppp.interface\tDevice.PPP.Interface.1"), ("status", "wan.ip_address\t203.0.113.45"),
+                            ("status", "multiwan.enabled\tno"), ("wifi radios", "1\twlan0\t2.4g\tUp\t6\t20\t"
+                                                                   "802.11b+g+n\t3")):
+            self.assertIn(line + "\n", tool.run(*words.split(), "--terse").out.decode())
+        self.assertEqual(tool.run("wifi", "convert", "bandwidth", "--columns", "Ui").out.splitlines()[0], b"UI")
         for words, message in (("hosts --columns name,nope", '"nope" is not a column; there are HOST, NAME, ADDRESS, MAC,'),
                                ("mode --columns name", "has no columns"), ("mode --json --terse", "--json goes with"),
                                ("wifi ssids --columns n", '"n" is the beginning of several columns')):
@@ -507,6 +511,11 @@ class Words(unittest.TestCase):
         text = tool.on_terminal("wifi", "ssids", NO_COLOR="1", columns=60).decode()
         self.assertLessEqual(max(len(line) for line in text.splitlines()), 60)
         self.assertIn("VOLA Home", text)
+        for page in ("hosts", "wifi ssids"):
+            lines = tool.on_terminal(*page.split(), NO_COLOR="1", columns=80).decode().splitlines()
+            self.assertEqual([line for line in lines if line.startswith(" ") or len(line) > 80], [], page)
+        lines = tool.on_terminal("wifi", "ssid", "1", NO_COLOR="1", columns=80).decode().splitlines()
+        self.assertNotIn("", [line.strip() for line in lines], "an empty cell needs no line of its own")
 
     def test_watch_shows_a_page_again_until_the_key(self):
         folder = tool.folder()

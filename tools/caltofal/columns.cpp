@@ -19,11 +19,14 @@ std::string upper(std::string text) {
 
 size_t columnNamed(const std::vector<std::string> &headings, const std::string &name) {
     const std::string wanted = upper(name);
-    const auto exact = std::find(headings.begin(), headings.end(), wanted);
+    const auto exact = std::find_if(headings.begin(), headings.end(),
+                                    [&](const std::string &heading) { return upper(heading) == wanted; });
     if (exact != headings.end()) {
         return static_cast<size_t>(exact - headings.begin());
     }
-    const auto begins = [&](const std::string &heading) { return !wanted.empty() && heading.starts_with(wanted); };
+    const auto begins = [&](const std::string &heading) {
+        return !wanted.empty() && upper(heading).starts_with(wanted);
+    };
     const auto found = std::find_if(headings.begin(), headings.end(), begins);
     if (found == headings.end() || std::count_if(headings.begin(), headings.end(), begins) > 1) {
         throw Usage("--columns: " + pages::quoted(name) +

@@ -29,6 +29,10 @@ Exit codes: 0 done, 1 failed, 2 wrong usage, 3 time out, 4 no gateway,
 constexpr int kWatchMax = 86400; // a day
 constexpr const char *kDefaultSeconds = "2";
 
+constexpr const char *kCommonOptions =
+    "Options of every command, told by caltofal --help:\n"
+    "-j/--json, --terse, --columns, --show-secrets, --watch, --trace, -g/--gateway, -V/--version";
+
 constexpr const char *kVerbMissing = "A subcommand is required"; // the parser's words
 
 std::string notEmpty(const std::string &value) {
@@ -190,7 +194,7 @@ std::string reasonOf(const CLI::App &app, const CLI::ParseError &error) {
 }
 
 std::string examplesOf(const std::string &words, const char *examples) {
-    std::string result = "Examples:";
+    std::string result = std::string(kCommonOptions) + "\n\nExamples:";
     std::istringstream lines(examples);
     std::string line;
     do {

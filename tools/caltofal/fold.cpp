@@ -4,12 +4,15 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cwchar>
+#include <numeric>
+#include <string_view>
 
 namespace cli {
 namespace {
 
 constexpr size_t kGap = 2;
-constexpr size_t kValueLeast = 20; // columns: what is narrower is not worth folding
+constexpr std::string_view kBreakable = " ,|"; // behind these
+constexpr size_t kValueLeast = 20;             // columns: what is narrower is not worth folding
 
 size_t columnsOf(const pages::Table &table) {
     return !table.headings.empty() ? table.headings.size() : table.rows.empty() ? 0 : table.rows.front().size();
@@ -44,7 +47,8 @@ size_t firstPiece(const std::string &text, size_t width) {
             return breakable > 0 ? breakable : std::max(end, next - end);
         }
         end = next;
-        if (text[end - 1] == ' ' || text[end - 1] == ',') {
+        const bool goesOn = end < text.size() && (text[end] == ',' || text[end] == ' ');
+        if (kBreakable.find(text[end - 1]) != std::string_view::npos && !goesOn) {
             breakable = end;
         }
     }
@@ -60,16 +64,23 @@ size_t displayWidth(const std::string &text) {
     return width < 0 ? text.size() : static_cast<size_t>(width);
 }
 
-std::vector<std::vector<size_t>> columnGroups(const pages::Table &table, size_t width) {
+size_t gapFor(const pages::Table &table, size_t width) {
+    const std::vector<size_t> widths = widthsOf(table);
+    const size_t all = std::accumulate(widths.begin(), widths.end(), size_t{0});
+    const size_t gaps = widths.empty() ? 0 : widths.size() - 1;
+    return all + kGap * gaps > width && all + gaps <= width ? 1 : kGap;
+}
+
+std::vector<std::vector<size_t>> columnGroups(const pages::Table &table, size_t width, size_t gap) {
     const std::vector<size_t> widths = widthsOf(table);
     std::vector<std::vector<size_t>> groups;
     size_t used = 0;
     for (size_t i = 0; i < widths.size(); ++i) {
-        if (groups.empty() || used + kGap + widths[i] > width) {
+        if (groups.empty() || used + gap + widths[i] > width) {
             used = groups.empty() ? 0 : displayWidth(kContinuation);
             groups.emplace_back();
         } else {
-            used += kGap;
+            used += gap;
         }
         used += widths[i];
         groups.back().push_back(i);

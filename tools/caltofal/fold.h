@@ -13,9 +13,12 @@ namespace cli {
 
 size_t displayWidth(const std::string &text);
 
-// Which columns stand together in a line of that width, two blanks between them: as many as fit, the rest on
-// continuation lines, which begin with kContinuation.
-std::vector<std::vector<size_t>> columnGroups(const pages::Table &table, size_t width);
+// The blanks between two columns: one where the table is too wide with two.
+size_t gapFor(const pages::Table &table, size_t width);
+
+// Which columns stand together in a line of that width: as many as fit, the rest on continuation lines, which begin
+// with kContinuation.
+std::vector<std::vector<size_t>> columnGroups(const pages::Table &table, size_t width, size_t gap);
 inline constexpr const char *kContinuation = "  ";
 
 // A table of labels and values with long values on several rows, broken at blanks and commas where there are some.

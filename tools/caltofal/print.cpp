@@ -4,12 +4,12 @@
 #include "caltofal/columns.h"
 #include "caltofal/printable.h"
 #include "caltofal/render.h"
+#include "caltofal/terminal.h"
 #include "pages/json.h"
 
 #include <cstdlib>
 #include <iostream>
 #include <sstream>
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace cli {
@@ -19,12 +19,6 @@ using namespace pages;
 namespace {
 
 constexpr int kIndent = 2;
-
-// 0 where standard output is not a terminal.
-size_t terminalWidth() {
-    winsize size{};
-    return isatty(STDOUT_FILENO) == 1 && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_col : 0;
-}
 
 bool colourWanted() {
     const char *noColour = getenv("NO_COLOR");
@@ -54,6 +48,9 @@ std::string linesOf(const Report &report, const Form &form, int indent) {
     if (form.json) {
         return toJson(report.json, indent) + "\n";
     }
+    if (!form.columns.empty() && !(report.raw.empty() && report.chart.empty())) {
+        throw Usage("--columns: this page is no table");
+    }
     if (!report.raw.empty()) {
         return report.raw;
     }
@@ -61,7 +58,7 @@ std::string linesOf(const Report &report, const Form &form, int indent) {
         return printableLines(report.chart);
     }
     const Table table = form.columns.empty() ? report.table : withColumns(report.table, form.columns);
-    return form.terse ? renderTerse(table) : render(table, {colourWanted(), terminalWidth()});
+    return form.terse ? renderTerse(table) : render(table, {colourWanted(), screen().columns});
 }
 
 void print(const Report &report, const Form &form) {

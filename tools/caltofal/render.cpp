@@ -67,13 +67,13 @@ Table drawn(const Table &table) {
     Table result = table;
     for (Row &row : result.rows) {
         for (Cell &cell : row) {
-            cell.text = cellText(cell) + (cell.bars < 0 ? "" : barsOf(cell.bars));
+            cell.text = cellText(cell) + cell.remark + (cell.bars < 0 ? "" : barsOf(cell.bars));
         }
     }
     return result;
 }
 
-Scols newTable(const std::vector<std::string> &headings, size_t columns, bool colour) {
+Scols newTable(const std::vector<std::string> &headings, size_t columns, bool colour, size_t gap) {
     Scols result(scols_new_table());
     if (!result) {
         throw std::bad_alloc();
@@ -82,7 +82,7 @@ Scols newTable(const std::vector<std::string> &headings, size_t columns, bool co
     scols_table_enable_noheadings(result.get(), headings.empty());
     scols_table_enable_noencoding(result.get(), true);
     scols_table_set_termforce(result.get(), SCOLS_TERMFORCE_NEVER);
-    scols_table_set_column_separator(result.get(), "  ");
+    scols_table_set_column_separator(result.get(), std::string(gap, ' ').c_str());
     for (size_t i = 0; i < columns; ++i) {
         scols_table_new_column(result.get(), headings.empty() ? "" : headings[i].c_str(), 0, 0);
     }
@@ -114,14 +114,14 @@ std::string withoutTrailingBlanks(const char *lines) {
     return result;
 }
 
-std::string linesOf(const Table &table, const std::vector<size_t> &columns, bool colour) {
+std::string linesOf(const Table &table, const std::vector<size_t> &columns, bool colour, size_t gap) {
     std::vector<std::string> headings;
     for (const size_t column : columns) {
         if (!table.headings.empty()) {
             headings.push_back(table.headings[column]);
         }
     }
-    const Scols scols = newTable(headings, columns.size(), colour);
+    const Scols scols = newTable(headings, columns.size(), colour, gap);
     for (const Row &row : table.rows) {
         addRow(scols.get(), row, columns);
     }
@@ -141,7 +141,7 @@ std::string interleaved(const std::vector<std::string> &groups) {
         result += line + "\n";
         for (size_t i = 1; i < inputs.size(); ++i) {
             std::getline(inputs[i], line);
-            result += kContinuation + line + "\n";
+            result += line.empty() ? "" : kContinuation + line + "\n";
         }
     }
     return result;
@@ -160,15 +160,16 @@ std::string render(const Table &table, const Look &look) {
     }
     const size_t width = folds && !shown.headings.empty() ? look.width : std::numeric_limits<size_t>::max();
     std::vector<std::string> groups;
-    for (const std::vector<size_t> &columns : columnGroups(shown, width)) {
-        groups.push_back(linesOf(shown, columns, look.colour));
+    const size_t gap = gapFor(shown, width);
+    for (const std::vector<size_t> &columns : columnGroups(shown, width, gap)) {
+        groups.push_back(linesOf(shown, columns, look.colour, gap));
     }
     return interleaved(groups);
 }
 
 std::string renderTerse(const Table &table) {
     std::string result;
-    for (const Row &row : table.rows) {
+    for (const Row &row : table.forScripts.empty() ? table.rows : table.forScripts) {
         for (size_t i = 0; i < row.size(); ++i) {
             result += (i == 0 ? "" : "\t") + cellText(row[i]);
         }

@@ -21,6 +21,12 @@ bool canMoveCursor() {
 
 } // namespace
 
+Screen screen() {
+    winsize size{};
+    const bool known = isatty(STDOUT_FILENO) == 1 && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0;
+    return known ? Screen{size.ws_col, size.ws_row} : Screen();
+}
+
 void writeAll(int descriptor, std::string_view text) {
     while (!text.empty()) {
         const ssize_t written = write(descriptor, text.data(), text.size());

@@ -7,6 +7,12 @@
 
 namespace cli {
 
+// Of the terminal that standard output is; 0 where it is none.
+struct Screen {
+    size_t columns = 0, rows = 0;
+};
+Screen screen();
+
 // Writes all of it; what cannot be written is lost.
 void writeAll(int descriptor, std::string_view text);
 

@@ -66,7 +66,10 @@ const Command *meant(const std::vector<const Command *> &commands, const std::st
     return only ? *first : nullptr;
 }
 
-void writeOut(Words &words) {
+// Nouns and verbs written out; whether "help" stood among them, which is taken out where it is followed by what can be
+// explained: a word that is not understood is left for the parser to refuse.
+bool writeOut(Words &words) {
+    bool help = false;
     std::vector<const Command *> choice = nouns();
     for (size_t i = 0; i < words.size() && !choice.empty(); ++i) {
         if (words[i].starts_with('-')) {
@@ -75,25 +78,26 @@ void writeOut(Words &words) {
             i += takesNext || words[i] == "--watch" ? 1 : 0;
             continue;
         }
+        if (words[i] == "help") {
+            help = true;
+            words.erase(words.begin() + static_cast<long>(i--));
+            continue;
+        }
         const Command *command = meant(choice, words[i]);
         if (!command) {
-            return;
+            return false;
         }
         words[i] = command->name;
         choice = verbsOf(*command);
     }
+    return help;
 }
 
 } // namespace
 
 Words parserWords(Words words) {
-    const bool help = !words.empty() && words.front() == "help";
-    if (help) {
-        words.erase(words.begin());
-    }
     addLeftOutValues(words);
-    writeOut(words);
-    if (help) {
+    if (writeOut(words)) {
         words.emplace_back("--help");
     }
     return words;

@@ -7,8 +7,8 @@
 
 namespace cli {
 
-// Nouns and verbs by their beginnings, where only one begins so; "help NOUN" as "NOUN --help"; options whose value may
-// be left out with one. The program's own name is not among the words.
+// Nouns and verbs by their beginnings, where only one begins so; "help NOUN" and "NOUN help" as "NOUN --help"; options
+// whose value may be left out with one. The program's own name is not among the words.
 std::vector<std::string> parserWords(std::vector<std::string> words);
 
 // What the parser takes for `--watch` and `--mode-section` without a value.

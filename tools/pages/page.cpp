@@ -81,6 +81,14 @@ void addRows(Table &table, const Section &section) {
     }
 }
 
+// For scripts: the members of the JSON, one a line.
+void addFacts(Table &table, const Section &section) {
+    for (const Field &field : section.fields) {
+        const std::string key = section.key.empty() ? field.key : section.key + "." + field.key;
+        table.forScripts.push_back({{key}, {readable(shown(field))}});
+    }
+}
+
 } // namespace
 
 std::string readable(const Value &value, const std::string &unit) {
@@ -155,6 +163,7 @@ Page::operator Report() const {
         if (known) {
             addRows(result.table, section);
         }
+        addFacts(result.table, section);
     }
     return result;
 }

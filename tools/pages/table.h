@@ -12,7 +12,8 @@ enum class Style { Plain, Heading, Good, Bad };
 struct Cell {
     std::string text; // any bytes
     Style style = Style::Plain;
-    int bars = -1; // 0 to 4: the text is a signal, which bars show as well
+    int bars = -1;           // 0 to 4: the text is a signal, which bars show as well
+    const char *remark = ""; // behind the text, for people alone
 };
 
 using Row = std::vector<Cell>;
@@ -20,6 +21,7 @@ using Row = std::vector<Cell>;
 struct Table {
     std::vector<std::string> headings = {}; // none: no heading line, as many columns as the first row has
     std::vector<Row> rows = {};
+    std::vector<Row> forScripts = {}; // instead of the rows: one fact a cell; none: the rows do
 };
 
 } // namespace pages

@@ -79,7 +79,7 @@ Report take(const Wanted &wanted) {
         result.raw += recordings.lines;
     }
     result.json = Value::object({{"values", values},
-                                 {"secretsReplaced", replaced},
+                                 {"secrets_replaced", replaced},
                                  {"files", recordings.files},
                                  {"answers", recordings.answers},
                                  {"capture", result.raw}});

@@ -29,6 +29,13 @@ Row rowOf(const Value &satellite) {
              active ? Style::Plain : Style::Bad}};
 }
 
+// For scripts: "satellite.1.mac" and so on.
+void addFacts(Table &table, const Value &satellite, int number) {
+    for (const Member &fact : satellite.members()) {
+        table.forScripts.push_back({{"satellite." + std::to_string(number) + "." + fact.key}, {readable(fact.value)}});
+    }
+}
+
 } // namespace
 
 Report status() {
@@ -39,12 +46,14 @@ Report status() {
         {"connected", "Connected satellites", now.satellites},
     });
     result.json["satellites"] = Value::list();
+    int number = 0;
     for (const Object &object : satellites()) {
         const Value satellite = Value::object({{"name", valueOf(object, "Name")},
                                                {"mac", valueOf(object, "PhysAddress")},
                                                {"ip", valueOf(object, "IPAddress")},
                                                {"active", valueOf(object, "Active") == "true"}});
         result.table.rows.push_back(rowOf(satellite));
+        addFacts(result.table, satellite, ++number);
         result.json["satellites"].push(satellite);
     }
     return result;

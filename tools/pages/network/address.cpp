@@ -20,7 +20,7 @@ std::string bytesInMemory(const std::string &address) {
 
 } // namespace
 
-Page address(const std::string &text) {
+Report address(const std::string &text) {
     const bool ipv4 = zintu_isValidIPv4Address(text.c_str()) == 0;
     const bool ipv6 = validationCheck_IPv6Addr(text.c_str()) == 0;
     const bool mac = zintu_isValidMacAddress(text.c_str()) == 0;
@@ -28,11 +28,17 @@ Page address(const std::string &text) {
         throw Failure(Category::Refused, "\"" + text + "\" is neither an IPv4 nor an IPv6 nor a MAC address");
     }
     const char *ofIp = ipv4 ? "IPv4" : "IPv6";
-    return pageOf({
+    Report result = pageOf({
         {"address", "Address", text},
         {"kind", "Kind", mac ? "MAC" : ofIp},
         {"bytes", "Bytes in memory", ipv4 ? Value(bytesInMemory(text)) : Value()},
     });
+    if (text == "0.0.0.0") { // what a page of the gateway would take for an address that is not set
+        result.json["address"] = text;
+        result.table.rows.front()[1].text = text;
+        result.table.forScripts.front()[1].text = text;
+    }
+    return result;
 }
 
 } // namespace pages

@@ -90,7 +90,7 @@ Row rowOf(const Value &host) {
 
 Report hosts() {
     Report result{.json = Value::object({{"hosts", Value::list()}})};
-    result.table.headings = {"HOST", "NAME", "ADDRESS", "MAC", "INTERFACE", "TYPE", "STATE"};
+    result.table.headings = {"HOST", "NAME", "ADDRESS", "MAC", "IFACE", "TYPE", "STATE"};
     InterfaceNames names;
     for (const Object &object : objectsBelow(kTable)) {
         const Value host = Report(pageOf(object, names)).json;

@@ -39,7 +39,7 @@ struct LowerLayers {
 Report lowerLayers(const std::string &object, const LowerLayers &how);
 
 // What kind of address a text is.
-Page address(const std::string &text);
+Report address(const std::string &text);
 
 // Single values.
 Report connectionModes(); // the words that uciSectionOfMode() takes

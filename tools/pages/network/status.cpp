@@ -31,6 +31,16 @@ const Glance kGlances[] = {
     {"iptv", "IPTV set-top box", iptv, {"set_top_box"}},
 };
 
+// A fact a line, by the pages' names and fields.
+void addFacts(Table &table, const Page &page, const Glance &glance) {
+    for (const char *field : glance.fields) {
+        table.forScripts.push_back({{std::string(glance.key) + "." + field}, {readable(page.value(field))}});
+    }
+    if (page.value("enabled").isFlag()) {
+        table.forScripts.push_back({{std::string(glance.key) + ".enabled"}, {readable(page.value("enabled"))}});
+    }
+}
+
 std::string summary(const Page &page, const Glance &glance) {
     if (page.value("enabled") == false) {
         return "off";
@@ -65,11 +75,13 @@ Report status() {
             const Page page = glance.page();
             result.json[glance.key] = Report(page).json;
             result.table.rows.push_back({{glance.title, Style::Heading}, {summary(page, glance)}});
+            addFacts(result.table, page, glance);
         } catch (const Failure &failure) {
             result.json[glance.key] = errorValue(failure);
             const bool absent = lacksAll(failure, glance, log.requests());
             const Cell words = absent ? Cell{"none"} : Cell{std::string("(") + failure.what() + ")", Style::Bad};
             result.table.rows.push_back({{glance.title, Style::Heading}, words});
+            result.table.forScripts.push_back({{glance.key}, words});
             first = first ? first : failure;
             failed += failure.category() == Category::Absent ? 0 : 1;
             if (absent && &glance == std::begin(kGlances)) { // what every gateway has that the library is made for

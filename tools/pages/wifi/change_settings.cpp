@@ -4,6 +4,7 @@
 #include "pages/layer/call.h"
 #include "pages/page.h"
 #include "pages/secret.h"
+#include "pages/similar.h"
 #include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
 #include "pages/wifi/settings.h"
@@ -32,10 +33,10 @@ class Message {
     MsgHeader header_{};
 };
 
-std::string namesOf(const WifiParamTable &table) {
-    std::string names;
+std::vector<std::string> namesOf(const WifiParamTable &table) {
+    std::vector<std::string> names;
     for (const WifiParamRow &row : rows(table)) {
-        names += (names.empty() ? "" : ", ") + text(row.parameter);
+        names.push_back(text(row.parameter));
     }
     return names;
 }
@@ -47,7 +48,8 @@ const WifiParamRow &rowNamed(const WifiParamTable &current, const std::string &n
         return text(row.parameter) == name || path == name || path == "Device.WiFi." + name;
     });
     if (found == rows(current).end()) {
-        throw Failure(Category::Absent, "no setting \"" + name + "\" here; there are " + namesOf(current));
+        throw Failure(Category::Absent, "no setting \"" + name + "\" here" + didYouMean(name, namesOf(current)) +
+                                            "; there are " + joined(namesOf(current)));
     }
     return *found;
 }

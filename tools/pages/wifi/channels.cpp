@@ -5,6 +5,7 @@
 #include "pages/layer/left_messages.h"
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
+#include "pages/wifi/chart.h"
 #include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
 #include "pages/wifi/radar.h"
@@ -34,22 +35,33 @@ Value jsonOf(const WifiChannelEntry &entry) {
 
 Row rowOf(const Value &entry, int channel) {
     Row row = pages::rowOf(entry, {"channel", "frequency_mhz", "bandwidths_mhz", "secondary_below", "secondary_above"});
-    row.front().text = markedChannel(channel);
+    row.front() = markedChannel(channel);
     return row;
 }
 
 struct Current {
     int channel = kUntouched;
-    std::string country, extension;
+    std::string country, extension, width;
 };
 
-// The side of the secondary channel, for channels at 2.4 GHz: upper, lower or auto, as a survey names it.
-Value sideOf(const Current &current, const std::string &band) {
-    if (current.channel == kUntouched || band != "2.4GHz") {
+// The side of the secondary channel, as a survey names it: upper, lower or auto. At 20 MHz there is none. At 5 GHz the
+// number of the channel tells, at 2.4 GHz the library, by the country and the setting.
+Value sideOf(const Current &current) {
+    if (current.channel == kUntouched || current.width == "20MHz") {
         return {};
+    }
+    if (current.channel > kLast24GHz) {
+        const ChannelSpan pair = spanOf({.channel = current.channel, .width = 40});
+        return pair.first == current.channel ? "upper" : "lower";
     }
     const char *side = GetSideChannel(current.channel, current.country.c_str(), current.extension.c_str());
     return FapiToUi_Str(side, SideBand_FapiToUi_Table, std::size(SideBand_FapiToUi_Table));
+}
+
+// The library's answer is always 0.
+Value radarChannelOf(const Current &current) {
+    const int told = GetDFSChannel();
+    return told != 0 ? Value(told) : isRadarChannel(current.channel) ? Value(current.channel) : Value();
 }
 
 } // namespace
@@ -90,10 +102,11 @@ Report currentChannel(const InterfaceName &name) {
     const std::string radioPath = "Device.WiFi.Radio." + std::to_string(interface.radio);
     const Object radio =
         get({{radioPath,
-              {{"RegulatoryDomain"}, {"ExtensionChannel"}, {"OperatingFrequencyBand"}, {"AutoChannelEnable"}}}},
+              {{"RegulatoryDomain"}, {"ExtensionChannel"}, {"OperatingChannelBandwidth"}, {"AutoChannelEnable"}}}},
             Reading::Leaf)
             .front();
-    Current current{kUntouched, valueOf(radio, "RegulatoryDomain"), valueOf(radio, "ExtensionChannel")};
+    Current current{kUntouched, valueOf(radio, "RegulatoryDomain"), valueOf(radio, "ExtensionChannel"),
+                    valueOf(radio, "OperatingChannelBandwidth")};
     ShellOutput output;
     const bool ran = GetCurrentChannel(name.c_str(), 0, &current.channel) == 1;
     const std::string complaint = output.end();
@@ -105,8 +118,8 @@ Report currentChannel(const InterfaceName &name) {
         {"radio", "Radio", interface.radio},
         {"channel", "Channel", number(current.channel)},
         {"auto_channel", "Chosen automatically", valueOf(radio, "AutoChannelEnable") == "true"},
-        {"secondary_side", "Secondary channel", sideOf(current, valueOf(radio, "OperatingFrequencyBand"))},
-        {"dfs_channel", "DFS channel", GetDFSChannel() == 0 ? Value() : Value(GetDFSChannel())},
+        {"secondary_side", "Secondary channel", sideOf(current)},
+        {"dfs_channel", "DFS channel", radarChannelOf(current)},
     });
     if (current.channel == kUntouched) {
         page.notes.push_back("iwlist names no current channel: the radio of " + name.text() + " is off");

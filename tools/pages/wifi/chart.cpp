@@ -9,7 +9,6 @@
 namespace pages::wifi {
 namespace {
 
-constexpr int kLast24 = 14;
 constexpr int kReach = 2;  // channels at 2.4 GHz that 20 MHz take on either side
 constexpr int kSecond = 4; // channels from the primary to the secondary one there
 constexpr int kStep = 4;   // from one channel at 5 GHz to the next
@@ -30,7 +29,7 @@ const Axis &axisOf(int channel) {
                                  120, 124, 128, 132, 136, 140, 144, 149, 153, 157, 161, 165},
                                 2,
                                 2};
-    return channel <= kLast24 ? kAxis24 : kAxis5;
+    return channel <= kLast24GHz ? kAxis24 : kAxis5;
 }
 
 // Blocks at 5 GHz begin there; wide channels do not cross them.
@@ -110,7 +109,7 @@ bool isBefore(const ChartedNetwork &one, const ChartedNetwork &other) {
 
 ChannelSpan spanOf(const ChartedNetwork &network) {
     const int channel = network.channel;
-    if (channel <= kLast24) {
+    if (channel <= kLast24GHz) {
         const bool wide = network.width >= 40;
         return {channel - kReach - (wide && network.side == "lower" ? kSecond : 0),
                 channel + kReach + (wide && network.side == "upper" ? kSecond : 0)};
@@ -124,7 +123,7 @@ ChannelSpan spanOf(const ChartedNetwork &network) {
 std::string chartOf(std::vector<ChartedNetwork> networks) {
     std::stable_sort(networks.begin(), networks.end(), isBefore);
     std::string result;
-    for (const Axis *axis : {&axisOf(1), &axisOf(kLast24 + 1)}) {
+    for (const Axis *axis : {&axisOf(1), &axisOf(kLast24GHz + 1)}) {
         std::vector<ChartedNetwork> here;
         std::copy_if(networks.begin(), networks.end(), std::back_inserter(here),
                      [&](const ChartedNetwork &one) { return &axisOf(one.channel) == axis; });

@@ -9,13 +9,15 @@
 
 namespace pages::wifi {
 
+constexpr int kLast24GHz = 14; // channel
+
 // One network, or one of the gateway's own radios.
 struct ChartedNetwork {
     int channel = 0;
-    int width = 20;   // MHz
-    std::string side; // "upper" or "lower": where the secondary channel of 40 MHz at 2.4 GHz lies
-    Value dbm;        // null: an own radio
-    std::string name; // any bytes
+    int width = 20;        // MHz
+    std::string side = {}; // "upper" or "lower": where the secondary channel of 40 MHz at 2.4 GHz lies
+    Value dbm = {};        // null: an own radio
+    std::string name = {}; // any bytes
 };
 
 // The channels that a network takes, from the first to the last.

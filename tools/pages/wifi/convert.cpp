@@ -140,6 +140,11 @@ const Converter &converterNamed(const std::string &name) {
     return *found;
 }
 
+bool isWordOf(const Converter &converter, const std::string &value, bool toUi) {
+    return std::any_of(converter.pairs.begin(), converter.pairs.end(),
+                       [&](const PairRow &pair) { return (toUi ? text(pair.sFirst) : text(pair.sSecond)) == value; });
+}
+
 } // namespace
 
 Report conversions() {
@@ -171,12 +176,16 @@ Report convert(const std::string &name, const std::string &value, bool toUi) {
         throw Usage(name + " has no way back: --to fapi does not go with it");
     }
     const std::string converted = converter.convert(value, toUi);
-    return {.json =
-                Value::object({{"table", name},
+    Report result{
+        .json = Value::object({{"table", name},
                                {"value", value},
                                {"to", toUi ? "ui" : "fapi"},
                                {"result", converter.number ? Value(ConvInt(converted.c_str())) : Value(converted)}}),
-            .raw = converted + "\n"};
+        .raw = converted + "\n"};
+    if (!converter.pairs.empty() && !isWordOf(converter, value, toUi)) {
+        result.notes.push_back(quoted(value) + " is not a word of " + name + ": this is what the library makes of it");
+    }
+    return result;
 }
 
 } // namespace pages::wifi

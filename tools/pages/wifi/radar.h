@@ -2,6 +2,8 @@
 // The channels that a radio leaves to radar (DFS).
 #pragma once
 
+#include "pages/table.h"
+
 #include <string>
 
 namespace pages::wifi {
@@ -12,8 +14,8 @@ constexpr bool isRadarChannel(int channel) {
 }
 
 // "52 (DFS)": a channel as tables show it.
-inline std::string markedChannel(int channel) {
-    return std::to_string(channel) + (isRadarChannel(channel) ? " (DFS)" : "");
+inline Cell markedChannel(int channel) {
+    return {.text = std::to_string(channel), .remark = isRadarChannel(channel) ? " (DFS)" : ""};
 }
 
 } // namespace pages::wifi

@@ -80,7 +80,7 @@ Row rowOf(const Value &radio) {
     if (radio["enabled"] == false) {
         row[3].text = "off";
     }
-    row[4].text += radio["auto_channel"].flag() ? " (auto)" : "";
+    row[4].remark = radio["auto_channel"].flag() ? " (auto)" : "";
     return row;
 }
 

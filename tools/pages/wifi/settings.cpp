@@ -51,16 +51,18 @@ const Words *converterOf(const std::string &parameter) {
 
 // The library passes unknown words on, or takes them for its first one.
 void checkWord(const Words &row, const std::string &word) {
-    std::string words;
+    std::vector<std::string> words; // several values may have one word
     for (const PairRow &pair : row.pairs) {
         const std::string known = text(pair.sSecond);
         if (known == word) {
             return;
         }
-        words += (words.empty() ? "" : ", ") + known;
+        if (std::find(words.begin(), words.end(), known) == words.end()) {
+            words.push_back(known);
+        }
     }
     throw Failure(Category::Refused, std::string(row.parameter) + ": " + quoted(word) +
-                                         " is not a word of the user interface; there are " + words);
+                                         " is not a word of the user interface; there are " + joined(words));
 }
 
 std::string lastPart(const std::string &object) {

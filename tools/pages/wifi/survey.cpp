@@ -68,7 +68,7 @@ Value jsonOf(const SiteSurveyEntry &entry) {
 
 Row rowOf(const SiteSurveyEntry &entry) {
     return {{text(entry.ssid)},
-            {markedChannel(entry.channel)},
+            markedChannel(entry.channel),
             signalCell(entry.rssi),
             {text(entry.security)},
             {text(entry.encryption)},
@@ -80,17 +80,6 @@ Row rowOf(const SiteSurveyEntry &entry) {
 
 bool exists(const std::string &file) {
     return access(file.c_str(), F_OK) == 0;
-}
-
-std::vector<InterfaceName> interfacesWithResult() {
-    std::vector<InterfaceName> names;
-    for (const Object &ssid : instancesOf("Device.WiFi.SSID", {{"Name"}})) {
-        const std::string name = valueOf(ssid, "Name");
-        if (!name.empty() && exists(surveyFile(InterfaceName(name)))) {
-            names.emplace_back(name);
-        }
-    }
-    return names;
 }
 
 // What the device box says of a result, in a word beside it.
@@ -133,6 +122,17 @@ Report surveyOfAll(const std::string &ssid) {
 
 std::string surveyFile(const InterfaceName &interface) {
     return "/tmp/wlan_wave/" + interface.text() + "_scan_by_User.result";
+}
+
+std::vector<InterfaceName> interfacesWithResult() {
+    std::vector<InterfaceName> names;
+    for (const Object &ssid : instancesOf("Device.WiFi.SSID", {{"Name"}})) {
+        const std::string name = valueOf(ssid, "Name");
+        if (!name.empty() && exists(surveyFile(InterfaceName(name)))) {
+            names.emplace_back(name);
+        }
+    }
+    return names;
 }
 
 Report survey(const std::optional<InterfaceName> &interface, const std::string &ssid) {

@@ -6,8 +6,12 @@
 #include "pages/report.h"
 
 #include <string>
+#include <vector>
 
 namespace pages::wifi {
+
+// The interfaces that have a result.
+std::vector<InterfaceName> interfacesWithResult();
 
 // The result file of an interface.
 std::string surveyFile(const InterfaceName &interface);

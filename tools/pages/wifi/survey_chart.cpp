@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal.h"
 #include "pages/page.h"
+#include "pages/text.h"
 #include "pages/wifi/chart.h"
 #include "pages/wifi/instances.h"
+#include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
+#include "pages/wifi/survey.h"
+
+#include <map>
 
 namespace pages::wifi {
 namespace {
@@ -39,13 +44,50 @@ std::vector<ChartedNetwork> ownRadios() {
     return radios;
 }
 
+// Whether 2.4 GHz, and whether other bands, were looked at.
+struct Bands {
+    bool low = false, high = false;
+
+    void add(int channel) { (channel <= kLast24GHz ? low : high) = true; }
+    [[nodiscard]] bool have(int channel) const { return channel <= kLast24GHz ? low : high; }
+};
+
+Bands bandsOf(const std::vector<InterfaceName> &interfaces) {
+    Bands bands;
+    for (const InterfaceName &interface : interfaces) {
+        const std::string radio = "Device.WiFi.Radio." + std::to_string(findInterface(interface).radio);
+        for (const Object &object : anyInstancesOf("Device.WiFi.Radio", {{"Channel"}})) {
+            if (withoutDot(object.name) == radio) {
+                bands.add(ConvInt(valueOf(object, "Channel").c_str()));
+            }
+        }
+    }
+    return bands;
+}
+
+// What several interfaces heard stands in a survey once for each: here once, as strong as the best of them heard it.
+void addOnce(std::vector<ChartedNetwork> &networks, std::map<std::string, size_t> &places, const Value &json) {
+    const std::string bssid = json["bssid"].text();
+    const bool known = bssid.find_first_not_of("0:") != std::string::npos;
+    const auto [place, isNew] = places.try_emplace(known ? bssid : std::to_string(places.size()), networks.size());
+    const ChartedNetwork network = networkOf(json);
+    if (isNew) {
+        networks.push_back(network);
+    } else if (network.dbm.whole() > networks[place->second].dbm.whole()) {
+        networks[place->second] = network;
+    }
+}
+
 } // namespace
 
 Report surveyChart(const std::optional<InterfaceName> &interface) {
     Report result = survey(interface, "");
+    const Bands bands = bandsOf(interface ? std::vector{*interface} : interfacesWithResult());
     std::vector<ChartedNetwork> networks = ownRadios();
+    std::erase_if(networks, [&](const ChartedNetwork &own) { return !bands.have(own.channel); });
+    std::map<std::string, size_t> places;
     for (const Value &network : result.json["networks"].items()) {
-        networks.push_back(networkOf(network));
+        addOnce(networks, places, network);
     }
     result.table = {};
     result.chart = chartOf(networks);
