@@ -23,7 +23,7 @@
 namespace sandbox {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
+constexpr std::string_view kBlanksAndLineEnds = " \t\r\n";
 
 // Without anything in it that only these files have, a comment tells it from the dump of another program.
 void writeGatewayFile(const Entries &entries, std::ostream &out) {
@@ -104,7 +104,7 @@ const FormatRow &rowOf(FileFormat format) {
 
 // By the first character that is not a blank, by a CSV's header, by the file's name, by its lines.
 Read recognised(std::string_view text, const std::string &file) {
-    const size_t first = text.find_first_not_of(kBlanks);
+    const size_t first = text.find_first_not_of(kBlanksAndLineEnds);
     if (text[first] == '{' || text[first] == '[') {
         return readAnyJson;
     }
@@ -170,7 +170,7 @@ FileContent readContent(const std::string &file, std::optional<FileFormat> forma
 FileContent contentOf(std::string bytes, const std::string &file, std::optional<FileFormat> format,
                       const std::string &device) {
     const std::string text = plainText(std::move(bytes));
-    if (text.find_first_not_of(kBlanks) == std::string::npos) {
+    if (text.find_first_not_of(kBlanksAndLineEnds) == std::string::npos) {
         throw FileError(file, "is empty");
     }
     const Read read = format ? rowOf(*format).read : recognised(text, file);

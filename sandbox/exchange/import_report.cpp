@@ -5,7 +5,7 @@ namespace sandbox {
 namespace {
 
 // In the order of Reason; each is followed by ": NUMBER, first EXAMPLE".
-constexpr const char *kWords[] = {
+constexpr const char *kReasonWords[] = {
     "kept as text, not of the parameter's type",
     "kept as empty, without a value in the file",
     "left as it was or empty, hidden in the file",
@@ -23,7 +23,7 @@ constexpr const char *kWords[] = {
     "passed over, rows of the ACS itself",
     "passed over, further devices in the file",
 };
-static_assert(std::size(kWords) == static_cast<size_t>(Reason::OtherDevice) + 1);
+static_assert(std::size(kReasonWords) == static_cast<size_t>(Reason::OtherDevice) + 1);
 
 } // namespace
 
@@ -38,7 +38,7 @@ std::string ImportReport::text() const {
     std::string text = "took in " + std::to_string(taken) + " of " + std::to_string(values) + " values";
     for (size_t i = 0; i < tallies_.size(); ++i) {
         if (tallies_[i].number != 0) {
-            text += std::string("\n  ") + kWords[i] + ": " + std::to_string(tallies_[i].number) + ", first " +
+            text += std::string("\n  ") + kReasonWords[i] + ": " + std::to_string(tallies_[i].number) + ", first " +
                     tallies_[i].first;
         }
     }

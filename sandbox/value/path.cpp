@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "value/path.h"
 
+#include "value/value_syntax.h"
+
 #include <algorithm>
 #include <charconv>
 #include <limits>
@@ -9,10 +11,6 @@ namespace sandbox {
 namespace {
 
 constexpr size_t kInstanceDigits = 10;
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 bool isNameStart(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || isDigit(c);

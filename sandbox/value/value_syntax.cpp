@@ -7,10 +7,6 @@
 namespace sandbox {
 namespace {
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 // The digits at the front of the text, which are taken off it.
 std::string_view takeDigits(std::string_view &text) {
     const auto *end = std::find_if_not(text.begin(), text.end(), isDigit);
@@ -76,6 +72,15 @@ bool isZone(std::string_view text) {
 }
 
 } // namespace
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+std::string_view trimmed(std::string_view text, std::string_view blanks) {
+    const size_t first = std::min(text.find_first_not_of(blanks), text.size());
+    return text.substr(first, text.find_last_not_of(blanks) + 1 - first);
+}
 
 bool isInteger(std::string_view text) {
     takeSign(text);

@@ -23,16 +23,6 @@ bool isAnything(std::string_view /*item*/) {
     throw std::invalid_argument("type " + quotedShort(type) + " " + what);
 }
 
-std::string_view trimmed(std::string_view text) {
-    while (text.starts_with(' ')) {
-        text.remove_prefix(1);
-    }
-    while (text.ends_with(' ')) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
 // The text before the separator, which is taken off `rest` with it.
 std::string_view takeUntil(std::string_view &rest, char separator) {
     const size_t end = std::min(rest.find(separator), rest.size());
@@ -106,7 +96,7 @@ ValueType ValueType::parse(std::string_view text) {
     std::string_view rest = text;
     if (rest.starts_with(kListPrefix)) {
         type.list_ = true;
-        rest = trimmed(rest.substr(kListPrefix.size()));
+        rest = trimmed(rest.substr(kListPrefix.size()), " ");
     }
     const std::string_view name = rest.substr(0, rest.find('('));
     type.syntax_ = std::find_if(std::begin(kSyntaxes), std::end(kSyntaxes),
@@ -138,7 +128,7 @@ void ValueType::parseRanges(std::string_view text) {
         refuse(syntax_->name, "takes no range");
     }
     do {
-        const std::string_view part = trimmed(takeUntil(text, ','));
+        const std::string_view part = trimmed(takeUntil(text, ','), " ");
         std::string_view rest = part;
         const std::string_view first = takeUntil(rest, ':');
         const bool pair = part.find(':') != std::string_view::npos;
@@ -205,7 +195,7 @@ ValueType::Verdict ValueType::check(std::string &value) const {
     }
     std::string_view rest = value;
     while (!rest.empty()) {
-        const Verdict verdict = checkItem(trimmed(takeUntil(rest, ',')));
+        const Verdict verdict = checkItem(trimmed(takeUntil(rest, ','), " "));
         if (verdict != Verdict::Valid) {
             return verdict;
         }

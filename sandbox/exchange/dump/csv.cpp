@@ -12,26 +12,31 @@ namespace sandbox {
 namespace {
 
 // The columns that count, by the plain words that head them.
-enum Column : size_t { kPath, kObject, kWritable, kValue, kType, kColumns };
+enum DumpColumn : size_t { kPathColumn, kObjectColumn, kWritableColumn, kValueColumn, kTypeColumn, kDumpColumns };
 
 struct Heading {
     std::string_view word;
-    Column column;
+    DumpColumn column;
 };
 constexpr Heading kHeadings[] = {
-    {"parameter", kPath},    {"parametername", kPath},   {"parameterpath", kPath},  {"path", kPath},
-    {"name", kPath},         {"fullpath", kPath},        {"fullname", kPath},       {"object", kObject},
-    {"writable", kWritable}, {"access", kWritable},      {"permission", kWritable}, {"permissions", kWritable},
-    {"value", kValue},       {"parametervalue", kValue}, {"currentvalue", kValue},  {"valuetype", kType},
-    {"type", kType},         {"datatype", kType},        {"parametertype", kType},
+    {"parameter", kPathColumn},      {"parametername", kPathColumn},
+    {"parameterpath", kPathColumn},  {"path", kPathColumn},
+    {"name", kPathColumn},           {"fullpath", kPathColumn},
+    {"fullname", kPathColumn},       {"object", kObjectColumn},
+    {"writable", kWritableColumn},   {"access", kWritableColumn},
+    {"permission", kWritableColumn}, {"permissions", kWritableColumn},
+    {"value", kValueColumn},         {"parametervalue", kValueColumn},
+    {"currentvalue", kValueColumn},  {"valuetype", kTypeColumn},
+    {"type", kTypeColumn},           {"datatype", kTypeColumn},
+    {"parametertype", kTypeColumn},
 };
 
 // Where each column stands.
 struct Header {
-    std::optional<size_t> at[kColumns];
+    std::optional<size_t> at[kDumpColumns];
     size_t fields = 0;
 
-    bool isComplete() const { return at[kPath] && at[kValue]; }
+    bool isComplete() const { return at[kPathColumn] && at[kValueColumn]; }
 };
 
 Header headerOf(const CsvRecord &names) {
@@ -83,26 +88,26 @@ class CsvDump {
 
   private:
     // Taken out of the record.
-    std::string field(CsvRecord &record, Column column) const {
+    std::string field(CsvRecord &record, DumpColumn column) const {
         const std::optional<size_t> at = header_.at[column];
         return at && *at < record.size() && record[*at] ? std::move(*record[*at]) : "";
     }
 
     void take(CsvRecord &record) {
         DumpRow row;
-        row.path = field(record, kPath);
-        row.type = field(record, kType);
-        row.writable = writableOfWord(field(record, kWritable));
-        row.object = writableOfWord(field(record, kObject)).value_or(false) || isObjectWord(row.type);
+        row.path = field(record, kPathColumn);
+        row.type = field(record, kTypeColumn);
+        row.writable = writableOfWord(field(record, kWritableColumn));
+        row.object = writableOfWord(field(record, kObjectColumn)).value_or(false) || isObjectWord(row.type);
         row.line = reader_.line();
-        const bool torn = record.size() > header_.fields || *header_.at[kValue] >= record.size();
+        const bool torn = record.size() > header_.fields || *header_.at[kValueColumn] >= record.size();
         if (row.path.empty() || (torn && !row.object)) {
             dump_.report.values += row.object ? 0 : 1;
             dump_.report.count(Reason::TornRow, row.path.empty() ? "line " + std::to_string(row.line) : row.path);
             return;
         }
-        std::string value = field(record, kValue);
-        const bool never = value.empty() && row.type.empty() && header_.at[kType]; // the ACS never asked for it
+        std::string value = field(record, kValueColumn);
+        const bool never = value.empty() && row.type.empty() && header_.at[kTypeColumn]; // the ACS never asked for it
         if (!row.object && !never) {
             row.value = std::move(value);
         }

@@ -9,6 +9,7 @@
 #include "value/escape.h"
 #include "value/path.h"
 #include "value/secret.h"
+#include "value/value_syntax.h"
 
 #include <algorithm>
 #include <iterator>
@@ -27,12 +28,6 @@ constexpr std::string_view kCountSuffix = "NumberOfEntries";
 // What an ACS keeps beside a device's own model.
 constexpr std::string_view kAcsRoots[] = {"DeviceID",          "Events", "Reboot", "FactoryReset", "Tags", "Downloads",
                                           "VirtualParameters", "Event"};
-
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r\n";
-    const size_t first = std::min(text.find_first_not_of(kBlanks), text.size());
-    return text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
 
 bool isAcsPath(std::string_view path) {
     const std::string_view root = path.substr(0, path.find('.'));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/dump/text.h"
 
+#include "value/value_syntax.h"
+
 #include <algorithm>
 #include <functional>
 #include <optional>
@@ -8,13 +10,7 @@
 namespace sandbox {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r";
-constexpr std::string_view kRoots[] = {"Device.", "InternetGatewayDevice."};
-
-std::string_view trimmed(std::string_view text) {
-    const size_t first = std::min(text.find_first_not_of(kBlanks), text.size());
-    return text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
+constexpr std::string_view kRootPaths[] = {"Device.", "InternetGatewayDevice."};
 
 struct Line {
     std::string_view path;
@@ -61,7 +57,7 @@ bool isQuoted(std::string_view value) {
 
 bool isTextDump(std::string_view text) {
     const size_t first = std::min(text.find_first_not_of(" \t\r\n"), text.size());
-    const bool below = std::any_of(std::begin(kRoots), std::end(kRoots),
+    const bool below = std::any_of(std::begin(kRootPaths), std::end(kRootPaths),
                                    [&](std::string_view root) { return text.substr(first).starts_with(root); });
     size_t lines = 0;
     size_t pairs = 0;
