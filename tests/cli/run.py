@@ -271,6 +271,12 @@ class Secrets(unittest.TestCase):
             for form in ("--trace", "--json"):
                 self.assertNotIn("correct-horse", self.run_tool(*words, form).err)
 
+    def test_a_default_of_one_is_one(self):
+        for option in ("--types", "--defaults"):
+            words = ("get", "Device.WiFi.AccessPoint.1.Security", "KeyPassphrase", option)
+            self.assertIn(b"(hidden)\n", self.run_tool(*words).out)
+            self.assertIn(b"vola-factory-key", self.run_tool(*words, "--show-secrets").out)
+
     def test_what_stands_in_their_place_is_not_written(self):
         table = "Device.DHCPv4.Server.Pool.1.StaticAddress"
         for words in (("set", "Device.PPP.Interface.1", "Password=(hidden)"), ("add", table, "XPassword=(hidden)"),
@@ -514,6 +520,10 @@ class Words(unittest.TestCase):
         for page in ("hosts", "wifi ssids"):
             lines = tool.on_terminal(*page.split(), NO_COLOR="1", columns=80).decode().splitlines()
             self.assertEqual([line for line in lines if line.startswith(" ") or len(line) > 80], [], page)
+        lines = tool.on_terminal("get", "Device.WiFi.AccessPoint.1.Security", "--types", NO_COLOR="1",
+                                 columns=80).decode().splitlines()
+        self.assertLessEqual(max(map(len, lines)), 80)
+        self.assertTrue([line for line in lines if line.startswith("    ") and "WPA3-Personal-Transition" in line])
         lines = tool.on_terminal("wifi", "ssid", "1", NO_COLOR="1", columns=80).decode().splitlines()
         self.assertNotIn("", [line.strip() for line in lines], "an empty cell needs no line of its own")
 

@@ -12,7 +12,8 @@ namespace {
 
 constexpr size_t kGap = 2;
 constexpr std::string_view kBreakable = " ,|"; // behind these
-constexpr size_t kValueLeast = 20;             // columns: what is narrower is not worth folding
+constexpr size_t kValueLeast = 32;             // columns: in less room a long value stands below its label
+constexpr const char *kIndent = "    ";
 
 size_t columnsOf(const pages::Table &table) {
     return !table.headings.empty() ? table.headings.size() : table.rows.empty() ? 0 : table.rows.front().size();
@@ -55,6 +56,39 @@ size_t firstPiece(const std::string &text, size_t width) {
     return end;
 }
 
+std::vector<std::string> piecesOf(std::string text, size_t width) {
+    std::vector<std::string> pieces;
+    do {
+        const size_t length = firstPiece(text, width);
+        pieces.push_back(text.substr(0, length));
+        text.erase(0, length);
+    } while (!text.empty());
+    return pieces;
+}
+
+std::string valueOf(const pages::Row &row) {
+    return row.size() > 1 ? row[1].text : "";
+}
+
+// One column: labels with their values, or with long values in the lines below.
+pages::Table withValuesBelow(const pages::Table &table, size_t width, size_t labels) {
+    pages::Table result;
+    const size_t indent = displayWidth(kIndent);
+    for (const pages::Row &row : table.rows) {
+        const std::string value = valueOf(row);
+        const size_t padding = labels + kGap - displayWidth(row[0].text);
+        if (labels + kGap + displayWidth(value) <= width) {
+            result.rows.push_back({{row[0].text + std::string(padding, ' ') + value}});
+            continue;
+        }
+        result.rows.push_back({row[0]});
+        for (const std::string &piece : piecesOf(value, std::max(width, indent + 1) - indent)) {
+            result.rows.push_back({{kIndent + piece}});
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 size_t displayWidth(const std::string &text) {
@@ -90,21 +124,21 @@ std::vector<std::vector<size_t>> columnGroups(const pages::Table &table, size_t 
 
 pages::Table withFoldedValues(const pages::Table &table, size_t width) {
     const std::vector<size_t> widths = widthsOf(table);
-    if (widths.size() != 2 || widths[0] + kGap + widths[1] <= width || widths[0] + kGap + kValueLeast > width) {
+    if (widths.size() != 2 || widths[0] + kGap + widths[1] <= width) {
         return table;
+    }
+    if (widths[0] + kGap + kValueLeast > width) {
+        return withValuesBelow(table, width, widths[0]);
     }
     const size_t room = width - widths[0] - kGap;
     pages::Table result{table.headings, {}};
     for (const pages::Row &row : table.rows) {
         pages::Cell label = row[0];
-        std::string rest = row.size() > 1 ? row[1].text : "";
         const pages::Style style = row.size() > 1 ? row[1].style : pages::Style::Plain;
-        do {
-            const size_t piece = firstPiece(rest, room);
-            result.rows.push_back({label, {rest.substr(0, piece), style}});
-            rest.erase(0, piece);
+        for (const std::string &piece : piecesOf(valueOf(row), room)) {
+            result.rows.push_back({label, {piece, style}});
             label.text.clear();
-        } while (!rest.empty());
+        }
     }
     return result;
 }

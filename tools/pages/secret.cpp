@@ -66,6 +66,15 @@ Value shownValue(std::string_view parameter, std::string_view value) {
     return typed(parameter, shownText(parameter, value));
 }
 
+std::string shownDefinition(std::string_view parameter, const std::string &definition) {
+    constexpr std::string_view kDefault = " default=";
+    const size_t found = definition.find(kDefault);
+    if (showing || found == std::string::npos || !isSecret(parameter)) {
+        return definition;
+    }
+    return definition.substr(0, found + kDefault.size()) + std::string(kHidden);
+}
+
 void noteSecret(std::string_view parameter, std::string_view value) {
     if (value.size() >= kNotedLeast && isSecret(parameter)) {
         const std::lock_guard lock(access);

@@ -39,6 +39,9 @@ void noteSecret(std::string_view parameter, std::string_view value);
 // A line that others wrote, with kHidden in place of noted secrets and of what stands behind "SECRET=>".
 std::string withoutSecrets(std::string line);
 
+// A parameter's definition, of which the default of a secret is one as well.
+std::string shownDefinition(std::string_view parameter, const std::string &definition);
+
 // Throws Usage for a secret that is to become kHidden: somebody writes back what was shown.
 void refuseHidden(std::string_view parameter, std::string_view value);
 

@@ -136,7 +136,7 @@ Report typesOf(const std::vector<Object> &objects) {
     for (const Object &object : objects) {
         for (const Parameter &parameter : object.parameters) {
             const std::string path = withDot(object.name) + parameter.name;
-            const std::string definition = definitionOf(path);
+            const std::string definition = shownDefinition(parameter.name, definitionOf(path));
             result.json[withoutDot(object.name)][parameter.name] = definition;
             result.table.rows.push_back({{path}, {readable(definition)}});
         }
