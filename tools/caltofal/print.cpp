@@ -2,6 +2,7 @@
 #include "caltofal/print.h"
 
 #include "caltofal/columns.h"
+#include "caltofal/fold.h"
 #include "caltofal/printable.h"
 #include "caltofal/render.h"
 #include "caltofal/terminal.h"
@@ -27,11 +28,23 @@ bool colourWanted() {
     return !refused && isatty(STDOUT_FILENO) == 1;
 }
 
-std::string printableLines(const std::string &text) {
+// The beginning of a line that has room on the terminal; a chart that wraps cannot be read.
+std::string cutTo(std::string line, size_t columns) {
+    constexpr unsigned char kMore = 0x80; // in the first two bits: a letter goes on
+    while (columns > 0 && displayWidth(line) > columns) {
+        while ((static_cast<unsigned char>(line.back()) & 0xc0U) == kMore) {
+            line.pop_back();
+        }
+        line.pop_back();
+    }
+    return line;
+}
+
+std::string chartLines(const std::string &text, size_t columns) {
     std::istringstream lines(text);
     std::string result;
     for (std::string line; std::getline(lines, line);) {
-        result += printable(line) + "\n";
+        result += cutTo(printable(line), columns) + "\n";
     }
     return result;
 }
@@ -55,7 +68,7 @@ std::string linesOf(const Report &report, const Form &form, int indent) {
         return report.raw;
     }
     if (!report.chart.empty()) {
-        return printableLines(report.chart);
+        return chartLines(report.chart, screen().columns);
     }
     const Table table = form.columns.empty() ? report.table : withColumns(report.table, form.columns);
     return form.terse ? renderTerse(table) : render(table, {colourWanted(), screen().columns});
