@@ -12,18 +12,19 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <vector>
 
 namespace sandbox {
 namespace {
 
-enum class Takes { One, Several };
+enum class Takes { One, Several, SeveralOrNone };
 
 // A setting, and the parameter of the same object that lists what it can be.
 struct Listed {
     std::string_view object, setting, list;
     Takes takes = Takes::One;
-    std::string_view always = {}; // a value that needs no mention
+    std::optional<std::string_view> always = std::nullopt; // a value that needs no mention
 };
 
 constexpr std::string_view kChannels = "PossibleChannels"; // as channelsOf() reads them
@@ -34,11 +35,11 @@ constexpr Listed kListed[] = {
     {"Device.WiFi.Radio.{i}.", "OperatingStandards", "SupportedStandards", Takes::Several},
     {"Device.WiFi.Radio.{i}.", "OperatingChannelBandwidth", "SupportedOperatingChannelBandwidths"},
     {"Device.WiFi.Radio.{i}.", "TransmitPower", "TransmitPowerSupported", Takes::One, "-1"},
-    {"Device.WiFi.Radio.{i}.", "BasicDataTransmitRates", "SupportedDataTransmitRates", Takes::Several},
-    {"Device.WiFi.Radio.{i}.", "OperationalDataTransmitRates", "SupportedDataTransmitRates", Takes::Several},
+    {"Device.WiFi.Radio.{i}.", "BasicDataTransmitRates", "SupportedDataTransmitRates", Takes::SeveralOrNone},
+    {"Device.WiFi.Radio.{i}.", "OperationalDataTransmitRates", "SupportedDataTransmitRates", Takes::SeveralOrNone},
     {"Device.WiFi.AccessPoint.{i}.Security.", "ModeEnabled", "ModesSupported"},
-    {"Device.WiFi.AccessPoint.{i}.WPS.", "ConfigMethodsEnabled", "ConfigMethodsSupported", Takes::Several},
-    {"Device.WiFi.EndPoint.{i}.WPS.", "ConfigMethodsEnabled", "ConfigMethodsSupported", Takes::Several},
+    {"Device.WiFi.AccessPoint.{i}.WPS.", "ConfigMethodsEnabled", "ConfigMethodsSupported", Takes::SeveralOrNone},
+    {"Device.WiFi.EndPoint.{i}.WPS.", "ConfigMethodsEnabled", "ConfigMethodsSupported", Takes::SeveralOrNone},
 };
 
 // What channels a band has, for radios that do not list theirs.
@@ -67,8 +68,11 @@ bool allows(const Listed &rule, std::string_view list, std::string_view item) {
 }
 
 void holdAgainst(const Listed &rule, const std::string &list, const std::string &parameter, std::string_view value) {
-    const std::vector<std::string_view> wanted =
-        rule.takes == Takes::Several ? listItems(value) : std::vector<std::string_view>{value};
+    std::vector<std::string_view> wanted =
+        rule.takes == Takes::One ? std::vector<std::string_view>{value} : listItems(value);
+    if (wanted.empty() && rule.takes == Takes::Several) {
+        wanted.push_back(value);
+    }
     for (const std::string_view item : wanted) {
         if (item != rule.always && !allows(rule, list, item)) {
             refuse(parameter, item, std::string(rule.list) + " has " + list);
@@ -103,8 +107,12 @@ void refuseImpossible(Database &database, const std::string &key, std::string_vi
     }
     const std::string_view standard = standardType(pattern + std::string(name));
     const bool ownWord = value.starts_with("X_"); // makers may add words to the standard's
-    if (!standard.empty() && !type.isLimited() && !ownWord) {
-        acceptedValue(ValueType::parse(standard), parameter, value);
+    if (standard.empty() || ownWord) {
+        return;
+    }
+    const ValueType meant = ValueType::parse(standard);
+    if (!type.isLimited() || meant.isAddress()) { // a length does not say what an address is
+        acceptedValue(meant, parameter, value);
     }
 }
 

@@ -2,7 +2,9 @@
 #include "value/value_syntax.h"
 
 #include <algorithm>
+#include <arpa/inet.h>
 #include <cctype>
+#include <string>
 
 namespace sandbox {
 namespace {
@@ -60,6 +62,11 @@ bool takeField(std::string_view &text, size_t digits, int lowest, int highest, c
         text.remove_prefix(1);
     }
     return value >= lowest && value <= highest;
+}
+
+bool isAddressOf(int family, std::string_view text) {
+    in6_addr address;
+    return inet_pton(family, std::string(text).c_str(), &address) == 1;
 }
 
 bool isZone(std::string_view text) {
@@ -128,6 +135,24 @@ bool isHexBinary(std::string_view text) {
     return text.size() % 2 == 0 && std::all_of(text.begin(), text.end(), [](char c) {
                return std::isxdigit(static_cast<unsigned char>(c)) != 0;
            });
+}
+
+bool isIpv4Address(std::string_view text) {
+    return text.empty() || isAddressOf(AF_INET, text);
+}
+
+bool isIpv6Address(std::string_view text) {
+    const size_t slash = std::min(text.find('/'), text.size());
+    if (slash == text.size()) {
+        return text.empty() || isAddressOf(AF_INET6, text);
+    }
+    const std::string_view length = text.substr(slash + 1);
+    return isAddressOf(AF_INET6, text.substr(0, slash)) && isInteger(length) && compareDecimals(length, "0") >= 0 &&
+           compareDecimals(length, "128") <= 0;
+}
+
+bool isIpAddress(std::string_view text) {
+    return isIpv4Address(text) || isAddressOf(AF_INET6, text);
 }
 
 int compareDecimals(std::string_view a, std::string_view b) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// How single values are written: numbers, times, encoded octets.
+// How single values are written: numbers, times, encoded octets, addresses.
 #pragma once
 
 #include <string_view>
@@ -14,6 +14,11 @@ bool isBoolean(std::string_view text);  // true, false, 1 or 0
 bool isDateTime(std::string_view text); // 2024-02-29T12:00:00, with an optional fraction and Z or +hh:mm
 bool isBase64(std::string_view text);
 bool isHexBinary(std::string_view text);
+
+// Addresses: the empty text is none, and valid.
+bool isIpv4Address(std::string_view text);
+bool isIpv6Address(std::string_view text); // with or without a prefix length, as devices write it
+bool isIpAddress(std::string_view text);   // of either, without one
 
 // The text without the blanks around it.
 std::string_view trimmed(std::string_view text, std::string_view blanks = " \t\r\n");

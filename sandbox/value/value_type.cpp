@@ -79,6 +79,9 @@ constexpr ValueType::Syntax kSyntaxes[] = {
     {"dateTime", Measure::Nothing, isDateTime, "", ""},
     {"base64", Measure::Base64Octets, isBase64, "", ""},
     {"hexBinary", Measure::HexOctets, isHexBinary, "", ""},
+    {"IPAddress", Measure::Nothing, isIpAddress, "", ""},
+    {"IPv4Address", Measure::Nothing, isIpv4Address, "", ""},
+    {"IPv6Address", Measure::Nothing, isIpv6Address, "", ""},
     {"enum", Measure::Words, isAnything, "", ""},
 };
 
@@ -183,6 +186,10 @@ bool ValueType::isNumber() const {
 
 bool ValueType::isFlag() const {
     return !list_ && syntax_->valid == isBoolean;
+}
+
+bool ValueType::isAddress() const {
+    return syntax_->name.ends_with("Address");
 }
 
 ValueType::Verdict ValueType::check(std::string &value) const {

@@ -30,6 +30,9 @@ class ValueType {
     bool isFlag() const;
     bool isList() const { return list_; }
 
+    // Whether values, or a list's items, are addresses of IP.
+    bool isAddress() const;
+
     // Whether the type has a range of its own, or words.
     bool isLimited() const { return !ranges_.empty() || !words_.empty(); }
 

@@ -413,8 +413,11 @@ class Lacking(unittest.TestCase):
                          (0, 8, "caltofal: request on Device.X_ZINTU_CurrentNetwork failed: fault 1 hit Device\n"))
 
     def test_a_cut_list_of_name_servers_is_told(self):
-        path = "Device.DNS.Client.Server.1"
-        self.assertEqual(self.run_tool("set", path, "DNSServer=198.51.100.53,198.51.100.54,198.51.100.55").code, 0)
+        servers = "Device.DNS.Client.Server.1.DNSServer = 198.51.100.53,198.51.100.54,198.51.100.55\n"
+        with tempfile.NamedTemporaryFile("w", suffix=".tr181") as file:  # no set gets a list in there, a dump may
+            file.write(servers)
+            file.flush()
+            tool.sandbox("import", "home", file.name, folder=self.folder)
         result = self.run_tool("dns")
         self.assertRegex(result.err, r'DNS server "[0-9.,]{15}" is not an address: the record holds 15 characters')
 

@@ -31,7 +31,10 @@ Device.WiFi.Radio.2.Channel [unsignedInt rw] = 36
 Device.WiFi.Radio.2.OperatingStandards [string rw] = a
 Device.WiFi.Radio.2.OperatingChannelBandwidth [string rw] = 80MHz
 Device.WiFi.Radio.2.Alias [string rw] =
+Device.WiFi.Radio.1.SupportedDataTransmitRates [string] = 6,12
+Device.WiFi.Radio.1.BasicDataTransmitRates [string rw] = 6
 Device.WiFi.SSID.1.SSID [string rw] = net
+Device.DNS.Client.Server.1.DNSServer [string(45) rw] = a text that a device holds
 )";
 
 class PossibleTest : public SandboxTest {
@@ -55,7 +58,11 @@ TEST_F(PossibleTest, HoldsSettingsAgainstTheGateway) {
         {"Radio.1", "Channel", "165", "\"165\" is not possible, PossibleChannels has 1-11, 13"},
         {"Radio.1", "OperatingStandards", "g,n", ""},
         {"Radio.1", "OperatingStandards", "g, zzz", "\"zzz\" is not possible, SupportedStandards has b,g,n"},
+        {"Radio.1", "OperatingStandards", "", "\"\" is not possible, SupportedStandards has b,g,n"},
+        {"Radio.1", "BasicDataTransmitRates", "", ""},         // none is a choice
         {"Radio.1", "OperatingChannelBandwidth", "20/40", ""}, // what it has
+        {"Radio.1", "OperatingChannelBandwidth", "",
+         "\"\" is not possible, SupportedOperatingChannelBandwidths has 20MHz, 40MHz"},
         {"Radio.1", "OperatingChannelBandwidth", "40MHz", ""},
         {"Radio.1", "OperatingChannelBandwidth", "20MHz,40MHz",
          "\"20MHz,40MHz\" is not possible, SupportedOperatingChannelBandwidths has 20MHz, 40MHz"},
@@ -83,6 +90,15 @@ TEST_F(PossibleTest, HoldsSettingsAgainstTheGateway) {
         EXPECT_EQ(cal_sandboxReason(), possible ? "" : path + "." + row.name + ": " + row.reason);
         EXPECT_EQ(valueOf(path, row.name) == row.value, possible) << row.value;
     }
+}
+
+TEST_F(PossibleTest, TakesAddressesOnlyWhereAddressesStand) {
+    const char *const server = "Device.DNS.Client.Server.1";
+    EXPECT_EQ(valueOf(server, "DNSServer"), "a text that a device holds");
+    EXPECT_EQ(setOne(server, {{"DNSServer", "notanip"}}), CALTOFAL_WRONG_TYPE);
+    EXPECT_EQ(cal_sandboxReason(), std::string(server) + ".DNSServer: \"notanip\" is not of type IPAddress");
+    EXPECT_EQ(setOne(server, {{"DNSServer", ""}}), 0);
+    EXPECT_EQ(setOne(server, {{"DNSServer", "2001:db8::53"}}), 0);
 }
 
 TEST(ChannelList, HasEveryFourthNumberBeyond24GHz) {
