@@ -59,7 +59,8 @@ struct PageHead {
     Empty empty = Empty::Store;
 
     [[nodiscard]] std::span<const Field> fields() const { return {reinterpret_cast<const Field *>(this + 1), count}; }
-    // The path of the object that is asked. Where one request asks for several: what the name of this one contains.
+    // The path of the object that the page asks for. Where one message asks for the objects of several pages: a part of
+    // the name by which the page's own object is found in the answer.
     [[nodiscard]] const char *object() const { return reinterpret_cast<const char *>(fields().data() + count); }
 };
 
@@ -149,7 +150,8 @@ const Field *findField(const PageHead &page, const char *name);
 // Stores a value into the record by the field's rule.
 void storeField(const Field &field, const char *value, void *record, size_t recordSize);
 
-// Stores every parameter of an object that has a row, in order.
+// Stores every parameter of an object that has a row, in order. The object's name is not compared with the page's path:
+// the caller chooses the objects.
 void fillRecord(ObjectNode &object, const PageHead &page, void *record);
 
 // As fillRecord(); the record of another page does not compile.

@@ -26,7 +26,7 @@ void storeStatus(const char *value, char (&status)[16]) {
     }
 }
 
-// As fetch(), and stores "Status".
+// Fills the page of the line, as fetch() does, and stores "Status".
 int fetchLine(ZintuDslLineInfo &info, const char *failure, Spot spot = Spot()) {
     Message message;
     const int code = getObject(message, kDslLine.object());
@@ -44,7 +44,7 @@ int fetchLine(ZintuDslLineInfo &info, const char *failure, Spot spot = Spot()) {
 } // namespace
 
 int32_t ZintuGet_LineInfo(ZintuDslLineInfo *info) {
-    constexpr char kFailure[] = "faltocal_SendMultiObj is Failure \n"; // for all four requests
+    constexpr char kFailure[] = "faltocal_SendMultiObj is Failure \n"; // the text of each of the four requests
     if (fetchLine(*info, kFailure) != 0) {
         return -1;
     }

@@ -35,11 +35,11 @@ bool nameContains(const ObjectNode &object, std::string_view part) {
 // Fills from an object whose name contains the page's path.
 template <class Page>
 bool fillWhereNamed(ObjectNode &object, const Page &page, LANv4Info &info) {
-    const bool isNamed = nameContains(object, {page.path, sizeof(page.path) - 1});
-    if (isNamed) {
+    const bool belongs = nameContains(object, {page.path, sizeof(page.path) - 1});
+    if (belongs) {
         fill(object, page, info);
     }
-    return isNamed;
+    return belongs;
 }
 
 // The first page whose path the object's name contains reads the object.

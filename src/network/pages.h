@@ -32,7 +32,7 @@ inline constexpr auto kWanAddress =
                            FIELD(ZintuWanInfo, sSubnetMask, "SubnetMask"),
                        });
 
-// The object that the default WAN's IP interface names as the one below it.
+// Read from the object that "LowerLayers" of the default WAN's IP interface names.
 inline constexpr auto kPpp = page<ZintuWanInfo>("", Empty::Skip,
                                                 {
                                                     FIELD(ZintuWanInfo, nIdleDisconnectTime, "IdleDisconnectTime"),
@@ -73,7 +73,7 @@ inline constexpr auto kDslTotals = page<ZintuDslLineInfo>("Device.DSL.Channel.1.
                                                               FIELD(ZintuDslLineInfo, nXTUCCRCErrors, "XTUCCRCErrors"),
                                                           });
 
-// From here on, one request asks for the objects of several pages.
+// From here on, one message asks for the objects of several pages.
 inline constexpr auto kLanAddress = page<LANv4Info>("Device.IP.Interface.1.IPv4Address.1", Empty::Store,
                                                     {
                                                         FIELD_BY(LANv4Info, sIPv4Address, "IPAddress", Rule::Padded),
@@ -110,7 +110,8 @@ inline constexpr auto kLanPoolV6 = page<LANv6Info>("Device.DHCPv6.Server.Pool.1"
                                                        FIELD(LANv6Info, nLeaseTimeSec, "X_ZINTU_PreferredLifetime"),
                                                    });
 
-// All pages. Tests and fuzzers make the answers that they script from this list.
+// All pages. Tests and fuzzers make the answers that they script from this list. A new page goes to the end: the
+// fuzzer's corpus names an object by its number.
 inline constexpr const frame::PageHead *kPages[] = {
     &kDefaultGateway.head, &kWanAddress.head,    &kPpp.head,       &kDslLine.head,
     &kDslChannel.head,     &kDslTestParams.head, &kDslTotals.head, &kLanAddress.head,

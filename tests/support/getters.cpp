@@ -105,6 +105,7 @@ std::string channelList() {
 
 const std::vector<Getter> &getters() {
     static const std::vector<Getter> rows = {
+        // A new row goes to the end: the fuzzer's corpus names a getter by its number.
         {"OperMode", 0, [] { return std::to_string(ZintuGet_OperMode()); }},
         {"DefGw", 0, [] { return fill<ZintuWanInfo>(ZintuGet_DefGw); }},
         {"UciSectionByConnMode", 0,
