@@ -66,10 +66,10 @@ CLI::Validator between(int64_t least, int64_t most) {
 }
 
 // Whether all letters of a word stand in another one, in that order.
-bool isWithin(const std::string &word, const std::string &other) {
+bool isWithin(const std::string &letters, const std::string &text) {
     size_t at = 0;
-    return std::all_of(word.begin(), word.end(), [&](char letter) {
-        at = other.find(letter, at);
+    return std::all_of(letters.begin(), letters.end(), [&](char letter) {
+        at = text.find(letter, at);
         return at++ != std::string::npos;
     });
 }

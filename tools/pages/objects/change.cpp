@@ -68,6 +68,7 @@ Report add(const std::vector<Object> &tables, bool storeOnly) {
 
 Report remove(const std::vector<std::string> &instances, bool storeOnly) {
     std::vector<Object> objects;
+    objects.reserve(instances.size());
     for (const std::string &instance : instances) {
         objects.push_back({checkedPath(instance)});
     }

@@ -23,7 +23,7 @@ struct Query {
 
 // Throws Usage for what does not go together.
 void check(const Query &query);
-Report read(const Query &query);
+Report read(const Query &asked);
 
 // All objects of a change go in one message, which is done whole or not at all. `storeOnly`: not applied.
 Report set(const std::vector<Object> &objects, bool storeOnly);

@@ -39,8 +39,8 @@ struct SettingsChange {
 Report changeSettings(const SettingsChange &change);
 
 // What the driver tells of a radio. Need the device.
-Report channels(const InterfaceName &interface);
-Report currentChannel(const InterfaceName &interface);
+Report channels(const InterfaceName &name);
+Report currentChannel(const InterfaceName &name);
 
 // The associated stations; with `mac` that one alone. Needs the device.
 Report stations(const InterfaceName &interface, const std::string &mac);
