@@ -91,15 +91,22 @@ function(caltofal_precompiled_options target)
   target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
 endfunction()
 
-# caltofal_compile_as_one(TARGET...): the files of a small library are compiled together, in a quarter of the time. Names
-# in their unnamed namespaces must differ; ./dev lint sees that each file stands by itself.
-option(CALTOFAL_UNITY "Compile the files of small libraries together" ON)
+# caltofal_compile_as_one(TARGET...): the files of each folder are compiled together, in a quarter of the time. Names in
+# the unnamed namespaces of a folder must differ; ./dev lint sees that each file stands by itself.
+option(CALTOFAL_UNITY "Compile the files of a folder together" ON)
 function(caltofal_compile_as_one)
-  set_target_properties(${ARGN} PROPERTIES UNITY_BUILD ${CALTOFAL_UNITY} UNITY_BUILD_BATCH_SIZE 0)
-  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-    # A type of a source file may well have members of types of its unnamed namespace.
-    foreach(target ${ARGN})
-      target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+  foreach(target ${ARGN})
+    get_target_property(sources ${target} SOURCES)
+    foreach(source ${sources})
+      cmake_path(GET source PARENT_PATH folder)
+      string(REPLACE "${PROJECT_SOURCE_DIR}/" "" folder "${folder}")
+      string(MAKE_C_IDENTIFIER "in_${folder}" group)
+      set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${group})
     endforeach()
-  endif()
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ${CALTOFAL_UNITY} UNITY_BUILD_MODE GROUP)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+      # A type of a source file may well have members of types of its unnamed namespace.
+      target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+    endif()
+  endforeach()
 endfunction()

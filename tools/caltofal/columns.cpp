@@ -29,7 +29,7 @@ size_t columnNamed(const std::vector<std::string> &headings, const std::string &
     };
     const auto found = std::find_if(headings.begin(), headings.end(), begins);
     if (found == headings.end() || std::count_if(headings.begin(), headings.end(), begins) > 1) {
-        throw Usage("--columns: " + pages::quoted(name) +
+        throw Usage("--columns: " + pages::inQuotes(name) +
                     (found == headings.end() ? " is not a column" : " is the beginning of several columns") +
                     "; there are " + pages::joined(headings));
     }

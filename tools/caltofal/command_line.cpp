@@ -44,7 +44,7 @@ int secondsOf(const std::string &word) {
         return pages::checkedNumber(word, "--watch", 1, kWatchMax);
     } catch (const Usage &) {
         throw Usage("--watch takes whole seconds from 1 to " + std::to_string(kWatchMax) + ", not " +
-                    pages::quoted(word));
+                    pages::inQuotes(word));
     }
 }
 

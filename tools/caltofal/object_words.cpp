@@ -29,7 +29,7 @@ Object &startObject(std::vector<Object> &objects, const std::string &path) {
 
 void refuseStar(const std::string &path) {
     if (path.starts_with("*.") || path.ends_with(".*") || path.find(".*.") != std::string::npos) {
-        throw Usage(quoted(path) + ": \"*\" is for get alone");
+        throw Usage(inQuotes(path) + ": \"*\" is for get alone");
     }
 }
 

@@ -41,7 +41,7 @@ InterfaceName::InterfaceName(std::string name) : name_(std::move(name)) {
                        std::all_of(name_.begin(), name_.end(), mayFollow);
     if (!valid) {
         throw Usage(
-            quoted(name_) +
+            inQuotes(name_) +
             " is not an interface name: a letter, then at most 14 letters, digits, dots, underscores or dashes");
     }
 }
@@ -57,8 +57,8 @@ int checkedNumber(const std::string &text, const char *what, int least, int most
     int number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc() || end != text.data() + text.size() || number < least || number > most) {
-        throw Usage(std::string(what) + " " + quoted(text) + " is not a number from " + std::to_string(least) + " to " +
-                    std::to_string(most));
+        throw Usage(std::string(what) + " " + inQuotes(text) + " is not a number from " + std::to_string(least) +
+                    " to " + std::to_string(most));
     }
     return number;
 }
@@ -78,7 +78,7 @@ std::string checkedMac(const std::string &text) {
         result += between ? "" : (i > 0 && i % step == 0 ? ":" : "") + text.substr(i, 1);
     }
     if (!valid || isValidMacAddress(result.c_str()) == 0) {
-        throw Usage(quoted(text) + " is not a MAC address: six pairs of digits, joined by colons, dashes or nothing");
+        throw Usage(inQuotes(text) + " is not a MAC address: six pairs of digits, joined by colons, dashes or nothing");
     }
     return result;
 }

@@ -58,7 +58,7 @@ class Watch {
         } else if (event == Event::object_end) {
             names_.pop_back();
         } else if (event == Event::key && !names_.back().insert(parsed.get<std::string>()).second) {
-            throw Usage(pages::quoted(parsed.get<std::string>()) + " is given twice");
+            throw Usage(pages::inQuotes(parsed.get<std::string>()) + " is given twice");
         }
         return true;
     }

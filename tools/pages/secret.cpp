@@ -93,7 +93,7 @@ std::string withoutSecrets(std::string line) {
 
 void refuseHidden(std::string_view parameter, std::string_view value) {
     if (value == kHidden && isSecret(parameter)) {
-        throw Usage(std::string(parameter) + ": " + quoted(kHidden) + " stands in place of a secret and is none");
+        throw Usage(std::string(parameter) + ": " + inQuotes(kHidden) + " stands in place of a secret and is none");
     }
 }
 

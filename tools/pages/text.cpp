@@ -82,7 +82,7 @@ std::string hexOf(std::string_view text) {
     return hex;
 }
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
     return '"' + std::string(text.substr(0, kQuotedMax)) + '"';
 }
 

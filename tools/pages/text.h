@@ -19,7 +19,7 @@ bool isUtf8(std::string_view text);
 std::string hexOf(std::string_view text);
 
 // A text of the outside as a message quotes it: its first 40 bytes in quotation marks.
-std::string quoted(std::string_view text);
+std::string inQuotes(std::string_view text);
 
 // Texts with ", " between them.
 template <class Texts>

@@ -20,10 +20,10 @@ std::string valueText(const std::string &name, const Value &value) {
         return pages::toJson(value);
     }
     if (!value.isText()) {
-        throw Usage(pages::quoted(name) + ": a value is a text, a number, true or false");
+        throw Usage(pages::inQuotes(name) + ": a value is a text, a number, true or false");
     }
     if (value.text().find('\0') != std::string::npos) {
-        throw Usage(pages::quoted(name) + ": a text cannot hold a NUL");
+        throw Usage(pages::inQuotes(name) + ": a text cannot hold a NUL");
     }
     return value.text();
 }
@@ -46,7 +46,7 @@ std::vector<pages::Parameter> parametersOf(const Value &object) {
     std::vector<pages::Parameter> result;
     for (const auto &[name, value] : object.members()) {
         if (!isName(name)) {
-            throw Usage(pages::quoted(name) + " is not a parameter's name");
+            throw Usage(pages::inQuotes(name) + " is not a parameter's name");
         }
         result.push_back({name, valueText(name, value)});
     }
@@ -60,13 +60,13 @@ std::vector<pages::Object> objectsOf(const Value &object) {
     std::vector<pages::Object> result;
     for (const auto &[path, values] : object.members()) {
         if (!path.starts_with("Device.") || !isName(path) || !values.isObject()) {
-            throw Usage(pages::quoted(path) + R"(: give {"Device.OBJECT.": {"NAME": VALUE}})");
+            throw Usage(pages::inQuotes(path) + R"(: give {"Device.OBJECT.": {"NAME": VALUE}})");
         }
         const bool twice = std::any_of(result.begin(), result.end(), [&path = path](const pages::Object &other) {
             return pages::withoutDot(other.name) == pages::withoutDot(path);
         });
         if (twice) {
-            throw Usage(pages::quoted(path) + " is given twice");
+            throw Usage(pages::inQuotes(path) + " is given twice");
         }
         result.push_back({pages::checkedPath(path), parametersOf(values)});
     }
@@ -87,7 +87,7 @@ std::string textOf(const Value &object, std::string_view name) {
 void allowMembers(const Value &object, std::initializer_list<std::string_view> names) {
     for (const auto &[name, value] : object.members()) {
         if (std::find(names.begin(), names.end(), name) == names.end()) {
-            throw Usage(pages::quoted(name) + " is not understood here");
+            throw Usage(pages::inQuotes(name) + " is not understood here");
         }
     }
 }

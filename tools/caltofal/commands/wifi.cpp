@@ -112,7 +112,7 @@ Show prepareWpsStart(const Arguments &given) {
 Show prepareConvert(const Arguments &given) {
     const std::string to = given.given("--to") ? given.word("--to") : "ui";
     if (to != "ui" && to != "fapi") {
-        throw Usage("--to is ui or fapi, not " + quoted(to));
+        throw Usage("--to is ui or fapi, not " + inQuotes(to));
     }
     if (!given.given("TABLE")) {
         return wifi::conversions;

@@ -123,7 +123,7 @@ std::optional<Line> parameterOf(std::string_view text) {
         text.remove_prefix(std::min(length + 1, text.size()));
     }
     if (dot == std::string_view::npos || !text.starts_with('=')) {
-        throw Usage(quoted(whole) + " is not a line of a gateway file");
+        throw Usage(inQuotes(whole) + " is not a line of a gateway file");
     }
     line.value = unescaped(text.substr(std::min<size_t>(2, text.size())));
     return line;

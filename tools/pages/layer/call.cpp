@@ -55,21 +55,21 @@ void tellHidden(std::span<const Request> asked) {
     }
 }
 
-thread_local HiddenFailures *innermost = nullptr;
+thread_local HiddenFailures *innermostFailures = nullptr;
 
 } // namespace
 
-HiddenFailures::HiddenFailures() : outer_(innermost) {
-    innermost = this;
+HiddenFailures::HiddenFailures() : outer_(innermostFailures) {
+    innermostFailures = this;
 }
 
 HiddenFailures::~HiddenFailures() {
-    innermost = outer_;
+    innermostFailures = outer_;
 }
 
 void HiddenFailures::note(const std::string &line) {
-    if (innermost) {
-        innermost->notes_.push_back(line);
+    if (innermostFailures) {
+        innermostFailures->notes_.push_back(line);
     }
 }
 

@@ -8,7 +8,7 @@
 namespace pages {
 namespace {
 
-thread_local LeftMessages *innermost = nullptr;
+thread_local LeftMessages *innermostMessages = nullptr;
 
 int releaseReal(MsgHeader *message, int what) {
     using Release = int (*)(MsgHeader *, int);
@@ -18,12 +18,12 @@ int releaseReal(MsgHeader *message, int what) {
 
 } // namespace
 
-LeftMessages::LeftMessages() : outer_(innermost) {
-    innermost = this;
+LeftMessages::LeftMessages() : outer_(innermostMessages) {
+    innermostMessages = this;
 }
 
 LeftMessages::~LeftMessages() {
-    innermost = outer_;
+    innermostMessages = outer_;
     for (MsgHeader &message : messages_) {
         releaseReal(&message, 1);
     }
@@ -31,15 +31,16 @@ LeftMessages::~LeftMessages() {
 
 // A message is known by its list: its header may be gone, and another's be in the same place.
 void LeftMessages::forget(const MsgHeader &message) {
-    if (innermost && message.objectList) {
-        std::erase_if(innermost->messages_, [&](const MsgHeader &one) { return one.objectList == message.objectList; });
+    if (innermostMessages && message.objectList) {
+        std::erase_if(innermostMessages->messages_,
+                      [&](const MsgHeader &one) { return one.objectList == message.objectList; });
     }
 }
 
 void LeftMessages::note(const MsgHeader &message) {
-    if (innermost && message.objectList) {
+    if (innermostMessages && message.objectList) {
         forget(message);
-        innermost->messages_.push_back(message);
+        innermostMessages->messages_.push_back(message);
     }
 }
 

@@ -19,7 +19,7 @@ namespace {
 
 using LayerCall = int (*)(MsgHeader *);
 
-thread_local RequestLog *innermost = nullptr;
+thread_local RequestLog *innermostLog = nullptr;
 
 // What the sandbox's libcal says about the thread's last refusal. A device's has no such function.
 auto findReason() {
@@ -78,16 +78,16 @@ int passOn(const char *function, const char *verb, MsgHeader *message) {
 
 } // namespace
 
-RequestLog::RequestLog() : outer_(innermost) {
-    innermost = this;
+RequestLog::RequestLog() : outer_(innermostLog) {
+    innermostLog = this;
 }
 
 RequestLog::~RequestLog() {
-    innermost = outer_;
+    innermostLog = outer_;
 }
 
 void RequestLog::note(const Request &request) {
-    for (RequestLog *log = innermost; log; log = log->outer_) {
+    for (RequestLog *log = innermostLog; log; log = log->outer_) {
         log->requests_.push_back(request);
     }
 }

@@ -48,7 +48,7 @@ Page dns(const std::string &given) {
 Value server(const std::string &text, std::vector<std::string> &notes) {
     const bool address = zintu_isValidIPv4Address(text.c_str()) == 0 || validationCheck_IPv6Addr(text.c_str()) == 0;
     if (!text.empty() && !address) {
-        notes.push_back("DNS server " + quoted(text) + " is not an address: the record holds " +
+        notes.push_back("DNS server " + inQuotes(text) + " is not an address: the record holds " +
                         std::to_string(kAddressSize - 1) + " characters, a longer list is cut");
     }
     return text;

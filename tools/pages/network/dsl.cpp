@@ -7,7 +7,7 @@
 namespace pages {
 namespace {
 
-Value modes() {
+Value dslModes() {
     int32_t flags[10] = {};
     ask([&] { return ZintuGet_DslMode(flags); }, {"no DSL modes"});
     Value names = Value::list();
@@ -41,7 +41,7 @@ Page dsl() {
          {
              {"status", "Status", text(line.sStatus)},
              {"profile", "Profile", text(line.sCurrentProfile)},
-             {"modes", "Modes enabled", modes()},
+             {"modes", "Modes enabled", dslModes()},
          }},
         {"downstream", "Downstream",
          direction(line.nDownstreamCurrRate, line.nDownstreamMaxBitRate, line.nDownstreamNoiseMargin,

@@ -38,7 +38,7 @@ Value sectionOfDefaultGateway(std::vector<std::string> &notes) {
     }
 }
 
-std::vector<std::string> modes() {
+std::vector<std::string> modeWords() {
     std::vector<std::string> result;
     for (const Object &connection : get({{kConnections, {{"ConnMode"}}}}, Reading::Whole)) {
         const std::string mode = valueOf(connection, "ConnMode");
@@ -53,7 +53,7 @@ std::vector<std::string> modes() {
 
 Report connectionModes() {
     Report result{.json = Value::object({{"modes", Value::list()}})};
-    for (const std::string &mode : modes()) {
+    for (const std::string &mode : modeWords()) {
         result.json["modes"].push(mode);
         result.raw += mode + "\n";
     }
@@ -61,10 +61,11 @@ Report connectionModes() {
 }
 
 Report uciSectionOfMode(const std::string &mode) {
-    const std::vector<std::string> known = modes();
+    const std::vector<std::string> known = modeWords();
     if (std::find(known.begin(), known.end(), mode) == known.end()) {
         throw Failure(Category::Absent,
-                      "no WAN connection has the mode " + quoted(mode) + "; there are " + joined(known), kConnections);
+                      "no WAN connection has the mode " + inQuotes(mode) + "; there are " + joined(known),
+                      kConnections);
     }
     char section[kSectionSize] = "";
     ask([&] { return ZintuGet_UciSectionByConnMode(mode.c_str(), section); },

@@ -21,7 +21,7 @@ Value listOf(const std::vector<Object> &objects) {
     return list;
 }
 
-void refuseHidden(const std::vector<Object> &objects) {
+void refuseHiddenIn(const std::vector<Object> &objects) {
     for (const Object &object : objects) {
         for (const Parameter &parameter : object.parameters) {
             pages::refuseHidden(parameter.name, parameter.value);
@@ -50,14 +50,14 @@ Report set(const std::vector<Object> &objects, bool storeOnly) {
             throw Usage(object.name + ": nothing to set");
         }
     }
-    refuseHidden(objects);
+    refuseHiddenIn(objects);
     hintedChange(objects, Change::Set, storeOnly);
     return report("set", objects, storeOnly);
 }
 
 // The layer puts the new instances' names into the message.
 Report add(const std::vector<Object> &tables, bool storeOnly) {
-    refuseHidden(tables);
+    refuseHiddenIn(tables);
     const std::vector<Object> added = hintedChange(tables, Change::Add, storeOnly);
     Report result = report("added", added, storeOnly);
     for (const Object &object : added) {

@@ -22,7 +22,7 @@ Report find(const Search &search) {
                                         search.wanted.c_str(), object, value);
     };
     ask(call, {search.table + ": no instance whose " + search.filter + " is " +
-               quoted(shownText(search.filter, search.value)) + " has a parameter " + search.wanted});
+               inQuotes(shownText(search.filter, search.value)) + " has a parameter " + search.wanted});
     return pageOf({
         {"object", "Object", text(object)},
         {"value", search.wanted, shownValue(search.wanted, text(value))},

@@ -30,7 +30,7 @@ struct Converter {
 int numberIn(const std::string &value, int least, int most) {
     const size_t sign = value.starts_with('-') ? 1 : 0;
     if (value.size() == sign || value.find_first_not_of("0123456789", sign) != std::string::npos) {
-        throw Usage("value " + quoted(value) + " is not a number");
+        throw Usage("value " + inQuotes(value) + " is not a number");
     }
     int number = 0;
     const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
@@ -93,7 +93,7 @@ std::string integer(const std::string &value, bool /*toUi*/) {
     errno = 0;
     const long number = strtol(value.c_str(), nullptr, 10);
     if (errno == ERANGE || number < INT_MIN || number > INT_MAX) {
-        throw Failure(Category::Refused, "the number of " + quoted(value) + " is too large");
+        throw Failure(Category::Refused, "the number of " + inQuotes(value) + " is too large");
     }
     return std::to_string(ConvInt(value.c_str()));
 }
@@ -135,7 +135,7 @@ const Converter &converterNamed(const std::string &name) {
     const auto *const found = std::find_if(std::begin(kConverters), std::end(kConverters),
                                            [&](const Converter &one) { return one.name == name; });
     if (found == std::end(kConverters)) {
-        throw Usage(quoted(name) + " is not a conversion; caltofal wifi convert lists them");
+        throw Usage(inQuotes(name) + " is not a conversion; caltofal wifi convert lists them");
     }
     return *found;
 }
@@ -183,7 +183,8 @@ Report convert(const std::string &name, const std::string &value, bool toUi) {
                                {"result", converter.number ? Value(ConvInt(converted.c_str())) : Value(converted)}}),
         .raw = converted + "\n"};
     if (!converter.pairs.empty() && !isWordOf(converter, value, toUi)) {
-        result.notes.push_back(quoted(value) + " is not a word of " + name + ": this is what the library makes of it");
+        result.notes.push_back(inQuotes(value) + " is not a word of " + name +
+                               ": this is what the library makes of it");
     }
     return result;
 }

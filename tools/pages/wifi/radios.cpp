@@ -54,7 +54,7 @@ Value clientsOf(int radio) {
     return countedClientsOf(radio);
 }
 
-Value jsonOf(const Object &radio) {
+Value radioJson(const Object &radio) {
     const int number = instanceOf(radio.name);
     const std::string width = valueOf(radio, "OperatingChannelBandwidth");
     const std::string standards = valueOf(radio, "OperatingStandards");
@@ -73,7 +73,7 @@ Value jsonOf(const Object &radio) {
     return json;
 }
 
-Row rowOf(const Value &radio) {
+Row radioRow(const Value &radio) {
     Row row = pages::rowOf(
         radio, {"radio", "interface", "band", "status", "channel", "bandwidth_mhz", "standards", "clients"});
     row[3].style = radio["status"] == "Up" ? Style::Good : radio["status"] == "" ? Style::Plain : Style::Bad;
@@ -98,8 +98,8 @@ Report radios() {
                                            {"OperatingChannelBandwidth"},
                                            {"OperatingStandards"}};
     for (const Object &radio : instancesOf("Device.WiFi.Radio", wanted)) {
-        const Value json = jsonOf(radio);
-        result.table.rows.push_back(rowOf(json));
+        const Value json = radioJson(radio);
+        result.table.rows.push_back(radioRow(json));
         result.json["radios"].push(json);
     }
     return result;

@@ -14,7 +14,7 @@
 namespace pages::wifi {
 namespace {
 
-using Convert = const char *(*)(const char *text, int direction);
+using ConvertWord = const char *(*)(const char *text, int direction);
 
 const char *convertSecurity(const char *text, int direction) {
     constexpr int kRows = std::size(SecurityType_FapiToUi_Table);
@@ -25,13 +25,13 @@ const char *convertSecurity(const char *text, int direction) {
 // The library has these in no table.
 constexpr PairRow kPowerWords[] = {{"100", "high"}, {"50", "medium"}, {"25", "low"}};
 
-struct Words {
+struct WordedSetting {
     std::string_view parameter;
-    Convert convert;
+    ConvertWord convert;
     std::span<const PairRow> pairs; // all words that there are
 };
 
-const Words kConverters[] = {
+const WordedSetting kWordedSettings[] = {
     {"Dot11nProtection", Dot11nProtect_ConvStr, Dot11nProtect_FapiToUi_Table},
     {"ExtensionChannel", ExtensionChannel_ConvStr, SideBand_FapiToUi_Table},
     {"GuardInterval", ShortGuardInterval_ConvStr, ShortGuardInterval_FapiToUi_Table},
@@ -43,14 +43,15 @@ const Words kConverters[] = {
     {"X_ZINTU_WMMOption", WMMOption_ConvStr, WMM_Option_FapiToUi_Table},
 };
 
-const Words *converterOf(const std::string &parameter) {
-    const Words *const found = std::find_if(std::begin(kConverters), std::end(kConverters),
-                                            [&](const Words &row) { return row.parameter == parameter; });
-    return found == std::end(kConverters) ? nullptr : found;
+const WordedSetting *converterOf(const std::string &parameter) {
+    const WordedSetting *const found =
+        std::find_if(std::begin(kWordedSettings), std::end(kWordedSettings),
+                     [&](const WordedSetting &row) { return row.parameter == parameter; });
+    return found == std::end(kWordedSettings) ? nullptr : found;
 }
 
 // The library passes unknown words on, or takes them for its first one.
-void checkWord(const Words &row, const std::string &word) {
+void checkWord(const WordedSetting &row, const std::string &word) {
     std::vector<std::string> words; // several values may have one word
     for (const PairRow &pair : row.pairs) {
         const std::string known = text(pair.sSecond);
@@ -61,7 +62,7 @@ void checkWord(const Words &row, const std::string &word) {
             words.push_back(known);
         }
     }
-    throw Failure(Category::Refused, std::string(row.parameter) + ": " + quoted(word) +
+    throw Failure(Category::Refused, std::string(row.parameter) + ": " + inQuotes(word) +
                                          " is not a word of the user interface; there are " + joined(words));
 }
 
@@ -73,18 +74,18 @@ std::string lastPart(const std::string &object) {
 
 Subject subjectOf(const std::string &word) {
     if (word != "ssid" && word != "radio") {
-        throw Usage(quoted(word) + " is neither ssid nor radio");
+        throw Usage(inQuotes(word) + " is neither ssid nor radio");
     }
     return word == "ssid" ? Subject::Ssid : Subject::Radio;
 }
 
 std::string uiWord(const std::string &parameter, const std::string &value) {
-    const Words *row = converterOf(parameter);
+    const WordedSetting *row = converterOf(parameter);
     return row ? row->convert(value.c_str(), 1) : value;
 }
 
 std::string fapiWord(const std::string &parameter, const std::string &value) {
-    const Words *row = converterOf(parameter);
+    const WordedSetting *row = converterOf(parameter);
     if (!row) {
         return value;
     }

@@ -7,7 +7,7 @@
 namespace pages::wifi {
 namespace {
 
-Value jsonOf(const Object &ssid) {
+Value ssidJson(const Object &ssid) {
     const int radio = radioOf(ssid);
     Value json = Value::object({{"number", instanceOf(ssid.name)}});
     json["interface"] = valueOf(ssid, "Name");
@@ -28,9 +28,9 @@ Report ssids() {
     const std::vector<Parameter> wanted = {{"Name"},   {"LowerLayers"},   {"SSID"}, {"BSSID"}, {"X_ZINTU_NetworkType"},
                                            {"Enable"}, {"X_ZINTU_Active"}};
     for (const Object &ssid : instancesOf("Device.WiFi.SSID", wanted)) {
-        const Value json = jsonOf(ssid);
+        const Value json = ssidJson(ssid);
         result.table.rows.push_back(
-            rowOf(json, {"number", "interface", "radio", "ssid", "bssid", "network", "enabled", "active"}));
+            pages::rowOf(json, {"number", "interface", "radio", "ssid", "bssid", "network", "enabled", "active"}));
         result.json["ssids"].push(json);
     }
     return result;

@@ -28,7 +28,7 @@ Value jsonOf(const WifiStaEntry &station) {
     return json;
 }
 
-Row rowOf(const Value &station) {
+Row stationRow(const Value &station) {
     Row row = {cellOf(station["mac"]), signalCell(station["rssi_dbm"])};
     for (const Value &rssi : station["antennas_dbm"].items()) {
         row.push_back({readable(rssi)});
@@ -55,7 +55,7 @@ Report stations(const InterfaceName &interface, const std::string &mac) {
     result.table.headings = {"STATION", "SIGNAL DBM", "ANT1 DBM", "ANT2 DBM", "ANT3 DBM", "ANT4 DBM"};
     for (int i = 0; i < count; ++i) {
         const Value station = jsonOf(list.entries[i]);
-        result.table.rows.push_back(rowOf(station));
+        result.table.rows.push_back(stationRow(station));
         result.json["stations"].push(station);
     }
     if (count == 0) {

@@ -13,7 +13,7 @@
 namespace pages::wifi {
 namespace {
 
-constexpr int kFapiToUi = 1; // direction of the library's converters
+constexpr int kToUi = 1; // direction of the library's converters
 
 ChartedNetwork networkOf(const Value &json) {
     return {.channel = static_cast<int>(json["channel"].whole()),
@@ -29,12 +29,10 @@ std::vector<ChartedNetwork> ownRadios() {
     const std::vector<Parameter> wanted = {
         {"Name"}, {"Enable"}, {"Channel"}, {"OperatingChannelBandwidth"}, {"ExtensionChannel"}};
     for (const Object &radio : instancesOf("Device.WiFi.Radio", wanted)) {
-        const Value width =
-            typed("", BandWidth_ConvStr(valueOf(radio, "OperatingChannelBandwidth").c_str(), kFapiToUi));
+        const Value width = typed("", BandWidth_ConvStr(valueOf(radio, "OperatingChannelBandwidth").c_str(), kToUi));
         const ChartedNetwork own = {.channel = ConvInt(valueOf(radio, "Channel").c_str()),
                                     .width = width.isNumber() ? static_cast<int>(width.whole()) : 20,
-                                    .side =
-                                        ExtensionChannel_ConvStr(valueOf(radio, "ExtensionChannel").c_str(), kFapiToUi),
+                                    .side = ExtensionChannel_ConvStr(valueOf(radio, "ExtensionChannel").c_str(), kToUi),
                                     .dbm = {},
                                     .name = valueOf(radio, "Name")};
         if (own.channel > 0 && flagOf(valueOf(radio, "Enable")) != Value(false)) {

@@ -34,7 +34,7 @@ Report fromHex(const std::string &given) {
     const bool valid = given.size() % 2 == 0 &&
                        std::all_of(given.begin(), given.end(), [](unsigned char c) { return isxdigit(c) != 0; });
     if (!valid) {
-        throw Usage(quoted(given) + " is not a row of pairs of hexadecimal digits");
+        throw Usage(inQuotes(given) + " is not a row of pairs of hexadecimal digits");
     }
     std::vector<char> bytes(given.size() / 2 + 1);
     ConvHexDecToCharStr(given.c_str(), bytes.data());
