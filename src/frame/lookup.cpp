@@ -54,24 +54,24 @@ const char *findValue(const MsgHeader &answer, const char *name) {
     return nullptr;
 }
 
-const char *lookUp(ObjectNode &object, const char *name) {
+const char *findOrTrace(ObjectNode &object, const char *name) {
     const char *value = nullptr;
     zintu_GetParamFromObjUnit(&object, name, &value);
     return value;
 }
 
-const char *lookUp(const MsgHeader &answer, const char *name) {
+const char *findOrTrace(const MsgHeader &answer, const char *name) {
     for (ObjectNode &object : objects(answer)) {
-        if (const char *value = lookUp(object, name)) {
+        if (const char *value = findOrTrace(object, name)) {
             return value;
         }
     }
     return nullptr;
 }
 
-void lookUp(ObjectNode &object, std::span<const char *const> names, const char **values) {
+void findOrTrace(ObjectNode &object, std::span<const char *const> names, const char **values) {
     for (size_t i = 0; i < names.size(); ++i) {
-        values[i] = lookUp(object, names[i]);
+        values[i] = findOrTrace(object, names[i]);
     }
 }
 

@@ -56,11 +56,11 @@ const char *lastValue(const MsgHeader &answer, const char *name, const char *oth
 // The first value of a parameter in the objects of an answer, or nullptr.
 const char *findValue(const MsgHeader &answer, const char *name);
 
-// As findValue(), with zintu_GetParamFromObjUnit()'s trace for each object that has no such parameter.
-const char *lookUp(ObjectNode &object, const char *name);
-const char *lookUp(const MsgHeader &answer, const char *name);
+// As findValue(), through zintu_GetParamFromObjUnit(): each object that has no such parameter is traced to the console.
+const char *findOrTrace(ObjectNode &object, const char *name);
+const char *findOrTrace(const MsgHeader &answer, const char *name);
 
 // The object's value of each name, or nullptr with a trace, into `values`, which has as many entries as `names`.
-void lookUp(ObjectNode &object, std::span<const char *const> names, const char **values);
+void findOrTrace(ObjectNode &object, std::span<const char *const> names, const char **values);
 
 } // namespace frame

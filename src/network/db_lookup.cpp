@@ -46,7 +46,7 @@ Outcome find(const Query &query, char *outObjectName, char *outValue) {
         return kError;
     }
     for (ObjectNode &object : objects(*message)) {
-        const char *value = lookUp(object, query.wantedParam);
+        const char *value = findOrTrace(object, query.wantedParam);
         if (!value) {
             continue;
         }

@@ -157,7 +157,7 @@ int readGateway(const Summary &summary) {
         enum : uint8_t { kGateway, kOrigin, kCount };
         constexpr const char *kNames[kCount] = {"GatewayIPAddress", "Origin"};
         const char *values[kCount];
-        lookUp(entry, kNames, values);
+        findOrTrace(entry, kNames, values);
         if (const char *gateway = gatewayOf(values[kGateway], values[kOrigin])) {
             copyText(info.sGateway, gateway);
         }

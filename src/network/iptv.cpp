@@ -29,7 +29,7 @@ void takeBridge(ObjectNode &bridge, State &state) {
     enum : uint8_t { kDescription, kMemberPort, kCount };
     constexpr const char *kNames[kCount] = {"Description", "MemberPort"};
     const char *values[kCount];
-    lookUp(bridge, kNames, values);
+    findOrTrace(bridge, kNames, values);
     if (values[kDescription] && values[kMemberPort] && beginsWith(values[kDescription], "IPTV")) {
         state.iptv = *values[kMemberPort] ? 1 : 0;
     }
@@ -40,7 +40,7 @@ void take(ObjectNode &object, State &state) {
     if (beginsWith(object.name, "Device.X_ZINTU_Multi_Bridge.Bridge.")) {
         takeBridge(object, state);
     } else if (beginsWith(object.name, "Device.X_ZINTU_Multi_Bridge.")) {
-        if (const char *enable = lookUp(object, "Enable")) {
+        if (const char *enable = findOrTrace(object, "Enable")) {
             state.enable = isOn(enable) ? 1 : 0;
         }
     }

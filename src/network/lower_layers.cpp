@@ -24,7 +24,7 @@ int32_t ZintuGet_LowerLayers(const char *object, char *lowerLayers) {
     if (code != 0) {
         return traceFailure(code, "faltocal_SendMultiObj is Failure \n");
     }
-    if (const char *value = lookUp(*message, "LowerLayers")) {
+    if (const char *value = findOrTrace(*message, "LowerLayers")) {
         copyPadded(lowerLayers, kNameSize, value);
     }
     return 0;

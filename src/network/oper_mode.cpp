@@ -17,7 +17,7 @@ int32_t ZintuGet_OperMode(void) {
         return traceFailure(code, "faltocal_send_main is Failure \n");
     }
     for (ObjectNode &object : objects(*message)) {
-        const char *mode = lookUp(object, "OperationMode");
+        const char *mode = findOrTrace(object, "OperationMode");
         if (mode && *mode) {
             return number(mode);
         }

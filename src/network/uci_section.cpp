@@ -41,11 +41,11 @@ bool readParam(const char *object, const char *param, char (&value)[kSectionSize
 // The section of the first connection of that name that has one.
 const char *sectionOfConnection(Message &message, const char *connectionName) {
     for (ObjectNode &object : objects(*message)) {
-        const char *name = lookUp(object, "ConnectionName");
+        const char *name = findOrTrace(object, "ConnectionName");
         if (!name || strcmp(name, connectionName) != 0) {
             continue;
         }
-        const char *section = lookUp(object, "UciSection");
+        const char *section = findOrTrace(object, "UciSection");
         if (section && *section) {
             return section;
         }
@@ -68,11 +68,11 @@ int32_t ZintuGet_UciSectionByConnMode(const char *connMode, char *uciSection) {
         return traceFailure(code, "faltocal_SendMultiObj is Failure\n");
     }
     for (ObjectNode &object : objects(*message)) {
-        const char *mode = lookUp(object, "ConnMode");
+        const char *mode = findOrTrace(object, "ConnMode");
         if (!mode || !beginsWith(mode, connMode)) {
             continue;
         }
-        const char *section = lookUp(object, "UciSection");
+        const char *section = findOrTrace(object, "UciSection");
         if (section && *section) {
             copyText(uciSection, kSectionSize, section);
             return 0;

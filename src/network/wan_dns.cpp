@@ -27,7 +27,7 @@ const char *receivedServers(ObjectNode &client, const InterfacePath &interface) 
     enum : uint8_t { kEnable, kStatus, kInterface, kServers, kCount };
     constexpr const char *kNames[kCount] = {"Enable", "Status", "Interface", "DNSServers"};
     const char *values[kCount];
-    lookUp(client, kNames, values);
+    findOrTrace(client, kNames, values);
     const bool taken = values[kEnable] && values[kStatus] && values[kInterface] && values[kServers] &&
                        isOn(values[kEnable]) && beginsWithAnyCase(values[kStatus], "Enabled") &&
                        interface.is(values[kInterface]) && isIpv4Text(values[kServers]);
@@ -62,7 +62,7 @@ const char *enabledServer(ObjectNode &server, const InterfacePath &interface) {
     enum : uint8_t { kEnable, kStatus, kInterface, kAddress, kCount };
     constexpr const char *kNames[kCount] = {"Enable", "Status", "Interface", "DNSServer"};
     const char *values[kCount];
-    lookUp(server, kNames, values);
+    findOrTrace(server, kNames, values);
     const bool counts = values[kEnable] && values[kStatus] && values[kInterface] && values[kAddress] &&
                         isOn(values[kEnable]) && interface.is(values[kInterface]) && isIpv4Text(values[kAddress]);
     return counts ? values[kAddress] : nullptr;
@@ -73,7 +73,7 @@ const char *staticServer(ObjectNode &server, const InterfacePath &interface) {
     enum : uint8_t { kInterface, kAddress, kType, kCount };
     constexpr const char *kNames[kCount] = {"Interface", "DNSServer", "Type"};
     const char *values[kCount];
-    lookUp(server, kNames, values);
+    findOrTrace(server, kNames, values);
     const bool counts = values[kInterface] && values[kAddress] && values[kType] &&
                         beginsWithAnyCase(values[kType], "Static") && interface.is(values[kInterface]) &&
                         isIpv4Text(values[kAddress]);

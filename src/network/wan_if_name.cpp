@@ -27,7 +27,7 @@ int32_t readName(char *ifName) {
     if (code != 0) {
         return traceFailure(code, "faltocal_SendMultiObj is Failure \n", {2018, kFunction});
     }
-    const char *name = lookUp(*message, "Name");
+    const char *name = findOrTrace(*message, "Name");
     if (!name || !*name) {
         traceVola({Unit::NetworkGet, 2031, kFunction}, "Can't find WanIfName\n");
         return -1;

@@ -78,7 +78,7 @@ TEST_F(Lookup, ManyAtOnceAnswersAndTracesAsOneByOne) {
     answer({object("D.", {"B=b", "X=x", "A=a", "A=again"})});
     const char *const names[] = {"A", "Gone", "B", "Lost"};
     const char *values[4];
-    frame::lookUp(first(), names, values);
+    frame::findOrTrace(first(), names, values);
     const std::string atOnce = takeConsole();
     for (size_t i = 0; i < std::size(names); ++i) {
         const char *single = nullptr;
