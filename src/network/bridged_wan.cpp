@@ -3,7 +3,7 @@
 #include "frame/lookup.h"
 #include "frame/range.h"
 #include "frame/text.h"
-#include "network/forwarding.h"
+#include "network/ipv4_forwarding.h"
 #include "network/request.h"
 
 #include <cstring>

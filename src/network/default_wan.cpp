@@ -4,9 +4,9 @@
 #include "frame/range.h"
 #include "frame/text.h"
 #include "frame/trace.h"
-#include "network/forwarding.h"
-#include "network/interface_path.h"
+#include "network/ipv4_forwarding.h"
 #include "network/pages.h"
+#include "network/path.h"
 #include "network/request.h"
 
 #include <cstring>

@@ -4,7 +4,7 @@
 #include "frame/range.h"
 #include "frame/text.h"
 #include "frame/trace.h"
-#include "network/interface_path.h"
+#include "network/path.h"
 #include "network/request.h"
 
 #include <cstring>

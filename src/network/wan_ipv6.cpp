@@ -2,7 +2,7 @@
 // The IPv6 block of the default WAN summary.
 #include "frame/lookup.h"
 #include "frame/text.h"
-#include "network/interface_path.h"
+#include "network/path.h"
 #include "network/request.h"
 
 #include <cstring>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "network/forwarding.h"
+#include "network/ipv4_forwarding.h"
 
 #include "frame/text.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "network/interface_path.h"
+#include "network/path.h"
 
 #include "caltofal.h"
 #include "frame/text.h"
