@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Interface paths that compare equal with and without their final dot.
+// The paths of objects: put together from parts, and those of interfaces, which are equal with and without a final dot.
 #pragma once
 
 #include "caltofal.h"
