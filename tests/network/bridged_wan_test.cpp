@@ -9,7 +9,7 @@ namespace {
 using BridgedWan = LibraryTest;
 constexpr char kInterface[] = "Device.IP.Interface.1.";
 constexpr char kAddress[] = "Device.IP.Interface.1.IPv4Address.1.";
-constexpr char kForwarding[] = "Device.Routing.Router.1.IPv4Forwarding.";
+constexpr char kBridgeForwarding[] = "Device.Routing.Router.1.IPv4Forwarding.";
 
 TEST_F(BridgedWan, UpOnlyWithADhcpAddress) {
     struct Row {
@@ -27,8 +27,8 @@ TEST_F(BridgedWan, UpOnlyWithADhcpAddress) {
         resetPlatform();
         platform().on(kInterface, {object("I", {"Name=br-lan"}), object("I", {"Name=no", "LowerLayers=below"})});
         platform().on(kAddress, {object("A", row.address)});
-        platform().on(kForwarding, {object("F", {"GatewayIPAddress=1.0.0.1", "Origin=DHCPv4"}),
-                                    object("F", {"GatewayIPAddress=1.0.0.2", "Origin=Static"})});
+        platform().on(kBridgeForwarding, {object("F", {"GatewayIPAddress=1.0.0.1", "Origin=DHCPv4"}),
+                                          object("F", {"GatewayIPAddress=1.0.0.2", "Origin=Static"})});
         ZintuWanInfo info = {};
         info.nVlanID = info.bVlanEnable = info.nWanIpIfIndex = 5;
         info.bIpv6Enable = 1;
@@ -64,7 +64,7 @@ TEST_F(BridgedWan, FlagsAndResult) {
     EXPECT_EQ(-1, ZintuGet_BrWanInfo(6, &info));
     EXPECT_EQ('\0', info.sOperMode[0]);
     EXPECT_TRUE(platform().calls().empty());
-    platform().on(kForwarding, Reply{-208});
+    platform().on(kBridgeForwarding, Reply{-208});
     EXPECT_EQ(-208, ZintuGet_BrWanInfo(8, &info));
     EXPECT_STREQ("ethernet", info.sWanLinkType);
     EXPECT_STREQ("Down", info.sStatus);

@@ -5,7 +5,7 @@ using namespace test;
 
 namespace {
 
-constexpr char kNetwork[] = "Device.X_ZINTU_CurrentNetwork";
+constexpr char kWanNetwork[] = "Device.X_ZINTU_CurrentNetwork";
 constexpr char kForwarding[] = "Device.Routing.Router.1.IPv4Forwarding.";
 constexpr char kPpp[] = "Device.PPP.Interface.1";
 constexpr char kVlan[] = "Device.Ethernet.VLANTermination.2";
@@ -19,10 +19,10 @@ class DefaultWan : public LibraryTest {
     }
 
     int32_t ask() {
-        platform().on(kNetwork,
+        platform().on(kWanNetwork,
                       {object("N", {"WanIpInterface=Device.IP.Interface.3", "WanIpType=" + ipType,
                                     "Ipv4Mode=" + ipv4Mode, "PppStaticDNS1=" + dns1, "PppStaticDNS2=" + dns2})});
-        platform().on(kNetwork, {object("N", {"WanIpv6Type=" + ipv6Type})});
+        platform().on(kWanNetwork, {object("N", {"WanIpv6Type=" + ipv6Type})});
         platform().on("Device.IP.Interface.3", {object("I", interface), object("below", {"Status=Down", "Name=no"})});
         platform().on("Device.IP.Interface.3.IPv4Address",
                       {object("A", {"AddressingType=" + addressing, "IPAddress=192.0.2.10", "SubnetMask=255.255.255.0",

@@ -9,7 +9,7 @@ using namespace test;
 namespace {
 
 using Dsl = LibraryTest;
-constexpr char kNetwork[] = "Device.X_ZINTU_CurrentNetwork";
+constexpr char kDslNetwork[] = "Device.X_ZINTU_CurrentNetwork";
 
 TEST_F(Dsl, Line) {
     platform().on("Device.DSL.Line.1.",
@@ -131,7 +131,7 @@ TEST_F(Dsl, PrefixDelegation) {
         {{}, 0},
     };
     for (const Row &row : rows) {
-        platform().on(kNetwork, row.answer);
+        platform().on(kDslNetwork, row.answer);
         EXPECT_EQ(row.expected, ZintuGet_IPv6PD());
     }
     EXPECT_EQ(-1, ZintuGet_IPv6PD());

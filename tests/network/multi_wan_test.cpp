@@ -10,7 +10,7 @@ namespace {
 
 using MultiWan = LibraryTest;
 constexpr char kMultiWan[] = "Device.X_LANTIQ_COM_Multiwan.";
-constexpr char kConnection[] = "Device.X_LANTIQ_COM_NwHardware.WANConnection";
+constexpr char kMultiWanConnection[] = "Device.X_LANTIQ_COM_NwHardware.WANConnection";
 constexpr char kBridge[] = "Device.X_ZINTU_Multi_Bridge.";
 
 std::vector<Object> multiWan(const std::string &type, const std::string &first, const std::string &second) {
@@ -34,7 +34,7 @@ TEST_F(MultiWan, Kinds) {
         resetPlatform();
         platform().on(kMultiWan, multiWan("FailOverX", row.interface, "w901"));
         if (row.mode && *row.mode) {
-            platform().on(kConnection, {object("C"), object("C", {std::string("ConnMode=") + row.mode})});
+            platform().on(kMultiWanConnection, {object("C"), object("C", {std::string("ConnMode=") + row.mode})});
         }
         ZintuMultiWanInfo info = {};
         EXPECT_EQ(0, ZintuGet_MultiWanInfo(&info));
@@ -46,7 +46,7 @@ TEST_F(MultiWan, Kinds) {
         EXPECT_STREQ("w901", info.sWan2Interface);
         ASSERT_EQ(row.mode ? 2U : 1U, platform().calls().size());
         if (row.mode) {
-            EXPECT_EQ("getValue 1/0x100/2 " + std::string(kConnection) + "(UciSection=" + row.interface + ")",
+            EXPECT_EQ("getValue 1/0x100/2 " + std::string(kMultiWanConnection) + "(UciSection=" + row.interface + ")",
                       platform().callTexts()[1]);
         }
     }

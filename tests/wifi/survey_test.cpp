@@ -7,7 +7,7 @@ namespace {
 
 using Survey = WifiTest;
 
-constexpr char kFile[] = "/tmp/wlan_wave/wlan0_scan_by_User.result";
+constexpr char kSurveyFile[] = "/tmp/wlan_wave/wlan0_scan_by_User.result";
 
 // What reading a file leaves: its entries, and what is printed about the lines that are not entries.
 struct Result {
@@ -28,7 +28,7 @@ std::string text(const SiteSurveyEntry &e) {
 Result read(const char *filter) {
     SiteSurveyList list = {0, nullptr};
     testing::internal::CaptureStdout();
-    const int count = GetSiteSurveyList(kFile, &list, filter);
+    const int count = GetSiteSurveyList(kSurveyFile, &list, filter);
     Result result = {"", testing::internal::GetCapturedStdout()};
     for (int i = 0; i < count; ++i) {
         result.entries += text(list.entries[i]);
@@ -77,8 +77,8 @@ TEST_F(Survey, LikeTheScanFormat) {
     std::mt19937 random(3); // NOLINT: the same files in every run
     for (int i = 0; i < 150; ++i) {
         const std::string content = randomText(random, kCharacters, pieces, random() % 400);
-        putFile(kFile, content);
-        ASSERT_EQ(linesOf(content, 1000).size(), GetFileLineCnt(kFile)) << ::testing::PrintToString(content);
+        putFile(kSurveyFile, content);
+        ASSERT_EQ(linesOf(content, 1000).size(), GetFileLineCnt(kSurveyFile)) << ::testing::PrintToString(content);
         const char *filter = i % 3 == 0 ? "Home" : "";
         const Result expected = readByScan(content, filter);
         const Result result = read(filter);
@@ -94,22 +94,22 @@ TEST_F(Survey, LongLineNeverLeavesTheArray) {
     for (int i = 0; i < 5; ++i) {
         content += std::string(127 - entry.size(), 'l') + entry;
     }
-    putFile(kFile, content + "\n");
+    putFile(kSurveyFile, content + "\n");
     EXPECT_EQ(1, std::ranges::count(read("").entries, '\n'));
 }
 
 TEST_F(Survey, CountThatIsNoIndex) {
-    putFile(kFile, "s\t6\t-60\tWPA2\tAES\tm\t40\tn\tupper\t1\n");
+    putFile(kSurveyFile, "s\t6\t-60\tWPA2\tAES\tm\t40\tn\tupper\t1\n");
     SiteSurveyList list = {-1, nullptr};
-    EXPECT_EQ(-1, GetSiteSurveyList(kFile, &list, ""));
+    EXPECT_EQ(-1, GetSiteSurveyList(kSurveyFile, &list, ""));
     free(list.entries);
 }
 
 TEST_F(Survey, ArrayThatCannotBeAddressed) {
-    putFile(kFile, std::string(5478276, '\n')); // entries for these take 304 bytes more than 32 bits can tell
+    putFile(kSurveyFile, std::string(5478276, '\n')); // entries for these take 304 bytes more than 32 bits can tell
     failOpen(2);
     SiteSurveyList list = {0, nullptr};
-    EXPECT_EQ(0, GetSiteSurveyList(kFile, &list, ""));
+    EXPECT_EQ(0, GetSiteSurveyList(kSurveyFile, &list, ""));
     const bool allocated = list.entries != nullptr;
     EXPECT_TRUE(console().ends_with(allocated ? " does not exist\n" : "fail to alloc memory"));
     EXPECT_FALSE(allocated && sizeof(size_t) == 4);
@@ -119,7 +119,7 @@ TEST_F(Survey, ArrayThatCannotBeAddressed) {
 TEST_F(Survey, ReportsAndFailures) {
     const std::string function = tag("GetSiteSurveyList");
     const std::string start = function + "START_FUNCTION \n";
-    putFile(kFile, "Home\t6\t-60\tWPA2\t\t00:11:22:33:44:55\t40\tn\tupper\t1\n");
+    putFile(kSurveyFile, "Home\t6\t-60\tWPA2\t\t00:11:22:33:44:55\t40\tn\tupper\t1\n");
     SiteSurveyEntry untouched;
     SiteSurveyList list = {5, &untouched};
     for (const auto &[path, report] :
@@ -132,7 +132,7 @@ TEST_F(Survey, ReportsAndFailures) {
     }
     EXPECT_EQ(&untouched, list.entries);
     failOpen(2); // it vanishes once its lines are counted
-    EXPECT_EQ(5, GetSiteSurveyList(kFile, &list, ""));
+    EXPECT_EQ(5, GetSiteSurveyList(kSurveyFile, &list, ""));
     EXPECT_EQ(start + function + "/tmp/wlan_wave/%s_scan_by_User.result does not exist\n", console());
     EXPECT_NE(&untouched, list.entries); // the caller's to free
     free(list.entries);
