@@ -11,7 +11,7 @@
 namespace sandbox {
 namespace {
 
-struct Options {
+struct ConsoleOptions {
     bool follow = false;
     bool messages = false;
 };
@@ -31,7 +31,7 @@ void print(const std::string &file) {
 } // namespace
 
 void addConsole(Command &root, Tool &tool) {
-    auto options = makeOptions<Options>();
+    auto options = makeOptions<ConsoleOptions>();
     Command command = root.add("console", "Print what was written to the device's console");
     command.flag("-f,--follow", options->follow, "Go on with what comes, up to Ctrl-C");
     command.flag("-m,--messages", options->messages, "The system log instead: the daemons' and libraries' lines");

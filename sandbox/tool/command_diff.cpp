@@ -62,14 +62,14 @@ std::vector<Difference> pending(Database &database) {
     return pendingDifferences(database);
 }
 
-struct Options {
+struct DiffOptions {
     std::string first, second;
 };
 
 } // namespace
 
 void addDiff(Command &root, Tool &tool) {
-    auto options = makeOptions<Options>();
+    auto options = makeOptions<DiffOptions>();
     Command command =
         root.add("diff", "Compare the running values of two gateways, or the running with the stored values of one");
     command.word("A", options->first, "The gateway", Need::Required);

@@ -11,7 +11,7 @@
 namespace sandbox {
 namespace {
 
-struct Options {
+struct ExportOptions {
     std::vector<std::string> arguments; // [NAME] [PATH]
     std::string format;
     bool stored = false;
@@ -26,7 +26,7 @@ bool isPath(const std::string &argument) {
 } // namespace
 
 void addExport(Command &root, Tool &tool) {
-    auto options = makeOptions<Options>();
+    auto options = makeOptions<ExportOptions>();
     Command command = root.add("export", "Write a gateway, or the branch at PATH, to standard output");
     command.words("NAME PATH", options->arguments, 2, "The gateway; the object to begin at");
     command.choice("--format", options->format, formatNames(), "tr181 (the default), csv or json");

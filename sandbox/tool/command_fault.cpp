@@ -16,7 +16,7 @@ namespace {
 constexpr int64_t kLateMax = 3'600'000; // an hour
 constexpr int64_t kNthMax = 1'000'000'000;
 
-struct Options {
+struct FaultOptions {
     std::string object;
     std::string operation;
     std::string code;
@@ -86,7 +86,7 @@ void inTransaction(const Tool &tool, Work work) {
 }
 
 void addFaultAdd(Command &group, Tool &tool) {
-    auto options = makeOptions<Options>();
+    auto options = makeOptions<FaultOptions>();
     Command command = group.add("add", "Make requests fail, or answer them late");
     command.word("OBJECT", options->object, "The object that is hit, with all below it; \"any\" for every one",
                  Need::Required);
@@ -118,7 +118,7 @@ void addFaultAdd(Command &group, Tool &tool) {
 }
 
 void addFaultList(Command &group, Tool &tool) {
-    auto options = makeOptions<Options>();
+    auto options = makeOptions<FaultOptions>();
     Command command = group.add("list", "Show the faults that are ordered");
     command.flag("--json", options->json, "As JSON");
     command.runs([&tool, options] {
@@ -134,7 +134,7 @@ void addFaultList(Command &group, Tool &tool) {
 }
 
 void addFaultClear(Command &group, Tool &tool) {
-    auto options = makeOptions<Options>();
+    auto options = makeOptions<FaultOptions>();
     Command command = group.add("clear", "Take a fault back, or all");
     command.number("ID", options->id, "The fault's number in the list");
     command.runs([&tool, options] {

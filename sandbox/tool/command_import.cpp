@@ -8,7 +8,7 @@
 namespace sandbox {
 namespace {
 
-struct Options {
+struct ImportOptions {
     std::string name;
     std::string file;
     std::string format;
@@ -20,7 +20,7 @@ ImportReport *reportOf(FileContent &content) {
     return content.report ? &*content.report : nullptr;
 }
 
-void merge(Database &database, FileContent &content, const Options &options) {
+void merge(Database &database, FileContent &content, const ImportOptions &options) {
     Transaction transaction(database, Transaction::Kind::Write);
     if (options.replace) {
         clearModel(database);
@@ -30,7 +30,7 @@ void merge(Database &database, FileContent &content, const Options &options) {
 }
 
 // True when the gateway was made of the file.
-bool importFile(const Location &location, FileContent &content, const Options &options) {
+bool importFile(const Location &location, FileContent &content, const ImportOptions &options) {
     const bool fromDemo = findDemo(location.name) && !options.replace;
     if (!fromDemo && createGateway(location, content.entries, options.file, reportOf(content))) {
         return true;
@@ -42,7 +42,7 @@ bool importFile(const Location &location, FileContent &content, const Options &o
 } // namespace
 
 void addImport(Command &root, Tool &tool) {
-    auto options = makeOptions<Options>();
+    auto options = makeOptions<ImportOptions>();
     Command command = root.add("import", "Merge a file into a gateway, which is made where it does not exist");
     command.word("NAME", options->name, "The gateway", Need::Required);
     command.word("FILE", options->file, "The file; - for standard input", Need::Required);

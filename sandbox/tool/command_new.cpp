@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char *kUsualDemo = "home";
 
-struct Options {
+struct NewOptions {
     std::string name;
     std::string from;
 };
@@ -52,7 +52,7 @@ FileContent contentFor(const std::string &name, const std::string &from) {
 } // namespace
 
 void addNew(Command &root, Tool &tool) {
-    auto options = makeOptions<Options>();
+    auto options = makeOptions<NewOptions>();
     Command command = root.add("new", "Make a gateway");
     command.word("NAME", options->name, R"(Its name: letters, digits, ".", "_" and "-")", Need::Required);
     command.option("--from", options->from, "GATEWAY|FILE",

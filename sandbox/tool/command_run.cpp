@@ -8,14 +8,14 @@
 namespace sandbox {
 namespace {
 
-struct Options {
+struct RunOptions {
     bool check = false;
     bool trace = false;
     bool recordedOnly = false;
     std::vector<std::string> shown;
 };
 
-void run(Tool &tool, const Options &options) {
+void run(Tool &tool, const RunOptions &options) {
     if (options.check) {
         enterBox(tool, options.shown, {"/bin/sh", "-c", "exit 0"});
         if (tool.exitCode == kDone) {
@@ -37,7 +37,7 @@ void run(Tool &tool, const Options &options) {
 } // namespace
 
 void addRun(Command &root, Tool &tool) {
-    auto options = makeOptions<Options>();
+    auto options = makeOptions<RunOptions>();
     Command command = root.add("run", "Run a program where the device's paths, tools and daemons are");
     command.flag("--check", options->check, "Only tell whether it can be done here");
     command.flag("--trace", options->trace, "Show each message to the configuration layer on standard error");

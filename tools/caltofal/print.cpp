@@ -19,7 +19,7 @@ using namespace pages;
 
 namespace {
 
-constexpr int kIndent = 2;
+constexpr int kNoteIndent = 2;
 
 bool colourWanted() {
     const char *noColour = getenv("NO_COLOR");
@@ -75,7 +75,7 @@ std::string linesOf(const Report &report, const Form &form, int indent) {
 }
 
 void print(const Report &report, const Form &form) {
-    std::cout << linesOf(report, form, kIndent);
+    std::cout << linesOf(report, form, kNoteIndent);
     flushOutput();
     printNotes(report);
 }

@@ -15,7 +15,7 @@ namespace cli {
 namespace {
 
 constexpr const char *kHome = "\x1b[H";
-constexpr const char *kClearLine = "\x1b[K";
+constexpr const char *kClearToEnd = "\x1b[K";
 constexpr const char *kClearBelow = "\x1b[J";
 
 // What is left of the lines on a screen of that many rows, its last one for the cursor; 0: as many as there are.
@@ -36,7 +36,7 @@ std::string fitting(const std::string &lines, size_t rows) {
 std::string inPlace(const std::string &lines) {
     std::string result = kHome;
     for (const char c : fitting(lines, screen().rows)) {
-        result += c == '\n' ? std::string(kClearLine) + c : std::string(1, c);
+        result += c == '\n' ? std::string(kClearToEnd) + c : std::string(1, c);
     }
     return result + kClearBelow;
 }

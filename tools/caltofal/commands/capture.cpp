@@ -49,7 +49,7 @@ Show prepareApply(const Arguments &given) {
     };
 }
 
-const Command kCommands[] = {
+const Command kCaptureCommands[] = {
     {"capture",
      "Write what the gateway holds as a file for the sandbox",
      "-g mesh\n"
@@ -73,7 +73,7 @@ const Command kCommands[] = {
 } // namespace
 
 std::span<const Command> captureCommands() {
-    return kCommands;
+    return kCaptureCommands;
 }
 
 } // namespace cli

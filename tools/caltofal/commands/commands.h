@@ -6,6 +6,12 @@
 
 namespace cli {
 
+// Shows a page that takes no arguments.
+template <auto page>
+Show just(const Arguments & /*none*/) {
+    return page;
+}
+
 std::span<const Command> networkCommands();
 std::span<const Command> objectCommands();
 std::span<const Command> wifiCommands();

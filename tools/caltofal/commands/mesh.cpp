@@ -29,7 +29,7 @@ Show prepareIp(const Arguments &given) {
     return [mac = checkedMac(given.word("MAC"))] { return mesh::ip(mac); };
 }
 
-const Command kVerbs[] = {
+const Command kMeshVerbs[] = {
     {"status", "Whether the mesh is on, and who belongs to it", "-g mesh", prepareStatus, {}, kDevice},
     {"enable", "Switch the mesh on", "", prepareSwitch<true>, {}, kActs},
     {"disable", "Switch the mesh off", "", prepareSwitch<false>, {}, kActs},
@@ -42,14 +42,14 @@ const Command kVerbs[] = {
      kDevice},
 };
 
-const Command kCommands[] = {
-    {"mesh", "The roaming mesh and its satellites", "status -g mesh", nullptr, {}, kPage, kVerbs},
+const Command kMeshCommands[] = {
+    {"mesh", "The roaming mesh and its satellites", "status -g mesh", nullptr, {}, kPage, kMeshVerbs},
 };
 
 } // namespace
 
 std::span<const Command> meshCommands() {
-    return kCommands;
+    return kMeshCommands;
 }
 
 } // namespace cli

@@ -9,11 +9,6 @@ namespace {
 
 using namespace pages;
 
-template <auto page>
-Show just(const Arguments & /*none*/) {
-    return page;
-}
-
 Show prepareWan(const Arguments &given) {
     if (given.given("--bridge") + given.given("--if-name") + given.given("--ethernet") > 1) {
         throw Usage("--bridge, --if-name and --ethernet exclude each other");
@@ -60,7 +55,7 @@ Show prepareAddress(const Arguments &given) {
     return [text = given.word("ADDRESS")] { return address(text); };
 }
 
-const Command kCommands[] = {
+const Command kNetworkCommands[] = {
     {"status", "All pages at a glance", "\n--json", just<status>},
     {"mode", "The operation mode", "", just<mode>},
     {"gateway",
@@ -115,7 +110,7 @@ const Command kCommands[] = {
 } // namespace
 
 std::span<const Command> networkCommands() {
-    return kCommands;
+    return kNetworkCommands;
 }
 
 } // namespace cli

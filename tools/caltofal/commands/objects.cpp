@@ -46,7 +46,7 @@ Show prepareFind(const Arguments &given) {
 
 constexpr Argument kDbOnly = {"--db-only", Take::Flag, "Store without applying: in force after the next start"};
 
-const Command kCommands[] = {
+const Command kObjectsCommands[] = {
     {"get",
      "Read objects or parameters",
      "Device.IP.Interface.1 Status Name\n"
@@ -100,7 +100,7 @@ const Command kCommands[] = {
 } // namespace
 
 std::span<const Command> objectCommands() {
-    return kCommands;
+    return kObjectsCommands;
 }
 
 } // namespace cli

@@ -21,11 +21,6 @@ std::chrono::milliseconds unitOf(const Arguments &given) {
     return std::chrono::milliseconds(word.empty() ? kSecond : checkedNumber(word, "--pace", 1, kUnitMax));
 }
 
-template <auto page>
-Show just(const Arguments & /*none*/) {
-    return page;
-}
-
 template <wifi::Subject subject>
 Show prepareSettings(const Arguments &given) {
     const int number = checkedInstance(given.word("NUMBER"), subject == wifi::Subject::Ssid ? "SSID" : "radio");
@@ -145,7 +140,7 @@ const Command kWpsVerbs[] = {
     {"reset", "Forget what WPS has configured", "", just<wifi::resetWps>, {}, kDevice | kActs},
 };
 
-const Command kVerbs[] = {
+const Command kWifiVerbs[] = {
     {"radios", "All radios, a line each", "", just<wifi::radios>},
     {"radio",
      "The settings of a radio and of its first access point",
@@ -251,20 +246,20 @@ const Command kVerbs[] = {
      kDevice | kActs},
 };
 
-const Command kCommands[] = {
+const Command kWifiCommands[] = {
     {"wifi",
      "Radios, SSIDs, stations, surveys, WPS, end points",
      "radios\nssid 1\nstations wlan2",
      nullptr,
      {},
      kPage,
-     kVerbs},
+     kWifiVerbs},
 };
 
 } // namespace
 
 std::span<const Command> wifiCommands() {
-    return kCommands;
+    return kWifiCommands;
 }
 
 } // namespace cli
