@@ -17,6 +17,7 @@ int main(int argc, char **argv) {
     std::atomic<long> made{0};
     std::atomic<bool> stop{false};
     std::vector<std::thread> makers;
+    makers.reserve(static_cast<size_t>(threads));
     for (int i = 0; i < threads; ++i) {
         makers.emplace_back([&] {
             while (!stop) {

@@ -10,7 +10,7 @@ namespace {
 // The library hands a host the number in network byte order: its bytes in memory are the same on every machine.
 std::string bytesInMemory(const std::string &address) {
     const uint32_t number = IPConvertTouint(address.c_str());
-    const std::string digits = hexOf({reinterpret_cast<const char *>(&number), sizeof number});
+    const std::string digits = hexOf({reinterpret_cast<const char *>(&number), sizeof(number)});
     std::string result = digits.substr(0, 2);
     for (size_t i = 2; i < digits.size(); i += 2) {
         result += " " + digits.substr(i, 2);
