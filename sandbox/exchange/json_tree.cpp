@@ -92,7 +92,11 @@ class Builder : public nlohmann::json_sax<json> {
     bool end_object() override { return close(); }
     bool end_array() override { return close(); }
     bool key(string_t &name) override {
-        name_ = repaired_ ? bytesRestored(std::move(name)) : std::move(name);
+        if (repaired_) {
+            name_ = bytesRestored(std::move(name));
+        } else {
+            name_ = std::move(name);
+        }
         return true;
     }
     bool parse_error(size_t /*position*/, const std::string & /*token*/, const json::exception & /*error*/) override {

@@ -82,7 +82,11 @@ class Conversion {
         try {
             Entry entry = entryFor(path);
             entry.line = row.line;
-            row.object ? takeObject(row, std::move(entry)) : takeValue(row, std::move(entry));
+            if (row.object) {
+                takeObject(row, std::move(entry));
+            } else {
+                takeValue(row, std::move(entry));
+            }
         } catch (const std::invalid_argument &error) {
             report_.count(Reason::BadPath, path + ": " + error.what());
         }
