@@ -88,7 +88,9 @@ function(caltofal_precompiled_options target)
   # Not by POSITION_INDEPENDENT_CODE, which means another option for a program than for a library.
   target_compile_options(${target} PRIVATE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
   # GCC 12, which then knows no longer that they are the system's, sees short texts overrun in their concatenations.
-  target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+  endif()
 endfunction()
 
 # caltofal_compile_as_one(TARGET...): the files of each folder are compiled together, in a quarter of the time. Names in
