@@ -24,11 +24,12 @@ namespace {
 // Longer reasons are cut.
 thread_local char reasonOfThread[1024];
 
-// One message: what it is called, where it goes, and its line in the trace.
+// One message: what it is called, where it goes, its line in the trace, and what that says of a success.
 struct Call {
     const char *operation;
     Trace trace;
     Location location{};
+    std::string remark{};
 
     Call(const char *name, const MsgHeader *message) : operation(name), trace(name, message) {}
 };
@@ -44,15 +45,15 @@ int codeOf(const DatabaseError &error) {
     return error.busy() ? CALTOFAL_STORE_BUSY : error.noMemory() ? CALTOFAL_NO_MEMORY : CALTOFAL_STORE_FAILED;
 }
 
-// Runs work(location) and turns what it throws into a code.
+// Runs work(call) and turns what it throws into a code.
 template <class Work>
 int answer(const char *operation, const MsgHeader *message, Work work) noexcept {
     reasonOfThread[0] = '\0';
     Call call(operation, message);
     try {
         call.location = Location::current();
-        work(call.location);
-        call.trace.end(call.location.name, 0, "");
+        work(call);
+        call.trace.end(call.location.name, 0, call.remark.c_str());
         return 0;
     } catch (const Refusal &refusal) {
         return refuse(call, refusal.code(), refusal.what());
@@ -87,11 +88,18 @@ void undergoFaults(const Location &location, const char *operation, const std::v
     }
 }
 
+// "not answered: Device.WiFi.Radio.1.Chanel, ...": a get leaves out what the gateway lacks, which is often a slip.
+void remarkMissing(std::string &remark, const GetRequest &request, const std::vector<std::string> &names) {
+    for (const std::string &name : names) {
+        remark += (remark.empty() ? "not answered: " : ", ") + shownPath(request.path) + "." + name;
+    }
+}
+
 int set(MsgHeader *message, const char *operation, int layers) noexcept {
-    return answer(operation, message, [&](const Location &location) {
+    return answer(operation, message, [&](Call &call) {
         std::vector<SetRequest> requests = setRequests(message);
-        undergoFaults(location, "set", requests);
-        Connection::instance().with(location, [&](Database &database) {
+        undergoFaults(call.location, "set", requests);
+        Connection::instance().with(call.location, [&](Database &database) {
             Transaction transaction(database, Transaction::Kind::Write);
             applyRequests(database, requests, layers);
             transaction.commit();
@@ -106,16 +114,17 @@ int set(MsgHeader *message, const char *operation, int layers) noexcept {
 using namespace sandbox;
 
 EXPORTED int cal_getValue(MsgHeader *message) {
-    return answer("get", message, [&](const Location &location) {
+    return answer("get", message, [&](Call &call) {
         const std::vector<GetRequest> requests = getRequests(message);
-        undergoFaults(location, "get", requests);
+        undergoFaults(call.location, "get", requests);
         Answer result;
-        Connection::instance().with(location, [&](Database &database) {
+        Connection::instance().with(call.location, [&](Database &database) {
             const Transaction transaction(database, Transaction::Kind::Read);
             for (const GetRequest &request : requests) {
                 result.nextRequest();
-                readParameters(database, request,
-                               [&result](auto key, auto name, auto value) { result.add(key, name, value); });
+                const auto missing = readParameters(
+                    database, request, [&result](auto key, auto name, auto value) { result.add(key, name, value); });
+                remarkMissing(call.remark, request, missing);
             }
         });
         result.replace(*message);

@@ -77,9 +77,9 @@ const char *verbOf(const ObjectNode &node) {
     }
 }
 
-std::string parameterText(const ParamNode &param) {
-    if (!isValued(param)) {
-        return param.name;
+std::string parameterText(const MsgHeader &message, const ParamNode &param) {
+    if (!isValued(param)) { // a set then had NULL for a value, which counts as empty
+        return std::string(param.name) + (message.mainOper == CALTOFAL_OPER_SET ? "=NULL" : "");
     }
     return std::string(param.name) + "=" + quotedValue(param.name, param.value);
 }
@@ -90,7 +90,7 @@ std::string requestText(const MsgHeader *message) {
     for (ObjectNode *node = nullptr; hasObjects(message) && (node = caltofal_nextObject(message, node)) != nullptr;) {
         std::string parameters;
         for (ParamNode *param = nullptr; (param = caltofal_nextParam(node, param)) != nullptr;) {
-            parameters += (parameters.empty() ? "" : ",") + parameterText(*param);
+            parameters += (parameters.empty() ? "" : ",") + parameterText(*message, *param);
         }
         text += (text.empty() ? "" : " ") + std::string(verbOf(*node)) + node->name;
         text += parameters.empty() ? "" : "(" + parameters + ")";
@@ -108,6 +108,20 @@ std::string operationText(const char *operation, const MsgHeader *message) {
     return text;
 }
 
+std::string ownerRemark(const MsgHeader *message) {
+    if (!message) {
+        return "";
+    }
+    switch (message->owner) {
+    case CALTOFAL_OWNER_HOST:
+    case CALTOFAL_OWNER_STORE:
+    case CALTOFAL_OWNER_SINGLE:
+        return "";
+    default:
+        return "owner " + std::to_string(message->owner) + " is none of CaltofalOwner";
+    }
+}
+
 } // namespace
 
 Trace::Trace(const char *operation, const MsgHeader *message) noexcept {
@@ -116,6 +130,7 @@ Trace::Trace(const char *operation, const MsgHeader *message) noexcept {
         if (!file_.empty()) {
             operation_ = operationText(operation, message);
             request_ = requestText(message);
+            ownerRemark_ = ownerRemark(message);
             begin_ = std::chrono::steady_clock::now();
         }
     } catch (const std::exception &) {
@@ -134,7 +149,9 @@ void Trace::end(const std::string &gateway, int code, const char *reason) const 
         const std::string result = code == 0 ? "0 ok" : codeText(code);
         std::string line = localTime(true) + " " + gateway + " " + process + " " + operation_ + " " + result + " " +
                            std::to_string(microseconds) + "us " + request_;
-        line += *reason == '\0' ? "" : std::string(" : ") + reason;
+        const std::string separator = *reason == '\0' || ownerRemark_.empty() ? "" : "; ";
+        const std::string remark = reason + separator + ownerRemark_;
+        line += remark.empty() ? "" : " : " + remark;
         if (!writeLine(file_, line)) {
             tellOnce(file_, errno);
         }

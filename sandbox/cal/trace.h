@@ -17,12 +17,13 @@ class Trace {
     // Notes what is asked: a get loses it to its answer. `message` may be NULL or malformed. Never throws.
     Trace(const char *operation, const MsgHeader *message) noexcept;
 
-    // Writes the line; `reason` is "" for a success. A trace that cannot be written is told once on standard error.
+    // Writes the line; `reason` is why a message was refused, or what else there is to say, "" for nothing. A trace
+    // that cannot be written is told once on standard error.
     void end(const std::string &gateway, int code, const char *reason) const noexcept;
 
   private:
     std::string file_; // "" no trace is wanted
-    std::string operation_, request_;
+    std::string operation_, request_, ownerRemark_;
     std::chrono::steady_clock::time_point begin_;
 };
 

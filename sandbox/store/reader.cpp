@@ -83,6 +83,14 @@ class Reader {
         }
     }
 
+    // The names that nothing visited has.
+    Names missingNames() const {
+        Names missing;
+        std::copy_if(request_.names.begin(), request_.names.end(), std::back_inserter(missing),
+                     [this](const std::string &name) { return !found_.contains(name); });
+        return missing;
+    }
+
   private:
     struct Row {
         int64_t position;
@@ -123,11 +131,26 @@ class Reader {
         rows.clear();
     }
 
-    Names missingNames() const {
-        Names missing;
-        std::copy_if(request_.names.begin(), request_.names.end(), std::back_inserter(missing),
-                     [this](const std::string &name) { return !found_.contains(name); });
-        return missing;
+    bool isParameterOf(const ObjectRow &object, const std::string &name) const {
+        if (object.kind != ObjectKind::Table) {
+            return findParameter(database_, object.id, name).has_value();
+        }
+        Statement any(database_, "SELECT 1 FROM parameter WHERE container = ?1 AND name = ?2 LIMIT 1", object.id, name);
+        return any.step();
+    }
+
+    bool isEmptyTable(const ObjectRow &object) const {
+        Statement instance(database_, "SELECT 1 FROM object WHERE parent = ?1 AND presence <> 2 LIMIT 1", object.id);
+        return object.kind == ObjectKind::Table && !instance.step();
+    }
+
+    [[noreturn]] void refuseFilters(const ObjectRow &object) const {
+        for (const auto &[name, value] : request_.filters) {
+            if (!isEmptyTable(object) && !isParameterOf(object, name)) {
+                throw Refusal(CALTOFAL_NO_MATCH, path_ + ": no instance has a parameter " + quotedShort(name));
+            }
+        }
+        throw Refusal(CALTOFAL_NO_MATCH, path_ + ": no instance has " + filterText());
     }
 
     std::vector<std::string> matches(const std::string &key, const ObjectRow &object) const {
@@ -147,7 +170,7 @@ class Reader {
             keys.push_back(key);
         }
         if (keys.empty()) {
-            throw Refusal(CALTOFAL_NO_MATCH, path_ + ": no instance has " + filterText());
+            refuseFilters(object);
         }
         std::sort(keys.begin(), keys.end());
         return keys;
@@ -184,8 +207,10 @@ std::string shownPath(std::string_view path) {
     return keyOf(path) ? std::string(path) : quotedShort(path);
 }
 
-void readParameters(Database &database, const GetRequest &request, const Emit &emit) {
-    Reader(database, request, emit).run();
+std::vector<std::string> readParameters(Database &database, const GetRequest &request, const Emit &emit) {
+    Reader reader(database, request, emit);
+    reader.run();
+    return reader.missingNames();
 }
 
 } // namespace sandbox

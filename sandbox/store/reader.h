@@ -23,8 +23,8 @@ struct GetRequest {
 using Emit = std::function<void(std::string_view objectKey, std::string_view name, std::string_view value)>;
 
 // Answers the request in model order, within the caller's transaction. Names that the objects lack are left out. Throws
-// a Refusal for an absent object and for filters that no instance fulfils.
-void readParameters(Database &database, const GetRequest &request, const Emit &emit);
+// a Refusal for an absent object and for filters that no instance fulfils. Returns the names that were left out.
+std::vector<std::string> readParameters(Database &database, const GetRequest &request, const Emit &emit);
 
 // The object that a request names, for messages.
 std::string shownPath(std::string_view path);

@@ -133,7 +133,7 @@ TEST_F(Get, RefusesAndLeavesTheMessageAsItWas) {
     refused(CALTOFAL_NO_MATCH, Message::filter("Device.Net.Zone.", {{"Label", "x"}}),
             "Device.Net.Zone: no instance has Label = \"x\"");
     refused(CALTOFAL_NO_MATCH, Message::filter("Device.Net.Host.", {{"Nope", "x"}}),
-            "Device.Net.Host: no instance has Nope = \"x\"");
+            "Device.Net.Host: no instance has a parameter \"Nope\"");
     refused(CALTOFAL_BAD_MESSAGE, Message::get(4, ""), "an object has an empty path");
     refused(CALTOFAL_BAD_MESSAGE, Message::get(4, "Device.Info.", {""}), "Device.Info: a parameter has no name");
     refused(CALTOFAL_BAD_MESSAGE, Message::get(SOPT_OBJATTR, "Device.Info."),

@@ -13,6 +13,7 @@
 Message::Message(uint32_t mainOper, uint32_t listFlags) {
     header.mainOper = mainOper;
     header.listFlags = listFlags;
+    header.owner = CALTOFAL_OWNER_HOST;
     header.initialised = 1;
     header.objectList = static_cast<ObjectNode *>(help_calloc(1, sizeof(ObjectNode), "test", 0));
     ListLink &link = header.objectList->link;

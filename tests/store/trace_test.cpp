@@ -80,6 +80,22 @@ TEST_F(TraceTest, TellsWhyAMessageIsRefused) {
                                "\"no/name\" is not a gateway name: letters, digits, '.', '_' and '-'\n");
 }
 
+TEST_F(TraceTest, TellsWhatASuccessLeftOut) {
+    const auto several = Message::get(kPlainGet, "Device.Info.", {"Nmae", "UpTime", "Upp"});
+    several->object("Device.Pair.").param("Lefft", nullptr);
+    cal_getValue(&several->header);
+    cal_getValue(&Message::filter("Device.Net.Host.", {{"Name", "two"}, {"Levle", "5"}})->header);
+    const auto set = Message::set();
+    set->object("Device.Info", kSet).param("Text", nullptr).param("Text", "");
+    set->header.owner = 7;
+    cal_setValue(&set->header);
+    EXPECT_EQ(takeTrace(), "lab get 0 ok Device.Info.(Nmae,UpTime,Upp) Device.Pair.(Lefft) : "
+                           "not answered: Device.Info.Nmae, Device.Info.Upp, Device.Pair.Lefft\n"
+                           "lab get -208 no-match Device.Net.Host.(Name=\"two\",Levle=\"5\") : "
+                           "Device.Net.Host: no instance has a parameter \"Levle\"\n"
+                           "lab set 0 ok Device.Info(Text=NULL,Text=\"\") : owner 7 is none of CaltofalOwner\n");
+}
+
 TEST_F(TraceTest, FailsNoMessage) {
     setenv("CALTOFAL_SANDBOX_TRACE", (directory + "/none/trace").c_str(), 1);
     EXPECT_EQ(valueOf("Device.Info", "Name"), "lab");
