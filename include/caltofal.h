@@ -39,6 +39,14 @@
 extern "C" {
 #endif
 
+/** @{ */
+/** Version of the library that this header belongs to. The library keeps its name, libcaltofal.so.1, as long as the
+ * first number stays. */
+#define CALTOFAL_VERSION_MAJOR 1
+#define CALTOFAL_VERSION_MINOR 0
+#define CALTOFAL_VERSION_PATCH 0
+/** @} */
+
 /** Has compilers check the arguments of a function against its format. */
 #if defined(__GNUC__)
 #pragma GCC visibility push(default)
@@ -115,7 +123,8 @@ enum CaltofalListFlag {
 };
 
 /** Who sends a message: MsgHeader.owner. A host is CALTOFAL_OWNER_HOST: it passes that to faltocal_SendMultiObj(); all
- * other functions put the owner themselves. */
+ * other functions put the owner themselves. The library only hands it on; what the configuration layer makes of it is
+ * the layer's own business. The sandbox's layer answers all owners alike. */
 enum CaltofalOwner {
     CALTOFAL_OWNER_HOST = 2,   /**< hosts, faltocal_createMessage() and the multi-object requests */
     CALTOFAL_OWNER_STORE = 4,  /**< faltocal_send_main_ToDb() */
@@ -378,8 +387,8 @@ typedef struct ZintuWanInfo {
     char sACName[256];           /**< PPPoE access concentrator */
     char sServiceName[256];      /**< PPPoE service */
     char sPppInterface[256];     /**< PPP interface object */
-    int32_t bDnsAuto;            /**< 1 DNS servers obtained automatically, 0 static */
-    char sDNS1[16];              /**< dotted IPv4 address */
+    int32_t bDnsAuto;            /**< 1 DNS servers obtained automatically, 0 static; ZintuGet_DefWanInfo() says how */
+    char sDNS1[16];              /**< dotted IPv4 address; ZintuGet_DefWanInfo() says where it comes from */
     char sDNS2[16];              /**< likewise; of a DHCP list of three or more, cut text (ZintuGet_WanDns()) */
     char sReserved27[784];       /**< reserved */
     int32_t nAtmVpi;             /**< virtual path of the ATM link */
@@ -391,7 +400,8 @@ typedef struct ZintuWanInfo {
     char sReserved34[256];       /**< reserved */
     uint8_t bIpv6Enable;         /**< 1 when IPv6 is enabled on the device */
     char sIpv6Type[32];          /**< "slaac", "dhcpv6" or "static" */
-    char sIpv6Address[46];       /**< the WAN's first IPv6 address; 46 characters leave no terminator */
+    char sIpv6Address[46];       /**< the WAN's first IPv6 address, as the layer gives it: a prefix length ("/64") may
+                                      follow; 46 characters leave no terminator */
     char sIpv6NextHop[46];       /**< next hop of the WAN's IPv6 forwarding entry; 46 likewise */
 } ZintuWanInfo;
 
@@ -458,8 +468,9 @@ typedef struct ZintuMultiWanInfo {
     char sWan2Interface[128]; /**< of the second WAN */
 } ZintuMultiWanInfo;
 
-/** The operation mode number of "Device.X_ZINTU_CurrentNetwork"; -1 when it cannot be told. Bit value 4 marks a
- * router or mesh master. */
+/** The operation mode number of "Device.X_ZINTU_CurrentNetwork"; -1 when it cannot be told: test that first, as -1 has
+ * all bits set. Bit value 4 marks a router or mesh master. The number's bits are the `flags` of
+ * ZintuGet_BrWanInfo() (CaltofalBridgedWanFlag), which fills the page of a device without that bit. */
 int32_t ZintuGet_OperMode(void);
 
 /** Fills sWanIpInterface, sWanIpType, sWanLinkType, sIpv4Mode, sPppStaticAddress, sDNS1 and sDNS2 from
@@ -501,10 +512,10 @@ int32_t ZintuGet_WanDns(const char *ipInterface, char *dns1, char *dns2);
  * `dns1`, `dns2`: char[16], untouched where there is no such server. 0, or -1 as ZintuGet_WanDns(). */
 int32_t ZintuGet_WanStaticDns(const char *ipInterface, int32_t *dnsAuto, char *dns1, char *dns2);
 
-/** `flags` of ZintuGet_BrWanInfo(); other bits do not count. */
+/** `flags` of ZintuGet_BrWanInfo(), which are bits of ZintuGet_OperMode(); other bits do not count. */
 enum CaltofalBridgedWanFlag {
     CALTOFAL_BRIDGED_WAN_WIFI = 2,  /**< the WAN is a Wi-Fi link, not an Ethernet one */
-    CALTOFAL_BRIDGED_WAN_REFUSE = 4 /**< nothing is to be filled */
+    CALTOFAL_BRIDGED_WAN_REFUSE = 4 /**< a router or mesh master: nothing is to be filled */
 };
 
 /** Fills the summary for a device in bridge mode, whose WAN is "Device.IP.Interface.1.". Fixed values: sOperMode
@@ -521,8 +532,16 @@ int32_t ZintuGet_BrWanInfo(uint32_t flags, ZintuWanInfo *info);
 int32_t ZintuGet_WanIPv6(ZintuWanInfo *info);
 
 /** Fills the whole summary of the WAN connection that carries the default route, except the ATM fields. Paths are cut
- * at 255 characters. -1 when no default WAN is known; otherwise the code of the forwarding request, or of the VLAN
- * request where there is one. Leaves the message of ZintuGet_WanIPv6(). */
+ * at 255 characters. -1 when no default WAN is known; otherwise the code of the forwarding request
+ * (CALTOFAL_NO_MATCH: no entry for the WAN, CALTOFAL_ABSENT_OBJECT: no such table), or, where a VLAN termination lies
+ * below the WAN, the code of the request for that in its place: then 0 also without a forwarding entry or table. 0 does
+ * not say that the requests for the interface, its address, PPP, DNS and IPv6 succeeded: a field that one of them fills
+ * keeps what it held.
+ * DNS: sDNS1 and sDNS2 are those of ZintuGet_DefGw(); where sWanIpType contains "dynamic", those of
+ * ZintuGet_WanStaticDns() replace them, and bDnsAuto is its result. For other types bDnsAuto is 0 where the type
+ * contains "static" or is "pppoe" with sIpv4Mode "static", else 1. Only where both servers are "0.0.0.0", or neither is
+ * an address, those in use (ZintuGet_WanDns(), what a DNS page shows) are taken.
+ * Leaves the message of ZintuGet_WanIPv6(). */
 int32_t ZintuGet_DefWanInfo(ZintuWanInfo *info);
 
 /** 1 when IPv6 prefix delegation is on for the current WAN, 0 when not, -1 when the request fails. */
@@ -717,8 +736,9 @@ int ConvTransmitPower(int percent);
 int ConvFreqChannel(int frequencyMHz);
 
 /** 1 for twelve hexadecimal digits, plain or in pairs separated by ':' or '-', else 0. It accepts some other texts too:
- * anything may follow twelve plain digits and a separator ("001122334455:; reboot"), and before the second digit other
- * characters are passed over where a separator follows them ("x0:01122334455"). Check a text that goes to a shell
+ * anything may follow twelve plain digits and a separator ("001122334455:; reboot"), before the second digit other
+ * characters are passed over where a separator follows them ("x0:01122334455"), and pairs need not be aligned
+ * ("001:11:22:33:44:5"). Check a text that goes to a shell
  * with zintu_isValidMacAddress(). */
 int isValidMacAddress(const char *text);
 
@@ -827,8 +847,8 @@ int GetPhyNumber(const char *ifname);
  * of its request is not released. */
 int GetChannelList(const char *ifname, int radioIndex, WifiChannelList *list);
 
-/** The channel in use, from `iwlist IF channel`, a command that is cut at 127 characters. 1 when the tool ran
- * (`*channel` untouched when it named none), 0 otherwise. */
+/** The channel in use, from `iwlist IF channel`, a command that is cut at 127 characters. 1 when the shell ran,
+ * also where the tool is missing, fails or names no channel: `*channel` is then untouched. 0 otherwise. */
 int GetCurrentChannel(const char *ifname, int ignored, int *channel);
 
 /** The side of the secondary channel at 2.4 GHz: "AboveControlChannel", "BelowControlChannel", or `fallback` where
@@ -848,8 +868,9 @@ int GetStaInfo(const char *ifname, const char *macFilter, WifiStaList *list);
 int GetAssociatedDeviceNumberOfEntries(int radioIndex);
 
 /** Appends the MAC filter entry that `objectNode` holds, when it has both "name" and "macAddress"; at most 32
- * entries fit. `prefix` is the filter table's path without the final dot. Of the object's path 255 characters are
- * read. Always -1: judge by the count. */
+ * entries fit. `prefix` is the filter table's path without the final dot; where the table lies depends on the device,
+ * in the sandbox it is "Device.WiFi.AccessPoint.N.X_ZINTU_MacFilter". Of the object's path 255 characters are read.
+ * Always -1: judge by the count. */
 int GetMacAccessList(ObjectNode *objectNode, const char *prefix, MacAccessList *list);
 
 /** Appends a row. 0, or -1 for a null pointer or a full table. */
@@ -915,7 +936,8 @@ int ReqWPSReset(void);
 int ReqScan(const char *ifname, const char *ssid);
 
 /** Which of the endpoints 1 and 2 is enabled, the first winning; -1 neither, 0 the request failed. `ifnameOut`,
- * char[128] or null, gets its interface name where it can be read. */
+ * char[128] or null, gets its interface name, cut to 126 characters, where it can be read: the "Name" of the object
+ * that "SSIDReference" names, of which 126 characters are kept. */
 int GetEPEnable(char *ifnameOut);
 
 /** 1 when the endpoint's driver names a peer, whose MAC address goes to `macOut`, char[128] or null; else 0. Leaves the

@@ -4,6 +4,11 @@
 #include <stdio.h>
 #include <string.h>
 
+#if CALTOFAL_VERSION_MAJOR != PROJECT_MAJOR || CALTOFAL_VERSION_MINOR != PROJECT_MINOR ||                              \
+    CALTOFAL_VERSION_PATCH != PROJECT_PATCH
+#error "include/caltofal.h and CMakeLists.txt give different versions"
+#endif
+
 static int failures = 0;
 
 static void check(int condition, const char *what) {
