@@ -6,7 +6,7 @@
 #include <string.h>
 #include <unistd.h>
 
-enum { kInterfaceMax = 15, kSsidMax = 32, kBothMax = 46 /* of what a scan request carries */ };
+enum { kInterfaceMax = 15, kSsidMax = 32, kBothMax = 46 /* of what a scan request carries */, kHighest24GHz = 14 };
 
 /* Letters, digits, dots, underscores and dashes, a letter first: no path, no option, nothing for a shell. */
 static int isInterface(const char *name) {
@@ -25,13 +25,20 @@ static int isPlainSsid(const char *ssid) {
     return strlen(ssid) <= kSsidMax;
 }
 
-/* 1 when the result file is there, 0 when the time for a scan is over. A scan of the sandbox removes the last result;
- * elsewhere do that first. */
-static int waitFor(const char *path) {
+/* How long a scan takes depends on the band. An interface that names no channel gets the longer time. */
+static const uint8_t *pausesOf(const char *ifname) {
+    int channel = 0;
+    GetCurrentChannel(ifname, 0, &channel);
+    return channel >= 1 && channel <= kHighest24GHz ? SCAN_24G_RetryTime : SCAN_5G_RetryTime;
+}
+
+/* 1 when the result file is there, be it empty, 0 when the time for a scan is over. A scan of the sandbox removes the
+ * last result; elsewhere do that first. */
+static int waitFor(const char *path, const uint8_t *pauses) {
     for (size_t i = 0; i < sizeof(SCAN_5G_RetryTime); ++i) {
-        for (int seconds = SCAN_5G_RetryTime[i]; seconds > 0; --seconds) {
+        for (int seconds = pauses[i]; seconds > 0; --seconds) {
             sleep(1);
-            if (GetFileLineCnt(path) > 0) {
+            if (access(path, F_OK) == 0) {
                 return 1;
             }
         }
@@ -54,14 +61,20 @@ int main(int argc, char **argv) {
         fputs("survey: these can not be asked for\n", stderr);
         return 2;
     }
+    if (GetPhyNumber(ifname) < 0) { /* ReqScan() only starts the shell: do not wait for what can not come */
+        fprintf(stderr, "survey: no radio has the interface %s\n", ifname);
+        return 1;
+    }
     char path[128];
     snprintf(path, sizeof(path), "/tmp/wlan_wave/%s_scan_by_User.result", ifname);
-    if (ReqScan(ifname, ssid) != 1 || !waitFor(path)) {
+    if (ReqScan(ifname, ssid) != 1 || !waitFor(path, pausesOf(ifname))) {
         fputs("survey: no result\n", stderr);
         return 1;
     }
     SiteSurveyList list = {0};
-    GetSiteSurveyList(path, &list, ssid);
+    if (GetSiteSurveyList(path, &list, ssid) == 0) {
+        fputs("survey: no such network\n", stderr);
+    }
     for (int i = 0; i < list.count; ++i) {
         printf("channel %3d  %4d  ", (int)list.entries[i].channel, (int)list.entries[i].rssi);
         printSsid(list.entries[i].ssid);
