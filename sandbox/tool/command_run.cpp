@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "store/recording.h"
 #include "tool/box_entry.h"
 #include "tool/command.h"
 
@@ -15,6 +16,15 @@ struct RunOptions {
     std::vector<std::string> shown;
 };
 
+void tellIfNothingIsRecorded(const Tool &tool) {
+    const std::unique_ptr<Database> database = tool.open();
+    const Transaction transaction(*database, Transaction::Kind::Read);
+    if (recordings(*database).empty()) {
+        say("gateway " + tool.location().name +
+            " holds no recording, so all is refused: take one with caltofal capture --driver");
+    }
+}
+
 void run(Tool &tool, const RunOptions &options) {
     if (options.check) {
         enterBox(tool, options.shown, {"/bin/sh", "-c", "exit 0"});
@@ -25,6 +35,7 @@ void run(Tool &tool, const RunOptions &options) {
         throw Failure("run: which command? caltofal-sandbox run -- COMMAND [ARGUMENT...]", kUsage);
     } else {
         if (options.recordedOnly) {
+            tellIfNothingIsRecorded(tool);
             setenv("CALTOFAL_BOX_RECORDED_ONLY", "1", 1);
         }
         if (options.trace) {
