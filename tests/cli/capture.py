@@ -80,6 +80,18 @@ class Capture(unittest.TestCase):
             self.assertEqual(lines[-1], "iw dev wlan9 info: not recorded" if options else
                              "command failed: No such device (-19)")
 
+    def test_a_parameter_is_captured_by_its_path(self):
+        result = tool.run("capture", "Device.WiFi.Radio.1.Channel", folder=self.folder)
+        self.assertIn(b"\n@capture\nDevice.WiFi.Radio.1.Channel [unsignedInt(1:255) rw", result.out)
+        self.assertEqual(result.out.count(b"Device."), 1)
+        self.assertEqual(tool.run("capture", "Device.WiFi.Radio.1.Chanel", folder=self.folder).code, 10)
+
+    def test_a_gateway_without_a_recording_is_told(self):
+        done = subprocess.run([tool.sandbox_executable, "run", "--recorded-only", "--", "true"],
+                              env=tool.environment(self.folder), stderr=subprocess.PIPE, timeout=60, check=False)
+        self.assertEqual((done.returncode, done.stderr.decode()), (0, "gateway home holds no recording, so all is refused: "
+                                                                   "take one with caltofal capture --driver\n"))
+
     def test_a_capture_is_applied(self):
         path = self.captured("home")
         words = ("Device.WiFi.Radio.1", "Channel=11", "Device.WiFi.SSID.1", "SSID=other",
@@ -104,6 +116,11 @@ class Capture(unittest.TestCase):
         again = tool.run("apply", path, folder=self.folder)
         self.assertEqual((again.code, again.out), (0, b""))
         self.assertIn("caltofal: skipped, read-only: Device.WiFi.Radio.1.MaxBitRate\n", again.err)
+        self.assertEqual(tool.run("set", "--db-only", "Device.WiFi.Radio.1", "Channel=9", folder=self.folder).code, 0)
+        self.assertEqual(tool.run("apply", path, "--db-only", folder=self.folder).code, 0)
+        pending = subprocess.run([tool.sandbox_executable, "diff", "home"], env=tool.environment(self.folder),
+                                 stdout=subprocess.PIPE, check=False)
+        self.assertEqual(pending.stdout, b"", "what waited for the next start is taken back")
         bad = tool.run("apply", "-", folder=self.folder)
         self.assertEqual(bad.code, 0, "nothing to apply")
 

@@ -40,7 +40,7 @@ TEST_F(Apply, SkipsWhatTheStandardMakesReadOnly) {
                                          "Device.DeviceInfo.X_ACME_Nothing = 1\n"
                                          "Device.PPP.Interface.1.Password = (hidden)\n"
                                          "Device.WiFi.Radio.1.Channel [unsignedInt ro] = 11\n",
-                                         false, false);
+                                         "attic", false, false);
     EXPECT_EQ(report.json["changes"].items().size(), 1U);
     const std::vector<std::string> notes = {
         "skipped, a secret that was replaced in the file: Device.PPP.Interface.1.Password",
@@ -53,10 +53,12 @@ TEST_F(Apply, SkipsWhatTheStandardMakesReadOnly) {
 
 TEST_F(Apply, NamesTheLineThatIsNone) {
     try {
-        capture::apply("# a comment\n\nDevice.A.B\n", true, false);
+        capture::apply("# a comment\n\nDevice.A.B\n", "attic.csv", true, false);
         FAIL();
     } catch (const Usage &usage) {
-        EXPECT_STREQ(usage.what(), "line 3: \"Device.A.B\" is not a line of a gateway file");
+        EXPECT_STREQ(usage.what(),
+                     "attic.csv:3: \"Device.A.B\" is not a line of a gateway file; CSV, JSON and dumps of other "
+                     "programs are for caltofal-sandbox import");
     }
 }
 

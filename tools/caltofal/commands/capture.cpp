@@ -45,7 +45,7 @@ std::string contentOf(const std::string &file) {
 
 Show prepareApply(const Arguments &given) {
     return [file = given.word("FILE"), dryRun = given.given("--dry-run"), storeOnly = given.given("--db-only")] {
-        return capture::apply(contentOf(file), dryRun, storeOnly);
+        return capture::apply(contentOf(file), file, dryRun, storeOnly);
     };
 }
 
@@ -55,7 +55,7 @@ const Command kCaptureCommands[] = {
      "-g mesh\n"
      "Device.WiFi. Device.IP. --with-secrets",
      prepareCapture,
-     {{"OBJECT", Take::AnyWords, "The objects to capture, with all below them; none: the whole model"},
+     {{"OBJECT", Take::AnyWords, "The objects to capture, with all below them, or parameters; none: the whole model"},
       {"--driver", Take::Flag, "Also the wireless driver's files, and what the device's tools answer"},
       {"--with-secrets", Take::Flag, "Pass phrases, passwords and keys as they are"}},
      kActs},
@@ -64,7 +64,7 @@ const Command kCaptureCommands[] = {
      "- --dry-run\n"
      "-",
      prepareApply,
-     {{"FILE", Take::Word, "A capture, or another gateway file; - for standard input"},
+     {{"FILE", Take::Word, "A capture, or another gateway file (no CSV or JSON); - for standard input"},
       {"--dry-run", Take::Flag, "Only tell what would be written"},
       {"--db-only", Take::Flag, "Store without applying: in force after the next start"}},
      kActs},

@@ -18,7 +18,7 @@ namespace {
 constexpr size_t kNamed = 5;
 constexpr const char *kReplaced = "a secret that was replaced in the file";
 
-std::vector<Line> linesOf(const std::string &text) {
+std::vector<Line> linesOf(const std::string &text, const std::string &file) {
     std::vector<Line> lines;
     std::istringstream in(text);
     size_t number = 0;
@@ -30,7 +30,8 @@ std::vector<Line> linesOf(const std::string &text) {
                 lines.push_back(std::move(*parsed));
             }
         } catch (const Usage &usage) {
-            throw Usage("line " + std::to_string(number) + ": " + usage.what());
+            throw Usage(file + ":" + std::to_string(number) + ": " + usage.what() +
+                        "; CSV, JSON and dumps of other programs are for caltofal-sandbox import");
         }
     }
     return lines;
@@ -66,12 +67,20 @@ std::map<std::string, std::string> valuesNow(const std::vector<Line> &lines) {
     return values;
 }
 
-// By the layer, by the file, by the standard: whichever tells first.
-bool isReadOnly(const Line &line) {
+// By the layer, by the file; "" where neither tells.
+std::string annotationsOf(const Line &line) {
     const std::string own = definitionOf(line.object + line.parameter);
-    const std::string words = own.empty() ? line.annotations : own;
-    return words.empty() ? isReadOnlyByStandard(line.object, line.parameter)
-                         : (" " + words + " ").find(" rw ") == std::string::npos;
+    return own.empty() ? line.annotations : own;
+}
+
+bool sayWritable(const std::string &annotations) {
+    return (" " + annotations + " ").find(" rw ") != std::string::npos;
+}
+
+// By what tells first, in the end by the standard.
+bool isReadOnly(const Line &line) {
+    const std::string words = annotationsOf(line);
+    return words.empty() ? isReadOnlyByStandard(line.object, line.parameter) : !sayWritable(words);
 }
 
 bool isReplaced(const Line &line) {
@@ -81,13 +90,14 @@ bool isReplaced(const Line &line) {
 
 class Comparison {
   public:
-    explicit Comparison(const std::vector<Line> &lines) : now_(valuesNow(lines)) {
+    Comparison(const std::vector<Line> &lines, bool storeOnly) : now_(valuesNow(lines)), storeOnly_(storeOnly) {
         for (const Line &line : lines) {
             compare(line);
         }
     }
 
     std::vector<Object> changes;
+    size_t same = 0; // of the changes: they are in force already
     Table table;
     Value changed = Value::list();
     Value skipped = Value::list();
@@ -103,16 +113,14 @@ class Comparison {
         const std::string &from = found->second;
         const std::string to = spelledLike(typed(line.parameter, from), line.value);
         if (from == to) {
+            storeSame(line);
             return;
         }
         if (isReplaced(line) || isReadOnly(line)) {
             skip(path, isReplaced(line) ? kReplaced : "read-only");
             return;
         }
-        if (changes.empty() || changes.back().name != line.object) {
-            changes.push_back({line.object});
-        }
-        changes.back().parameters.push_back({line.parameter, to});
+        write(line, to);
         changed.push(Value::object({{"object", withoutDot(line.object)},
                                     {"parameter", line.parameter},
                                     {"from", shownValue(line.parameter, from)},
@@ -120,11 +128,28 @@ class Comparison {
         table.rows.push_back({{path}, {shownText(line.parameter, from)}, {shownText(line.parameter, to)}});
     }
 
+    void write(const Line &line, const std::string &value) {
+        if (changes.empty() || changes.back().name != line.object) {
+            changes.push_back({line.object});
+        }
+        changes.back().parameters.push_back({line.parameter, value});
+    }
+
+    // Another value may be stored for the next start. One that cannot be set would fail the message as a whole, and
+    // types that gateways have do not take the empty value that means none.
+    void storeSame(const Line &line) {
+        if (storeOnly_ && !line.value.empty() && !isReplaced(line) && sayWritable(annotationsOf(line))) {
+            write(line, now_.at(line.object + line.parameter));
+            ++same;
+        }
+    }
+
     void skip(const std::string &path, const char *reason) {
         skipped.push(Value::object({{"parameter", path}, {"reason", reason}}));
     }
 
     std::map<std::string, std::string> now_;
+    bool storeOnly_;
 };
 
 // A line for each reason, with the first parameters that it holds for; JSON names them all.
@@ -145,8 +170,8 @@ std::vector<std::string> notesOf(const Value &skipped) {
 
 } // namespace
 
-Report apply(const std::string &text, bool dryRun, bool storeOnly) {
-    Comparison comparison(linesOf(text));
+Report apply(const std::string &text, const std::string &file, bool dryRun, bool storeOnly) {
+    Comparison comparison(linesOf(text, file), storeOnly);
     const bool writes = !comparison.changes.empty() && !dryRun;
     if (writes) {
         change(comparison.changes, Change::Set, storeOnly);
@@ -155,9 +180,13 @@ Report apply(const std::string &text, bool dryRun, bool storeOnly) {
     result.table.headings = {"Parameter", "From", "To"};
     result.notes = notesOf(comparison.skipped);
     result.notes.push_back((writes ? "written: " : "different: ") + std::to_string(result.table.rows.size()) +
-                           ", skipped: " + std::to_string(comparison.skipped.items().size()));
+                           ", skipped: " + std::to_string(comparison.skipped.items().size()) +
+                           (storeOnly ? ", the same and stored as well: " + std::to_string(comparison.same) : ""));
     result.json["changes"] = std::move(comparison.changed);
     result.json["skipped"] = std::move(comparison.skipped);
+    if (storeOnly) {
+        result.json["same"] = comparison.same;
+    }
     result.json["written"] = writes;
     result.json["applied"] = writes && !storeOnly;
     return result;

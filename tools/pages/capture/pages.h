@@ -11,7 +11,7 @@
 namespace pages::capture {
 
 struct Wanted {
-    std::vector<std::string> objects = {}; // none: the whole model
+    std::vector<std::string> objects = {}; // or parameters, "OBJECT.PARAM"; none: the whole model
     bool driver = false;                   // also the device's own files, and what its tools answer
     bool secrets = false;                  // pass phrases, passwords and keys as they are
 };
@@ -20,7 +20,9 @@ struct Wanted {
 Report take(const Wanted &wanted);
 
 // Writes the values of a capture that differ from what the gateway has, in one message. What it does not have, what
-// cannot be set, and secrets that were replaced are named and skipped. `dryRun`: tells so, and writes nothing.
-Report apply(const std::string &text, bool dryRun, bool storeOnly);
+// cannot be set, and secrets that were replaced are named and skipped. With `storeOnly` values that are the same are
+// written too, where access is known, as what is stored cannot be read. `dryRun`: tells so, and writes nothing. `file`
+// names the text in errors.
+Report apply(const std::string &text, const std::string &file, bool dryRun, bool storeOnly);
 
 } // namespace pages::capture

@@ -4,6 +4,7 @@
 #include "pages/capture/pages.h"
 #include "pages/failure.h"
 #include "pages/layer/definition.h"
+#include "pages/objects/pages.h"
 #include "pages/secret.h"
 #include "pages/text.h"
 
@@ -26,7 +27,7 @@ std::vector<Object> readModel(const std::vector<std::string> &paths) {
         asked.push_back({path});
     }
     if (!asked.empty()) {
-        return get(asked, Reading::Whole);
+        return objects::readWhole(asked);
     }
     try {
         return get({{kRoot}}, Reading::Whole);

@@ -170,6 +170,15 @@ void check(const Query &query) {
     }
 }
 
+std::vector<Object> readWhole(std::vector<Object> objects) {
+    resolveParameters(objects);
+    std::vector<Object> answer = getObjects(objects, Reading::Whole);
+    for (const Object &object : objects) {
+        checkAnswered(object, answer);
+    }
+    return answer;
+}
+
 Report read(const Query &asked) {
     Query query = asked;
     resolveParameters(query.objects);

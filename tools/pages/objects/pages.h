@@ -25,6 +25,9 @@ struct Query {
 void check(const Query &query);
 Report read(const Query &asked);
 
+// Objects with all below them; one that is none is taken for a parameter, "OBJECT.PARAM".
+std::vector<Object> readWhole(std::vector<Object> objects);
+
 // All objects of a change go in one message, which is done whole or not at all. `storeOnly`: not applied.
 Report set(const std::vector<Object> &objects, bool storeOnly);
 // Writes only what differs from what the gateway holds, as "changes" with "object", "parameter", "from" and "to"; with
