@@ -62,9 +62,7 @@ endfunction()
 
 caltofal_install_page(libcaltofal.3 development)
 if(CALTOFAL_PLATFORM STREQUAL "sandbox") # a device's staging directory needs no guide
-  set(guide_directory ${CMAKE_INSTALL_DATADIR}/doc/libcaltofal-dev)
-  install(FILES docs/host-guide.md DESTINATION ${guide_directory} COMPONENT development)
-  install(DIRECTORY examples DESTINATION ${guide_directory} COMPONENT development)
+  include(InstallDocuments)
 endif()
 if(TARGET caltofal_tool)
   caltofal_install_page(caltofal.1 tools)
