@@ -34,10 +34,6 @@ Database &Connection::open(const Location &location) {
     if (isCurrent(file)) {
         return *database_;
     }
-    if (!watchingForks_) {
-        pthread_atfork(beforeFork, afterFork, afterFork);
-        watchingForks_ = true;
-    }
     database_.reset();
     database_ = openGateway(location);
     struct stat status {};
@@ -59,5 +55,7 @@ void Connection::beforeFork() {
 void Connection::afterFork() {
     instance().mutex_.unlock();
 }
+
+const bool Connection::kWatchesForks = pthread_atfork(beforeFork, afterFork, afterFork) == 0;
 
 } // namespace sandbox

@@ -49,7 +49,9 @@ class Connection {
     std::string file_;
     dev_t device_ = 0;
     ino_t inode_ = 0;
-    bool watchingForks_ = false;
+    // From the moment that the library is loaded: a fork may come while another thread opens the database for the first
+    // time.
+    static const bool kWatchesForks;
 };
 
 } // namespace sandbox
