@@ -84,7 +84,10 @@ class Changes(unittest.TestCase):
             ("/mesh", {"enabled": "yes"}, 400, None, "enabled"),
             ("/mesh", {"on": True}, 400, None, "on"),
             ("/objects?dry_run=maybe", {"Device.WiFi.Radio.1.": {"Channel": 11}}, 400, None, "dry_run"),
-            ("/wifi/ssids/1?db_only", {"SSID": "y" * 33}, 422, None, ""),
+            ("/objects?dry_run", {"Device.WiFi.Radio.1.": {"Channel": 11}}, 400, None, "dry_run"),
+            ("/objects?dry_run=1&dry_run=0", {"Device.WiFi.Radio.1.": {"Channel": 11}}, 400, None, "once"),
+            ("/wifi/ssids/1?db_only=", {"SSID": "y"}, 400, None, "db_only"),
+            ("/wifi/ssids/1?db_only=true", {"SSID": "y" * 33}, 422, None, ""),
         ]
         for resource, body, status, code, word in cases:
             with self.subTest(resource=resource, body=body):

@@ -149,6 +149,7 @@ class Refusals(unittest.TestCase):
             (head + "Cookie: " + "; ".join(f"c{i}=v" for i in range(180)) + "\r\n\r\n", "431", True),
             (head + f"Host: {self.server.host}\r\n\r\n", "400", True),
             (head + "Content-Length: 1\r\nContent-Length: 2\r\n\r\n12", "400", True),
+            (head + "Content-Length: 0\r\nContent-Length: 9\r\n\r\n" + head + "\r\n", "400", True),
             (head + "Content-Length: 99999999999999999999\r\n\r\n", "413", False),
             (head + "Content-Length: -1\r\n\r\n", "400", False),
             (head + "X : y\r\n\r\n", "400", True),
@@ -166,7 +167,9 @@ class Refusals(unittest.TestCase):
         for data, status, own in cases:
             with self.subTest(data=data[:40] + data[-40:]):
                 data += "" if "\r\n\r\n" in data else "\r\n"
-                start, _, body = self.server.raw(data.encode(), timeout=3).decode().partition("\r\n\r\n")
+                answer = self.server.raw(data.encode(), timeout=3).decode()
+                start, _, body = answer.partition("\r\n\r\n")
+                self.assertEqual(answer.count("Content-Security-Policy:"), 1 if own else 0, answer)
                 self.assertTrue(start.startswith(f"HTTP/1.1 {status} "), start)
                 self.assertEqual(POLICY in start and "no-store" in start and body.startswith("{"), own, start)
         self.assertEqual(self.server.raw(b"\x16\x03\x01\r\n\r\n", timeout=3), b"")

@@ -35,15 +35,19 @@ std::string Call::text(std::string_view name) const {
     return last;
 }
 
+// A flag that is not said clearly is refused: a change that was to be tried only must not be made.
 bool Call::flag(std::string_view name) const {
-    const std::string value = text(name);
-    if (value == "1" || value == "true") {
-        return true;
+    const auto isWanted = [name](const QueryItem &item) { return item.name == name; };
+    const auto found = std::find_if(query.begin(), query.end(), isWanted);
+    if (found == query.end()) {
+        return false;
     }
-    if (!value.empty() && value != "0" && value != "false") {
-        throw Refusal(Status::BadRequest, std::string(name) + " is 1 or 0");
+    const bool isTrue = found->value == "1" || found->value == "true";
+    if ((!isTrue && found->value != "0" && found->value != "false") ||
+        std::count_if(query.begin(), query.end(), isWanted) > 1) {
+        throw Refusal(Status::BadRequest, std::string(name) + " is 1 or 0, given once");
     }
-    return false;
+    return isTrue;
 }
 
 Call parseCall(std::string_view method, const Target &target) {

@@ -79,6 +79,7 @@ void Exchange::takeHeaders(MHD_Connection *from, const char *method) {
     request.method = method;
     MHD_get_connection_values(from, MHD_HEADER_KIND, takeHeader, &headers);
     awaitsContinue_ = headers.awaitsContinue;
+    isMalformed_ = headers.wrong != nullptr;
     constexpr auto kItems = static_cast<MHD_ValueKind>(MHD_HEADER_KIND | MHD_COOKIE_KIND);
     if (static_cast<size_t>(MHD_get_connection_values(from, kItems, nullptr, nullptr)) > kHeaderItemsMax) {
         throw Refusal(Status::HeadersTooLarge,
@@ -105,7 +106,9 @@ void Exchange::takeBody(std::string_view bytes) {
 }
 
 bool Exchange::skipsBody() const {
-    return awaitsContinue_ || request.chunked || request.contentLength.value_or(0) > kDrainMax;
+    // What follows headers that have two readings may be a request to this server, and a body to the one before it.
+    const bool unclear = isMalformed_ || (response && response->status == Status::LengthRequired);
+    return unclear || awaitsContinue_ || request.chunked || request.contentLength.value_or(0) > kDrainMax;
 }
 
 } // namespace web

@@ -34,6 +34,7 @@ struct Exchange {
 
   private:
     bool awaitsContinue_ = false;
+    bool isMalformed_ = false;
 };
 
 } // namespace web
