@@ -32,7 +32,7 @@ bool readNumber(std::string_view value, Number &number) {
 // Characters by their first byte: how many bytes they have, and what the second may be.
 struct Lead {
     unsigned char first, last;
-    size_t length;
+    unsigned char length;
     unsigned char secondFirst, secondLast;
 };
 constexpr Lead kLeads[] = {

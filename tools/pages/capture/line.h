@@ -21,6 +21,6 @@ std::string answerLine(const std::string &command, int exitCode, const std::stri
 
 // Empty for a line that gives no parameter a value: comments, objects, patterns, recordings. Throws Usage for one that
 // is none of these.
-std::optional<Line> parameterOf(std::string_view line);
+std::optional<Line> parameterOf(std::string_view text);
 
 } // namespace pages::capture

@@ -23,6 +23,7 @@ constexpr const char *kOlderRoot = "InternetGatewayDevice.";
 // A gateway without Device. objects is of the older model.
 std::vector<Object> readModel(const std::vector<std::string> &paths) {
     std::vector<Object> asked;
+    asked.reserve(paths.size());
     for (const std::string &path : paths) {
         asked.push_back({path});
     }

@@ -13,8 +13,8 @@ Report status(); // the others at a glance
 Page mode();
 Page gateway();
 Page wan();
-Page bridgeWan();                       // of a device in bridge mode
-Page dns(const std::string &interface); // "": the default WAN's
+Page bridgeWan();                   // of a device in bridge mode
+Page dns(const std::string &given); // of an interface; "": of the default WAN
 Page ipv6();
 Page dsl();
 Page atm();

@@ -80,9 +80,9 @@ Report conversionWords(const std::string &name);
 Report convert(const std::string &name, const std::string &value, bool toUi);
 
 // A text as it stands in a UCI command line; the bytes of a text as hexadecimal digits, and back.
-Report escaped(const std::string &text);
-Report toHex(const std::string &text);
-Report fromHex(const std::string &digits);
+Report escaped(const std::string &given);
+Report toHex(const std::string &given);
+Report fromHex(const std::string &given);
 
 // Empties the directory of the generated configuration. Needs the device.
 Report clearConfs();
