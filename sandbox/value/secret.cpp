@@ -5,15 +5,19 @@
 
 #include <algorithm>
 #include <iterator>
+#include <strings.h>
 
 namespace sandbox {
 
 bool isSecretName(std::string_view name) {
     // The command-line tool hides the same: tools/pages/secret.cpp.
-    constexpr std::string_view kEndings[] = {"PIN",          "Passphrase", "Password", "Pin",
-                                             "PreSharedKey", "PrivateKey", "Secret",   "WEPKey"};
-    return std::any_of(std::begin(kEndings), std::end(kEndings),
-                       [name](std::string_view ending) { return name.ends_with(ending); });
+    constexpr std::string_view kEndings[] = {"authkey",      "passphrase", "passwd", "password", "pin",
+                                             "presharedkey", "privatekey", "psk",    "pwd",      "secret",
+                                             "token",        "userpass",   "wepkey"};
+    return std::any_of(std::begin(kEndings), std::end(kEndings), [name](std::string_view ending) {
+        return name.size() >= ending.size() &&
+               strncasecmp(name.data() + name.size() - ending.size(), ending.data(), ending.size()) == 0;
+    });
 }
 
 std::string quotedValue(std::string_view parameter, std::string_view value) {

@@ -8,13 +8,16 @@
 #include <iterator>
 #include <mutex>
 #include <set>
+#include <strings.h>
 
 namespace pages {
 namespace {
 
-// Endings of names; a key that only names an entry ends otherwise. sandbox/value/secret.cpp has the same.
-constexpr std::string_view kEndings[] = {"PIN",          "Passphrase", "Password", "Pin",
-                                         "PreSharedKey", "PrivateKey", "Secret",   "WEPKey"};
+// Endings of names, in any case, as makers and mistakes have it; a key that only names an entry ends otherwise.
+// sandbox/value/secret.cpp has the same.
+constexpr std::string_view kEndings[] = {"authkey",      "passphrase", "passwd", "password", "pin",
+                                         "presharedkey", "privatekey", "psk",    "pwd",      "secret",
+                                         "token",        "userpass",   "wepkey"};
 
 constexpr std::string_view kArrow = "=>";
 constexpr size_t kNotedLeast = 5; // bytes: what is shorter stands in other words as well
@@ -46,8 +49,10 @@ void hideRow(std::string &line) {
 } // namespace
 
 bool isSecret(std::string_view parameter) {
-    return std::any_of(std::begin(kEndings), std::end(kEndings),
-                       [&](std::string_view ending) { return parameter.ends_with(ending); });
+    return std::any_of(std::begin(kEndings), std::end(kEndings), [&](std::string_view ending) {
+        return parameter.size() >= ending.size() &&
+               strncasecmp(parameter.data() + parameter.size() - ending.size(), ending.data(), ending.size()) == 0;
+    });
 }
 
 ShowSecrets::ShowSecrets(bool show) : before_(showing) {
