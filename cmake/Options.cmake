@@ -39,9 +39,6 @@ endif()
 # Sanitizers bring a run-time library of their own: what is said about link lines elsewhere holds without them only.
 set(CALTOFAL_SANITIZE "" CACHE STRING "Sanitizers to build with, such as 'address,undefined' or 'thread'")
 if(CALTOFAL_SANITIZE)
-  # Their reports name functions and lines; what a debugger wants besides takes a third of the time to compile.
-  set(CMAKE_CXX_FLAGS_DEBUG -g1)
-  set(CMAKE_C_FLAGS_DEBUG -g1)
   add_compile_options(-fsanitize=${CALTOFAL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${CALTOFAL_SANITIZE})
 endif()
