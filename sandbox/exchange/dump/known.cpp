@@ -24,7 +24,7 @@ class Known {
         return known;
     }
 
-    std::unordered_map<std::string, KnownParameter, Hash, std::equal_to<>> parameters;
+    std::unordered_map<std::string, Definition, Hash, std::equal_to<>> parameters;
     std::unordered_map<std::string, bool, Hash, std::equal_to<>> tables;
     std::set<std::string, std::less<>> tops;
     Entries templates; // as declared, each once
@@ -54,7 +54,7 @@ class Known {
             } else if (entry.type) {
                 parameters.try_emplace(
                     patternOf(entry.path) + entry.name,
-                    KnownParameter{*entry.type, entry.writable.value_or(false), entry.fallback.value_or("")});
+                    Definition{*entry.type, entry.writable.value_or(false), entry.fallback.value_or("")});
             }
         }
     }
@@ -64,7 +64,7 @@ class Known {
 
 } // namespace
 
-const KnownParameter *knownParameter(std::string_view pattern) {
+const Definition *knownParameter(std::string_view pattern) {
     const auto &parameters = Known::instance().parameters;
     const auto found = parameters.find(pattern);
     return found == parameters.end() ? nullptr : &found->second;

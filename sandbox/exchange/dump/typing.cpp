@@ -76,7 +76,7 @@ void Typing::describe(const DumpRow &row, Entry &entry, ImportReport &report) {
         entry.fallback = row.fallback;
         return;
     }
-    const KnownParameter *known = knownParameter(pattern_ + entry.name);
+    const Definition *known = knownParameter(pattern_ + entry.name);
     const std::optional<ValueType> said = row.type.empty() ? std::nullopt : typeOfWord(row.type, numbers_);
     if (!row.type.empty() && !said && (numbers_ || !isInteger(row.type))) {
         report.count(Reason::UnknownType, entry.fullPath() + ": " + row.type);
