@@ -51,6 +51,18 @@ class Changes(unittest.TestCase):
                     now = self.server.get(f"/objects?path={one['object']}.{one['parameter']}").json[one["object"]]
                     self.assertEqual(now[one["parameter"]], one["to"])
 
+    def test_notes_are_in_a_header(self):
+        """What the command line says on standard error, in ASCII, as no header holds other bytes."""
+        self.server.tool("set", "Device.WiFi.Radio.1.AutoChannelEnable=true")
+        answer = self.server.patch("/wifi/radios/1", {"Channel": 11})
+        self.assertEqual(json.loads(answer.headers["Caltofal-Notes"]),
+                         ["AutoChannelEnable is true: the radio chooses its channel itself"])
+        subprocess.run([SANDBOX, "import", "home", "-"], env=environment(self.server.folder), check=True, capture_output=True,
+                       input="# values as texts\nDevice.DNS.Client.Server.1.DNSServer = Grü\x1b\n".encode())
+        self.assertRegex(self.server.get("/dns").headers["Caltofal-Notes"],
+                         r'^\["DNS server \\"Gr\\u00fc\\u001b\\" is not an address: [ -~]*"\]$')
+        self.assertIsNone(self.server.get("/lan").headers["Caltofal-Notes"])
+
     def test_settings_dry_run_is_the_command_lines(self):
         body = {"OperatingChannelBandwidth": "40", "ExtensionChannel": "upper"}
         dry = self.server.patch("/wifi/radios/1?dry_run=1", body)

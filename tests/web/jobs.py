@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """What takes long: scans, WPS and the mesh, in the device box."""
+import json
 import time
 import unittest
 
@@ -44,7 +45,10 @@ class Jobs(unittest.TestCase):
         self.assertTrue(all(network["channel"] <= 14 for network in jobs[0]["result"]["networks"]))
         self.assertTrue(all(network["channel"] > 14 for network in jobs[1]["result"]["networks"]))
         self.assertEqual(jobs[2]["result"], {"wps": "Success"})
+        made_up = "the sandbox made these networks up"
+        self.assertEqual([job["notes"][:1] for job in jobs], [[made_up], [made_up], []])
         survey = server.get("/wifi/survey")
+        self.assertIn(made_up, json.loads(survey.headers["Caltofal-Notes"]))
         self.assertEqual((survey.status, server.get("/wifi/survey?empty=1").body), (200, survey.body))
         self.assertEqual([job["id"] for job in server.get("/jobs").json["jobs"]], numbers)
 

@@ -105,6 +105,10 @@ std::string toJson(const Value &value, int indent) {
     return jsonOf(value).dump(indent, ' ', false, Json::error_handler_t::replace);
 }
 
+std::string toAsciiJson(const Value &value) {
+    return jsonOf(value).dump(-1, ' ', true, Json::error_handler_t::replace);
+}
+
 Value fromJson(std::string_view text, int depthMax) {
     Watch watch(depthMax);
     try {

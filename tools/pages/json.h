@@ -13,6 +13,9 @@ namespace pages {
 // sibling "KEY_hex" with its bytes; in the text itself, such bytes are replaced.
 std::string toJson(const Value &value, int indent = -1);
 
+// In one line of ASCII: other characters are escaped.
+std::string toAsciiJson(const Value &value);
+
 // Throws Usage with what is wrong and where; a member that stands twice is wrong too. `depthMax`: nested deeper, a text
 // is refused.
 Value fromJson(std::string_view text, int depthMax = 64);

@@ -5,6 +5,7 @@
 #include "device_tools.h"
 #include "pages/checked.h"
 #include "pages/failure.h"
+#include "pages/layer/call.h"
 #include "pages/mesh/pages.h"
 #include "pages/network/pages.h"
 #include "pages/objects/pages.h"
@@ -196,18 +197,7 @@ Jobs::Work syncWork(const Call &call) {
     return [](pages::Wait &wait) { return pages::mesh::sync(wait); };
 }
 
-} // namespace
-
-Report read(const Call &call) {
-    return rowOf(call).read(call);
-}
-
-Report change(const Call &call) {
-    return rowOf(call).change(call);
-}
-
-Jobs::Work workOf(const Call &call) {
-    needDeviceTools();
+Jobs::Work plainWorkOf(const Call &call) {
     switch (call.resource->subject) {
     case web::Subject::WifiScans:
         return scanWork(call);
@@ -216,6 +206,30 @@ Jobs::Work workOf(const Call &call) {
     default:
         return syncWork(call);
     }
+}
+
+// Failed requests that a page hides are notes, as on the command line.
+template <class Page>
+Report noted(const Page &page) {
+    const pages::HiddenFailures hidden;
+    Report report = page();
+    report.notes.insert(report.notes.end(), hidden.notes().begin(), hidden.notes().end());
+    return report;
+}
+
+} // namespace
+
+Report read(const Call &call) {
+    return noted([&] { return rowOf(call).read(call); });
+}
+
+Report change(const Call &call) {
+    return noted([&] { return rowOf(call).change(call); });
+}
+
+Jobs::Work workOf(const Call &call) {
+    needDeviceTools();
+    return [work = plainWorkOf(call)](pages::Wait &wait) { return noted([&] { return work(wait); }); };
 }
 
 } // namespace web

@@ -47,10 +47,14 @@ bool Api::isSlow(const Request &request) {
 }
 
 Response Api::answer(const Request &request) {
-    return answered([&] {
+    Response response = answered([&] {
         const Target target = parseTarget(request.target);
         return isApi(target.path) ? answerCall(request, target) : answerFile(request, target);
     });
+    if (gate_.readOnly()) { // a page need not offer changes
+        response.headers.push_back({"Caltofal-Read-Only", "1"});
+    }
+    return response;
 }
 
 Response Api::answerCall(const Request &request, const Target &target) {
@@ -77,14 +81,14 @@ Response Api::answerRead(const Call &call) {
     case Subject::Job:
         return jsonResponse(found(jobs_.find(call.argument), call));
     default:
-        return jsonResponse(read(call).json);
+        return reportResponse(read(call));
     }
 }
 
 Response Api::answerChange(const Call &call) {
     switch (call.method) {
     case kPatch:
-        return jsonResponse(change(call).json);
+        return reportResponse(change(call));
     case kDelete:
         return jsonResponse(found(jobs_.cancel(call.argument), call));
     default:

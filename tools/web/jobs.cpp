@@ -59,6 +59,7 @@ class Jobs::Job : public pages::Wait {
                                      {"of", most_.count() > 0 ? seconds(most_) : Value()}});
         if (withResult) {
             value["result"] = result_;
+            value["notes"] = notes_;
             value["error"] = error_;
         }
         return value;
@@ -92,19 +93,25 @@ class Jobs::Job : public pages::Wait {
 
     void run(const Work &work) {
         try {
-            end(work(*this).json, {}, false);
+            const pages::Report report = work(*this);
+            Value notes = Value::list();
+            for (const std::string &note : report.notes) {
+                notes.push(note);
+            }
+            end(report.json, std::move(notes), {}, false);
         } catch (const pages::Cancelled &failure) {
-            end({}, pages::errorValue(failure)["error"], true);
+            end({}, Value::list(), pages::errorValue(failure)["error"], true);
         } catch (const pages::Failure &failure) {
-            end({}, pages::errorValue(failure)["error"], false);
+            end({}, Value::list(), pages::errorValue(failure)["error"], false);
         } catch (const std::exception &error) {
-            end({}, pages::errorValue({pages::Category::Failed, error.what()})["error"], false);
+            end({}, Value::list(), pages::errorValue({pages::Category::Failed, error.what()})["error"], false);
         }
     }
 
-    void end(Value result, Value error, bool cancelled) {
+    void end(Value result, Value notes, Value error, bool cancelled) {
         const std::lock_guard lock(mutex_);
         result_ = std::move(result);
+        notes_ = std::move(notes);
         error_ = std::move(error);
         wasCancelled_ = cancelled;
         end_ = steady_clock::now();
@@ -122,6 +129,7 @@ class Jobs::Job : public pages::Wait {
     steady_clock::time_point end_;
     milliseconds most_{0};
     Value result_, error_;
+    Value notes_ = Value::list();
     std::thread thread_; // last: it uses the others
 };
 

@@ -32,9 +32,9 @@ class Jobs {
     // Begins; answers the job as find() does. Throws Refusal (503) when too many run.
     pages::Value start(std::string kind, Work work);
 
-    // {"id", "kind", "state", "elapsed", "of", "result", "error"}: state is "running", "done", "failed" or "cancelled";
-    // elapsed and the most that it takes in seconds, null where that is not known; what it found, as the
-    // command line prints it, or why it failed. Null where there is no such job.
+    // {"id", "kind", "state", "elapsed", "of", "result", "notes", "error"}: state is "running", "done", "failed" or
+    // "cancelled"; elapsed and the most that it takes in seconds, null where that is not known; what it found, as the
+    // command line prints it, and its notes on that, or why it failed. Null where there is no such job.
     pages::Value find(std::string_view id);
 
     // Asks a job to end, and answers it as find() does.

@@ -21,10 +21,30 @@ const char *phraseOf(Status status) {
     }
 }
 
+constexpr size_t kNotesMax = 2000; // bytes: the HTTP library has little room for headers
+
+// What does not fit is left out.
+std::string notesText(const std::vector<std::string> &notes) {
+    std::string text;
+    for (const std::string &note : notes) {
+        const std::string one = (text.empty() ? "[" : ", ") + pages::toAsciiJson(note);
+        text += text.size() + one.size() < kNotesMax ? one : "";
+    }
+    return text.empty() ? text : text + "]";
+}
+
 } // namespace
 
 Response jsonResponse(const pages::Value &value, Status status) {
     return {status, pages::toJson(value, 2) + "\n"};
+}
+
+Response reportResponse(const pages::Report &report) {
+    Response response = jsonResponse(report.json);
+    if (std::string notes = notesText(report.notes); !notes.empty()) {
+        response.headers.push_back({"Caltofal-Notes", std::move(notes)});
+    }
+    return response;
 }
 
 Response errorResponse(const Refusal &refusal) {

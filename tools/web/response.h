@@ -2,7 +2,7 @@
 // An answer before it goes over a connection.
 #pragma once
 
-#include "pages/value.h"
+#include "pages/report.h"
 #include "refusal.h"
 
 #include <string>
@@ -24,6 +24,10 @@ struct Response {
 
 // JSON as the command line prints it.
 Response jsonResponse(const pages::Value &value, Status status = Status::Ok);
+
+// A page as the command line prints it; its notes, which the command line says on standard error, as a list of texts in
+// the header Caltofal-Notes, in JSON and ASCII.
+Response reportResponse(const pages::Report &report);
 
 // {"error": {"code", "exit", "message", "object"}}, null where there is none.
 Response errorResponse(const Refusal &refusal);
