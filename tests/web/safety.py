@@ -214,13 +214,17 @@ class Sessions(unittest.TestCase):
             self.assertEqual(stat.S_IMODE(os.stat(file).st_mode), 0o600)
 
     def test_read_only_refuses_every_change(self):
-        with Server("--read-only") as server:
-            for method, resource in (("PATCH", "/objects"), ("PATCH", "/objects?dry_run=1"), ("PATCH", "/wifi/ssids/1"),
+        with Server("--read-only", words=True) as server, Server() as other:
+            for method, resource in (("PATCH", "/objects"), ("PATCH", "/objects?dry_run=0"), ("PATCH", "/wifi/ssids/1"),
                                      ("POST", "/wifi/scans"), ("POST", "/wifi/wps"), ("POST", "/mesh/sync"),
                                      ("DELETE", "/jobs/1")):
                 answer = server.ask(method, "/api/v1" + resource, None if method == "DELETE" else CHANGE)
                 self.assertEqual((answer.status, "--read-only" in answer.message), (403, True), resource)
             self.assertNotIn("PATCH", str(server.get("").json))
+            dry, wrong = (server.patch(f"/objects?dry_run={flag}", CHANGE) for flag in ("1", "maybe"))
+            self.assertEqual((dry.status, dry.json["changes"][0]["to"], wrong.status), (200, 11, 400))
+            self.assertEqual(server.stored("Device.WiFi.Radio.1.Channel"), "6")
+            self.assertEqual([one.get("/wan").headers["Caltofal-Read-Only"] for one in (server, other)], ["1", None])
 
     def test_command_line(self):
         cases = [  # options, exit code, what it says

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "gate.h"
 
-#include "call.h"
 #include "refusal.h"
 
 #include <algorithm>
@@ -42,7 +41,7 @@ void Gate::check(const Request &request) const {
         session_.check(request);
         const Call call = parseCall(request.method, target);
         if (call.method != kGet) {
-            checkChange(request, call.method);
+            checkChange(request, call);
         }
     } else if (methodOf(request.method) != kGet) {
         throw Refusal(Status::MethodNotAllowed, "only GET is possible here", {{"Allow", "GET"}});
@@ -52,15 +51,15 @@ void Gate::check(const Request &request) const {
     }
 }
 
-void Gate::checkChange(const Request &request, unsigned method) const {
-    if (readOnly_) {
-        throw Refusal(Status::Forbidden, "this server was started with --read-only");
+void Gate::checkChange(const Request &request, const Call &call) const {
+    if (readOnly_ && !call.flag("dry_run")) {
+        throw Refusal(Status::Forbidden, "this server was started with --read-only: only dry runs are possible");
     }
     if (!isFromOwnPage(request.host, request.origin, request.fetchSite)) {
         throw Refusal(Status::Forbidden, "a change must come from this server's own origin: its Origin header, or "
                                          "Sec-Fetch-Site: same-origin, is missing or another one");
     }
-    if (method == kDelete) {
+    if (call.method == kDelete) {
         return; // has no body
     }
     if (!isJson(request.contentType)) {

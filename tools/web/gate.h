@@ -2,6 +2,7 @@
 // What a request must fulfil before anything of it is done, judged by its headers alone.
 #pragma once
 
+#include "call.h"
 #include "origin.h"
 #include "request.h"
 #include "session.h"
@@ -18,7 +19,7 @@ class Gate {
     [[nodiscard]] bool readOnly() const { return readOnly_; }
 
   private:
-    void checkChange(const Request &request, unsigned method) const;
+    void checkChange(const Request &request, const Call &call) const;
 
     OwnHosts hosts_;
     Session &session_;
