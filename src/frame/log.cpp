@@ -36,7 +36,7 @@ void printPrefix(const Level &level) {
 // The formats are the literals of this library's call sites, but reach printf through a parameter.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
-void write(const Level &level, const char *format, const char *tag, int line, const char *detail) {
+void writeMessage(const Level &level, const char *format, const char *tag, int line, const char *detail) {
     if (unfaltocalLogLevel < level.priority) {
         return;
     }
@@ -55,11 +55,11 @@ void write(const Level &level, const char *format, const char *tag, int line, co
 } // namespace
 
 void logCritical(const char *format, const char *tag, int line) {
-    write({LOG_CRIT, "CRITICAL", "\033[31m"}, format, tag, line, "");
+    writeMessage({LOG_CRIT, "CRITICAL", "\033[31m"}, format, tag, line, "");
 }
 
 void logError(const char *format, const char *tag, int line, const char *detail) {
-    write({LOG_ERR, "ERROR", "\033[38;5;214m"}, format, tag, line, detail);
+    writeMessage({LOG_ERR, "ERROR", "\033[38;5;214m"}, format, tag, line, detail);
 }
 
 } // namespace frame

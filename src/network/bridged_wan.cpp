@@ -39,7 +39,7 @@ void readInterface(ZintuWanInfo *info) {
 }
 
 // The interface is up when it holds an address that DHCP gave.
-void readAddress(ZintuWanInfo *info) {
+void readBridgeAddress(ZintuWanInfo *info) {
     const char *description = nullptr;
     const char *address = nullptr;
     const char *mask = nullptr;
@@ -81,7 +81,7 @@ int32_t ZintuGet_BrWanInfo(uint32_t flags, ZintuWanInfo *info) {
     }
     writeFixedValues(flags, info);
     readInterface(info);
-    readAddress(info);
+    readBridgeAddress(info);
     const int code = readGateway(info);
     info->bDnsAuto = 1;
     ZintuGet_WanDns(kInterface, info->sDNS1, info->sDNS2);

@@ -12,7 +12,7 @@ using namespace network;
 
 namespace {
 
-constexpr size_t kNameSize = 128;
+constexpr size_t kObjectNameSize = 128;
 constexpr char kInterfaceTable[] = "Device.IP.Interface";
 constexpr size_t kInterfaceTableLength = sizeof(kInterfaceTable) - 1;
 
@@ -48,6 +48,6 @@ int32_t ZintuGet_EthWanObjName(char *objName) {
     if (!last) {
         return -1;
     }
-    copyText(objName, kNameSize, last);
+    copyText(objName, kObjectNameSize, last);
     return 0;
 }

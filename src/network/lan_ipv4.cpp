@@ -49,7 +49,7 @@ void fillFrom(ObjectNode &object, LANv4Info &info) {
 }
 
 // 0, or the source line of the call that failed.
-int request(MsgHeader *message) {
+int requestIPv4(MsgHeader *message) {
     if (faltocal_send_main_multi_obj(message, "Device.IP.Interface.1.IPv4Address.1.&", "get", "get", 2, "IPAddress",
                                      "SubnetMask") == -1) {
         return 1556;
@@ -120,7 +120,7 @@ int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info) {
     writeLiteral(TAG);
     writeLiteral("START_FUNCTION : FAL \n");
     Message message;
-    if (const int line = request(message)) {
+    if (const int line = requestIPv4(message)) {
         traceFailedRequest(line);
         return -1;
     }

@@ -83,7 +83,7 @@ constexpr Request kRequests[] = {
 };
 
 // 0, or the source line of the call that failed.
-int request(MsgHeader *message) {
+int requestIPv6(MsgHeader *message) {
     for (const Request &row : kRequests) {
         if (faltocal_send_main_multi_obj(message, row.object, "get", "get", 0) == -1) {
             return row.line;
@@ -112,7 +112,7 @@ void traceResult(const LANv6Info &info, Place place) {
 int32_t ZintuGet_LANv6Info(LANv6Info *pxLANv6Info) {
     traceVola(Unit::NetworkGet, "START_FUNCTION : FAL \n");
     Message message;
-    if (const int line = request(message)) {
+    if (const int line = requestIPv6(message)) {
         traceFailedRequest(line);
         return -1;
     }

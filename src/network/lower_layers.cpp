@@ -10,7 +10,7 @@ using namespace network;
 
 namespace {
 
-constexpr size_t kNameSize = 128;
+constexpr size_t kLowerLayersSize = 128;
 
 } // namespace
 
@@ -25,7 +25,7 @@ int32_t ZintuGet_LowerLayers(const char *object, char *lowerLayers) {
         return traceFailure(code, "faltocal_SendMultiObj is Failure \n");
     }
     if (const char *value = findOrTrace(*message, "LowerLayers")) {
-        copyPadded(lowerLayers, kNameSize, value);
+        copyPadded(lowerLayers, kLowerLayersSize, value);
     }
     return 0;
 }

@@ -56,7 +56,7 @@ void storeAddress(const char *address, char (&field)[46]) {
     copyWhole(field, sizeof(field) + 1, address);
 }
 
-void readAddress(ZintuWanInfo *info) {
+void readIPv6Address(ZintuWanInfo *info) {
     // An interface path that ends in a dot gives a path with two.
     const Path path("%s.IPv6Address.1", Terminated(info->sWanIpInterface).c_str());
     Message message;
@@ -81,6 +81,6 @@ int readNextHop(ZintuWanInfo *info) {
 int32_t ZintuGet_WanIPv6(ZintuWanInfo *info) {
     readEnable(info);
     readType(info);
-    readAddress(info);
+    readIPv6Address(info);
     return readNextHop(info);
 }

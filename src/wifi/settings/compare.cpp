@@ -14,7 +14,7 @@ namespace {
 constexpr size_t kCompared = 256;
 
 // A wanted setting.
-struct Setting {
+struct Wanted {
     const char *object;
     const char *parameter;
     const char *value;
@@ -22,23 +22,23 @@ struct Setting {
     [[nodiscard]] bool isComplete() const { return object && parameter && value; }
 };
 
-// The table's row of a setting, or nullptr.
-const WifiParamRow *findRow(const WifiParamTable &table, const Setting &setting) {
+// The table's row of a wanted setting, or nullptr.
+const WifiParamRow *findRow(const WifiParamTable &table, const Wanted &wanted) {
     for (const WifiParamRow &row : rows(table)) {
-        if (sameName(row.parameter, setting.parameter) && sameName(row.object, setting.object)) {
+        if (sameName(row.parameter, wanted.parameter) && sameName(row.object, wanted.object)) {
             return &row;
         }
     }
     return nullptr;
 }
 
-bool hasValue(const WifiParamRow &row, const Setting &setting) {
-    return strncmp(row.value, setting.value, kCompared) == 0;
+bool hasValue(const WifiParamRow &row, const Wanted &wanted) {
+    return strncmp(row.value, wanted.value, kCompared) == 0;
 }
 
-void traceAbsent(const char *function, const Setting &setting) {
+void traceAbsent(const char *function, const Wanted &wanted) {
     traceVola({Unit::WifiUtil, __builtin_LINE(), function}, "\n\n  2.%s  <%s> [%s.%s=>%s]\n\n", function,
-              "db don't have paramter", setting.object, setting.parameter, setting.value);
+              "db don't have paramter", wanted.object, wanted.parameter, wanted.value);
 }
 
 // Shows the value that the row has, not the wanted one.
@@ -51,15 +51,15 @@ void traceRow(const char *function, const WifiParamTable &table, const WifiParam
 
 int ComparOrSetParam(WifiParamTable *current, WifiParamTable *changes, const char *object, const char *parameter,
                      const char *value, int force) {
-    const Setting setting = {object, parameter, value};
-    if (!current || !setting.isComplete()) {
+    const Wanted wanted = {object, parameter, value};
+    if (!current || !wanted.isComplete()) {
         return -1;
     }
-    const WifiParamRow *row = findRow(*current, setting);
+    const WifiParamRow *row = findRow(*current, wanted);
     if (!row) {
-        traceAbsent(__func__, setting);
+        traceAbsent(__func__, wanted);
     } else {
-        if (hasValue(*row, setting) && static_cast<uint8_t>(force) == 0) {
+        if (hasValue(*row, wanted) && static_cast<uint8_t>(force) == 0) {
             return 0;
         }
         traceRow(__func__, *current, *row);
@@ -68,16 +68,16 @@ int ComparOrSetParam(WifiParamTable *current, WifiParamTable *changes, const cha
 }
 
 int CheckGetParam(WifiParamTable *table, const char *object, const char *parameter, const char *value) {
-    const Setting setting = {object, parameter, value};
-    if (!table || !setting.isComplete()) {
+    const Wanted wanted = {object, parameter, value};
+    if (!table || !wanted.isComplete()) {
         return -1;
     }
-    const WifiParamRow *row = findRow(*table, setting);
+    const WifiParamRow *row = findRow(*table, wanted);
     if (!row) {
-        traceAbsent(__func__, setting);
+        traceAbsent(__func__, wanted);
         return -1;
     }
-    if (hasValue(*row, setting)) {
+    if (hasValue(*row, wanted)) {
         return 0;
     }
     traceRow(__func__, *table, *row);
@@ -86,8 +86,8 @@ int CheckGetParam(WifiParamTable *table, const char *object, const char *paramet
 
 int CheckGetReqDbAndCurDb(WifiParamTable *requested, WifiParamTable *current, const char *object, const char *parameter,
                           const char *value) {
-    const Setting setting = {object, parameter, value};
-    if (!requested || !current || !setting.isComplete()) {
+    const Wanted wanted = {object, parameter, value};
+    if (!requested || !current || !wanted.isComplete()) {
         return -1;
     }
     const int result = CheckGetParam(requested, object, parameter, value);
