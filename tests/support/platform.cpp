@@ -27,8 +27,10 @@ void link(ListLink &head, ListLink &node) {
     head.prev = &node;
 }
 
-ParamNode *addParam(ListLink &head, const char *name, const char *value) {
-    auto *node = static_cast<ParamNode *>(platform().allocate(sizeof(ParamNode)));
+using For = Platform::For;
+
+ParamNode *addParam(ListLink &head, const char *name, const char *value, For whom = For::Library) {
+    auto *node = static_cast<ParamNode *>(platform().allocate(sizeof(ParamNode), whom));
     if (node) {
         copyName(node->name, name);
         snprintf(node->value, sizeof(node->value), "%s", value ? value : "");
@@ -39,8 +41,8 @@ ParamNode *addParam(ListLink &head, const char *name, const char *value) {
 }
 
 template <class Node>
-Node *addNode(ListLink *head, const char *name, uint32_t subOper) {
-    auto *node = head ? static_cast<Node *>(platform().allocate(sizeof(Node))) : nullptr;
+Node *addNode(ListLink *head, const char *name, uint32_t subOper, For whom = For::Library) {
+    auto *node = head ? static_cast<Node *>(platform().allocate(sizeof(Node), whom)) : nullptr;
     if (node) {
         copyName(node->name, name);
         memcpy(node->platform, &subOper, sizeof(subOper));
@@ -127,7 +129,7 @@ std::vector<std::string> Platform::callTexts() const {
 }
 
 void *Platform::allocateHead(size_t size) {
-    void *head = allocate(size);
+    void *head = allocate(size, For::Library);
     const std::lock_guard lock(mutex_);
     if (head) {
         heads_.insert(head);
@@ -135,10 +137,11 @@ void *Platform::allocateHead(size_t size) {
     return head;
 }
 
-void *Platform::allocate(size_t size) {
+void *Platform::allocate(size_t size, For whom) {
     const std::lock_guard lock(mutex_);
-    ++allocations_;
-    if (failAllocation_ > 0 && --failAllocation_ == 0) {
+    Allocations &count = whom == For::Answer ? answered_ : requested_;
+    ++count.made;
+    if (count.failing > 0 && --count.failing == 0) {
         return nullptr;
     }
     return *live_.insert(calloc(1, size)).first;
@@ -179,10 +182,10 @@ int Platform::answer(const char *function, MsgHeader *message) {
     if (message->mainOper == CALTOFAL_OPER_GET && reply.code == 0 && message->objectList) {
         freeObjects(*message->objectList);
         for (const Object &object : reply.objects) {
-            auto *node = addNode<ObjectNode>(&message->objectList->link, object.name.c_str(), 0);
+            auto *node = addNode<ObjectNode>(&message->objectList->link, object.name.c_str(), 0, For::Answer);
             for (const Param &param : object.params) {
                 if (node) {
-                    addParam(node->params, param.name.c_str(), param.value.value_or("").c_str());
+                    addParam(node->params, param.name.c_str(), param.value.value_or("").c_str(), For::Answer);
                 }
             }
         }

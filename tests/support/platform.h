@@ -60,8 +60,10 @@ class Platform {
     }
     void otherwiseAsk(std::function<Reply()> source) { otherwise_ = std::move(source); }
 
-    // The n-th next allocation (1: the next) fails, and the n-th next message.
-    void failAllocation(int n) { failAllocation_ = n; }
+    // The n-th next allocation that the library asks for (1: the next) fails, the n-th next node of an answer, and the
+    // n-th next message.
+    void failAllocation(int n) { requested_.failing = n; }
+    void failNode(int n) { answered_.failing = n; }
     void failSend(int n, int code) {
         failSend_ = n;
         sendCode_ = code;
@@ -69,7 +71,8 @@ class Platform {
 
     [[nodiscard]] const std::vector<Call> &calls() const { return calls_; }
     [[nodiscard]] std::vector<std::string> callTexts() const;
-    [[nodiscard]] int allocations() const { return allocations_; }
+    [[nodiscard]] int allocations() const { return requested_.made; }
+    [[nodiscard]] int answeredNodes() const { return answered_.made; }
     [[nodiscard]] int releases() const { return releases_; }
     // Nodes allocated and not yet released, list heads included.
     [[nodiscard]] size_t nodes() const { return live_.size(); }
@@ -83,7 +86,8 @@ class Platform {
     [[nodiscard]] size_t heads() const { return heads_.size(); }
 
     // For the platform functions themselves.
-    void *allocate(size_t size);
+    enum class For { Library, Answer };
+    void *allocate(size_t size, For whom);
     void *allocateHead(size_t size);
     void deallocate(void *node);
     int answer(const char *function, MsgHeader *message);
@@ -93,8 +97,11 @@ class Platform {
     std::map<std::string, std::deque<Reply>> replies_;
     std::function<Reply()> otherwise_ = [] { return Reply{CALTOFAL_ABSENT_OBJECT}; };
     std::vector<Call> calls_;
-    int failAllocation_ = 0, failSend_ = 0, sendCode_ = 0;
-    int allocations_ = 0, releases_ = 0;
+    struct Allocations {
+        int made = 0, failing = 0;
+    };
+    Allocations requested_, answered_;
+    int failSend_ = 0, sendCode_ = 0, releases_ = 0;
     std::unordered_set<void *> live_, heads_;
     std::mutex mutex_; // nodes are made and released outside the layer's lock
 };

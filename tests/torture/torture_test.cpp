@@ -21,7 +21,8 @@ class Torture : public LibraryTest, public testing::WithParamInterface<Getter> {
     // A fresh platform that answers everything.
     static void restart() {
         resetPlatform();
-        platform().otherwise(richAnswer());
+        static const Reply rich = richAnswer();
+        platform().otherwise(rich);
         shell().onPopen = [](const std::string &) { return "1 2412 160 80 40+ 40- DFS\n"; };
     }
     // Only what is left on purpose is left; a failure may leave less of it.
@@ -43,13 +44,26 @@ TEST_P(Torture, EachAllocationFailsOnce) {
     const int allocations = platform().allocations();
     ASSERT_GT(allocations, 1);
     expectReleased("without a failure");
-    // An emulator takes a minute for a long page: it lets a hundred of many fail.
-    const int step = CALTOFAL_EMULATED ? std::max(1, allocations / 100) : 1;
-    for (int n = 1; n <= allocations; n += step) {
+    for (int n = 1; n <= allocations; ++n) {
         restart();
         platform().failAllocation(n);
         GetParam().run();
         expectReleased("allocation " + std::to_string(n));
+    }
+}
+
+TEST_P(Torture, EachNodeOfAnAnswerIsMissingOnce) {
+    restart();
+    GetParam().run();
+    const int nodes = platform().answeredNodes();
+    // A long page takes a minute under an emulator, and ten seconds under a sanitizer: there a hundred of many are
+    // enough.
+    const int step = CALTOFAL_SLOW ? std::max(1, nodes / 100) : 1;
+    for (int n = 1; n <= nodes; n += step) {
+        restart();
+        platform().failNode(n);
+        GetParam().run();
+        expectReleased("without node " + std::to_string(n));
     }
 }
 
