@@ -83,7 +83,11 @@ std::string hexOf(std::string_view text) {
 }
 
 std::string inQuotes(std::string_view text) {
-    return '"' + std::string(text.substr(0, kQuotedMax)) + '"';
+    std::string result;
+    for (const char c : text.substr(0, kQuotedMax)) {
+        result += c == '\0' ? "\\u0000" : std::string(1, c); // what() of an exception would end there
+    }
+    return '"' + result + '"';
 }
 
 std::string plainPaths(const std::string &text) {

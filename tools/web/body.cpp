@@ -16,6 +16,9 @@ using pages::Usage;
 using pages::Value;
 
 std::string valueText(const std::string &name, const Value &value) {
+    if (value.isFraction()) { // it is not known any more how it was written
+        throw Usage(pages::inQuotes(name) + ": a number that is not a whole one of 64 bits is given as a text");
+    }
     if (value.isFlag() || value.isNumber()) {
         return pages::toJson(value);
     }

@@ -16,8 +16,8 @@ namespace web {
 // kDepthMax, or has a member twice.
 pages::Value parseBody(std::string_view body);
 
-// {"NAME": VALUE, ...}, at least one. Texts stay, numbers and flags become texts; other values are refused, and texts
-// with a NUL.
+// {"NAME": VALUE, ...}, at least one. Texts stay, whole numbers and flags become texts; other values are refused, and
+// texts with a NUL.
 std::vector<pages::Parameter> parametersOf(const pages::Value &object);
 
 // {"Device.A.": {"NAME": VALUE, ...}, ...}.
