@@ -1,10 +1,11 @@
 # SPDX-License-Identifier: MIT
 """What takes long: scans, WPS and the mesh, in the device box."""
 import json
+import subprocess
 import time
 import unittest
 
-from server import Server, has_box
+from server import SANDBOX, TOOL, Server, environment, has_box
 
 QUICK = {"CALTOFAL_BOX_SCAN_MS": "300", "CALTOFAL_BOX_WPS_MS": "600"}
 
@@ -61,14 +62,27 @@ class Jobs(unittest.TestCase):
             self.assertGreaterEqual(time.monotonic() - start, 1)
             self.assertLess(time.monotonic() - start, 2.5)
 
-    def test_a_second_scan_on_an_interface_fails(self):
+    def test_what_is_under_way_is_not_begun_again(self):
+        server = self.start(gateway="mesh", CALTOFAL_BOX_SCAN_MS="2000", CALTOFAL_BOX_WPS_MS="2000")
+        work = (("/wifi/scans", {"interface": "wlan0", "pace": 100}), ("/wifi/wps", {"pace": 100}), ("/mesh/sync", {}))
+        numbers = [self.begin(server, resource, body) for resource, body in work]
+        for (resource, body), number in zip(work, numbers):
+            again = server.post(resource, body)
+            self.assertEqual((again.status, again.headers["Retry-After"]), (503, "1"), again.body)
+            self.assertIn(f"job {number}", again.message)
+        self.assertEqual([self.wait(server, number)["state"] for number in numbers], ["done"] * 3)
+        for resource, body in work:
+            self.begin(server, resource, body)
+
+    def test_a_scan_of_somebody_else_is_said(self):
         server = self.start(CALTOFAL_BOX_SCAN_MS="1500")
-        first = self.begin(server, "/wifi/scans", {"interface": "wlan0", "pace": 100})
-        time.sleep(0.3)
-        second = self.wait(server, self.begin(server, "/wifi/scans", {"interface": "wlan0", "pace": 100}))
-        self.assertEqual((second["state"], second["error"]["exit"]), ("failed", 1))
-        self.assertIn("under way", second["error"]["message"])
-        self.assertEqual(self.wait(server, first)["state"], "done")
+        command = [SANDBOX, "run", "-g", "home", "--", TOOL, "wifi", "scan", "wlan0", "--pace", "100"]
+        with subprocess.Popen(command, env=environment(server.folder, CALTOFAL_BOX_SCAN_MS="1500"), cwd=server.folder,
+                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL):
+            time.sleep(0.7)
+            job = self.wait(server, self.begin(server, "/wifi/scans", {"interface": "wlan0", "pace": 100}))
+        self.assertEqual((job["state"], job["error"]["exit"]), ("failed", 1), job)
+        self.assertIn("under way", job["error"]["message"])
 
     def test_jobs_are_cancelled(self):
         server = self.start(CALTOFAL_BOX_SCAN_MS="20000", CALTOFAL_BOX_WPS_MS="20000")
@@ -91,14 +105,21 @@ class Jobs(unittest.TestCase):
         job = self.wait(server, self.begin(server, "/wifi/wps", {"pace": 50}))
         self.assertEqual((job["state"], job["error"]["exit"]), ("failed", 3))
         for resource, body, status in (
-                ("/wifi/scans", {}, 400), ("/wifi/scans", {"interface": "wlan0; reboot"}, 400),
+                ("/wifi/scans", {"interface": "wlan9"}, 404), ("/wifi/scans", {}, 400), ("/wifi/scans", {"interface": "wlan0; reboot"}, 400),
                 ("/wifi/scans", {"interface": "wlan0", "ssid": "it's"}, 400), ("/wifi/scans", {"interface": 1}, 400),
                 ("/wifi/scans", {"interface": "wlan0", "pace": 0}, 400), ("/wifi/scans", {"interface": "wlan0", "x": 1}, 400),
                 ("/wifi/wps", {"interface": "wlan0"}, 400), ("/mesh/sync", {"a": 1}, 400)):
             self.assertEqual(server.post(resource, body).status, status, (resource, body))
-        self.assertEqual(self.wait(server, self.begin(server, "/wifi/scans", {"interface": "wlan9"}))["error"]["exit"], 10)
-        numbers = [server.post("/wifi/wps", {}) for _ in range(9)]
-        self.assertEqual([answer.status for answer in numbers], [202] * 8 + [503])
+
+    def test_so_many_jobs_run_at_once(self):
+        server = self.start(CALTOFAL_BOX_SCAN_MS="20000")
+        names = [f"wlan0.{number}" for number in range(1, 10)]
+        text = "".join(f"Device.WiFi.SSID.{20 + number}.{line}\n" for number, name in enumerate(names)
+                       for line in (f"Name = {name}", "LowerLayers = Device.WiFi.Radio.1."))
+        subprocess.run([SANDBOX, "import", "home", "-"], env=environment(server.folder), input=f"# values as texts\n{text}".encode(),
+                       check=True, capture_output=True)
+        answers = [server.post("/wifi/scans", {"interface": name}) for name in names]
+        self.assertEqual([answer.status for answer in answers], [202] * 8 + [503])
 
     def test_the_mesh_is_synchronised(self):
         server = self.start(gateway="mesh")

@@ -10,6 +10,7 @@
 #include "pages/network/pages.h"
 #include "pages/objects/pages.h"
 #include "pages/text.h"
+#include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
 
 #include <algorithm>
@@ -179,32 +180,34 @@ std::chrono::milliseconds paceOf(const Value &body) {
     return std::chrono::milliseconds(pace.whole());
 }
 
-Jobs::Work scanWork(const Call &call) {
+Jobs::Task scanTask(const Call &call) {
     allowMembers(call.body, {"interface", "ssid", "pace"});
     pages::wifi::ScanRequest request =
         pages::wifi::checkedScan(textOf(call.body, "interface"), textOf(call.body, "ssid"));
     request.unit = paceOf(call.body);
-    return [request = std::move(request)](pages::Wait &wait) { return pages::wifi::scan(request, wait); };
+    pages::wifi::findInterface(request.interface);
+    const std::string interface = request.interface.text();
+    return {[request = std::move(request)](pages::Wait &wait) { return pages::wifi::scan(request, wait); }, interface};
 }
 
-Jobs::Work wpsWork(const Call &call) {
+Jobs::Task wpsTask(const Call &call) {
     allowMembers(call.body, {"pace"});
-    return [unit = paceOf(call.body)](pages::Wait &wait) { return pages::wifi::startWps(unit, wait); };
+    return {[unit = paceOf(call.body)](pages::Wait &wait) { return pages::wifi::startWps(unit, wait); }};
 }
 
-Jobs::Work syncWork(const Call &call) {
+Jobs::Task syncTask(const Call &call) {
     allowMembers(call.body, {});
-    return [](pages::Wait &wait) { return pages::mesh::sync(wait); };
+    return {[](pages::Wait &wait) { return pages::mesh::sync(wait); }};
 }
 
-Jobs::Work plainWorkOf(const Call &call) {
+Jobs::Task plainTaskOf(const Call &call) {
     switch (call.resource->subject) {
     case web::Subject::WifiScans:
-        return scanWork(call);
+        return scanTask(call);
     case web::Subject::WifiWps:
-        return wpsWork(call);
+        return wpsTask(call);
     default:
-        return syncWork(call);
+        return syncTask(call);
     }
 }
 
@@ -227,9 +230,11 @@ Report change(const Call &call) {
     return noted([&] { return rowOf(call).change(call); });
 }
 
-Jobs::Work workOf(const Call &call) {
+Jobs::Task taskOf(const Call &call) {
     needDeviceTools();
-    return [work = plainWorkOf(call)](pages::Wait &wait) { return noted([&] { return work(wait); }); };
+    Jobs::Task task = plainTaskOf(call);
+    task.work = [work = std::move(task.work)](pages::Wait &wait) { return noted([&] { return work(wait); }); };
+    return task;
 }
 
 } // namespace web

@@ -15,6 +15,6 @@ pages::Report read(const Call &call);
 pages::Report change(const Call &call);
 
 // The work of a POST, its arguments checked. Throws Failure.
-Jobs::Work workOf(const Call &call);
+Jobs::Task taskOf(const Call &call);
 
 } // namespace web

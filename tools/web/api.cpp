@@ -92,7 +92,7 @@ Response Api::answerChange(const Call &call) {
     case kDelete:
         return jsonResponse(found(jobs_.cancel(call.argument), call));
     default:
-        const pages::Value job = jobs_.start(std::string(call.resource->path.substr(1)), workOf(call));
+        const pages::Value job = jobs_.start(std::string(call.resource->path.substr(1)), taskOf(call));
         Response response = jsonResponse(job, Status::Accepted);
         response.headers.push_back({"Location", std::string(kApi) + "/jobs/" + job["id"].text()});
         return response;

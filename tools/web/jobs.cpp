@@ -25,8 +25,9 @@ Value seconds(milliseconds time) {
 
 class Jobs::Job : public pages::Wait {
   public:
-    Job(std::string id, std::string kind, Work work)
-        : id_(std::move(id)), kind_(std::move(kind)), thread_([this, task = std::move(work)] { run(task); }) {}
+    Job(std::string id, std::string kind, Task task)
+        : id_(std::move(id)), kind_(std::move(kind)), subject_(std::move(task.subject)),
+          thread_([this, work = std::move(task.work)] { run(work); }) {}
     Job(const Job &) = delete;
     Job &operator=(const Job &) = delete;
     ~Job() override {
@@ -35,6 +36,10 @@ class Jobs::Job : public pages::Wait {
     }
 
     [[nodiscard]] const std::string &id() const { return id_; }
+
+    [[nodiscard]] bool isOf(const std::string &kind, const std::string &subject) const {
+        return kind_ == kind && subject_ == subject;
+    }
 
     bool isRunning() {
         const std::lock_guard lock(mutex_);
@@ -120,6 +125,7 @@ class Jobs::Job : public pages::Wait {
 
     const std::string id_;
     const std::string kind_;
+    const std::string subject_;
     const steady_clock::time_point start_ = steady_clock::now();
     std::mutex mutex_;
     std::condition_variable changed_;
@@ -139,10 +145,11 @@ Jobs::~Jobs() {
     cancelAll(); // together, before each is waited for
 }
 
-Value Jobs::start(std::string kind, Work work) {
+Value Jobs::start(std::string kind, Task task) {
     const std::lock_guard lock(mutex_);
+    checkTurn(kind, task.subject);
     makeRoom();
-    jobs_.emplace_back(std::to_string(++last_), std::move(kind), std::move(work));
+    jobs_.emplace_back(std::to_string(++last_), std::move(kind), std::move(task));
     return jobs_.back().asValue(true);
 }
 
@@ -181,6 +188,16 @@ void Jobs::cancelAll() {
 Jobs::Job *Jobs::jobOf(std::string_view id) {
     const auto found = std::find_if(jobs_.begin(), jobs_.end(), [&](const Job &job) { return job.id() == id; });
     return found == jobs_.end() ? nullptr : &*found;
+}
+
+// The device has one place for the result: the end of one run would be taken for that of the other.
+void Jobs::checkTurn(const std::string &kind, const std::string &subject) {
+    const auto same =
+        std::find_if(jobs_.begin(), jobs_.end(), [&](Job &job) { return job.isOf(kind, subject) && job.isRunning(); });
+    if (same != jobs_.end()) {
+        throw Refusal(Status::Unavailable, "the same is under way as job " + same->id() + ": wait until it has ended",
+                      {{"Retry-After", "1"}});
+    }
 }
 
 void Jobs::makeRoom() {

@@ -24,13 +24,19 @@ class Jobs {
 
     using Work = std::function<pages::Report(pages::Wait &)>;
 
+    struct Task {
+        Work work;
+        std::string subject = {}; // what it works on: of a kind, one at a time
+    };
+
     Jobs();
     Jobs(const Jobs &) = delete;
     Jobs &operator=(const Jobs &) = delete;
     ~Jobs(); // cancels all, and waits for them
 
-    // Begins; answers the job as find() does. Throws Refusal (503) when too many run.
-    pages::Value start(std::string kind, Work work);
+    // Begins; answers the job as find() does. Throws Refusal (503) when too many run, or one of that kind on the same
+    // subject.
+    pages::Value start(std::string kind, Task task);
 
     // {"id", "kind", "state", "elapsed", "of", "result", "notes", "error"}: state is "running", "done", "failed" or
     // "cancelled"; elapsed and the most that it takes in seconds, null where that is not known; what it found, as the
@@ -50,7 +56,8 @@ class Jobs {
     class Job;
 
     Job *jobOf(std::string_view id); // with the mutex held
-    void makeRoom();                 // likewise
+    void makeRoom();                 // likewise, as the next
+    void checkTurn(const std::string &kind, const std::string &subject);
 
     std::mutex mutex_;
     std::list<Job> jobs_;
