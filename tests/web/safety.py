@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """What the server refuses, and what every answer carries."""
 import os
+import re
 import socket
 import stat
 import subprocess
@@ -123,13 +124,13 @@ class Refusals(unittest.TestCase):
             ('{"Device.WiFi.Radio.1.": {"Channel": 1}, "Device.WiFi.Radio.1": {"Channel": 2}}', 400, "twice"),
             ('{"Device.WiFi.Radio.1.": {"Channel": null}}', 400, "Channel"),
             ('{"Device.WiFi.Radio.1.": {"Channel": "a\\u0000b"}}', 400, "NUL"),
-            ('{"Device.WiFi.Radio.1.": {"Channel": "\xff"}}'.encode("latin-1"), 400, "JSON"),
             ('{"Device.WiFi.Radio.1.": {"Chan\\u0000nel": 1}}', 400, '"Chan\\u0000nel"'),
             ('{"Device.WiFi.\\u0000Radio.1.": {"Channel": 1}}', 400, '"Device.WiFi.\\u0000Radio.1."'),
             ('{"a\\u0000b": 1, "a\\u0000b": 1}', 400, '"a\\u0000b" is given twice'),
             ('{"Device.WiFi.Radio.1.": {"Channel": 1e1}}', 400, "as a text"),
             ('{"Device.WiFi.SSID.1.": {"SSID": 1.10}}', 400, "as a text"),
             ('{"Device.WiFi.SSID.1.": {"SSID": 123456789012345678901}}', 400, "as a text"),
+            ('{"Device.WiFi.Radio.1.": {"Channel": "\xff"}}'.encode("latin-1"), 400, "JSON"),
             ('{"Device.WiFi.Radio.1.": {"Channel": 1e999}}', 400, "too large"),
             ('{"Device.WiFi.Radio.1.": {}}', 400, "nothing to set"),
             ('{"Device.WiFi.Radio.1.": 3}', 400, "Device.WiFi.Radio.1."),
@@ -184,7 +185,7 @@ class Refusals(unittest.TestCase):
 
 class Sessions(unittest.TestCase):
     def test_the_token_opens_a_session(self):
-        with Server() as server, Server() as other:
+        with Server() as server, Server(words=True) as other:
             answer = server.ask("GET", f"/?token={server.token}", Authorization=None)
             self.assertEqual((answer.status, answer.headers["Location"]), (303, "/"))
             cookie, *attributes = answer.headers["Set-Cookie"].split("; ")
@@ -199,7 +200,7 @@ class Sessions(unittest.TestCase):
             self.assertEqual(other.get("", Authorization=f"Bearer {server.token}").status, 401)
 
     def test_five_wrong_tokens_make_wait(self):
-        with Server() as server:
+        with Server(words=True) as server:
             wrong = {"Authorization": "Bearer " + "f" * 32}
             self.assertEqual([server.get("", **wrong).status for _ in range(5)], [401] * 5)
             for answer in (server.get(""), server.ask("GET", f"/?token={server.token}", Authorization=None)):
@@ -259,6 +260,35 @@ class Sessions(unittest.TestCase):
             done = subprocess.run([WEB, "--listen", server.host], env=environment(server.folder), capture_output=True,
                                   text=True, timeout=10, check=False)
             self.assertEqual((done.returncode, "in use" in done.stderr), (1, True))
+
+
+class RefusalLog(unittest.TestCase):
+    def test_what_is_turned_away_is_logged(self):
+        with Server(words=True) as server:
+            wrong = {"Authorization": "Bearer not-the-token"}
+            for method, target, headers in (
+                    ("GET", "/api/v1/wifi/ssids/1?x=%1b[2J", wrong), ("GET", "/api/v1/%0a%1b[2J?token=secret", {"Authorization": None}),
+                    ("GET", "/?token=not-the-token", {}), ("PATCH", "/api/v1/objects", {"Origin": "http://evil.example"}),
+                    ("POST", "/api/v1/mesh/sync", {"Content-Type": "text/plain"}), ("EVIL", "/x", {"Host": "evil.example"}),
+                    *(("GET", "/api/v1", wrong) for _ in range(5)), ("GET", "/api/v1/nonsense", {}), ("GET", "/nonsense", {})):
+                server.ask(method, target, "{}" if method != "GET" else None, **headers)
+            lines = server.end().splitlines()
+        pattern = r"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ 127\.0\.0\.1 refused (.*) -> (\d+)"
+        matches = [re.fullmatch(pattern, line) for line in lines]
+        self.assertTrue(all(matches), lines)
+        self.assertEqual([(match[1].split(":")[0], match[2]) for match in matches],
+                         [("GET /api/v1/wifi/ssids/{N}", "401"), ("PATCH /api/v1/objects", "403"),
+                          ("POST /api/v1/mesh/sync", "415"), ("? /", "421"), ("GET /api", "503"), ("7 more", "401")])
+
+    def test_it_is_not_flooded(self):
+        with Server(words=True) as server:
+            for _ in range(300):
+                server.get("", Host="evil.example")
+            time.sleep(10.1)
+            server.get("", Host="evil.example")
+            lines = server.end().splitlines()
+        self.assertEqual([line.split(" refused ")[1].split(":")[0] for line in lines],
+                         ["GET /api/v1", "299 more -> 421", "GET /api/v1"])
 
 
 class Limits(unittest.TestCase):

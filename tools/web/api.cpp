@@ -65,7 +65,7 @@ Response Api::answerCall(const Request &request, const Target &target) {
     }
     Response response = answered([&] { return answerChange(call); });
     if (!call.flag("dry_run")) {
-        logChange(changeText(call, request), request, response.status);
+        logChange(call, request, response.status);
     }
     return response;
 }
@@ -118,7 +118,7 @@ Response Api::answerFile(const Request &request, const Target &target) {
                                     [](const QueryItem &item) { return item.name == "token"; });
     if (target.path == "/" && token != target.query.end()) {
         Response response{Status::SeeOther};
-        response.headers = {{"Location", "/"}, {"Set-Cookie", session_.open(token->value, request)}};
+        response.headers = {{"Location", "/"}, {"Set-Cookie", gate_.open(token->value, request)}};
         return response;
     }
     const PageFile *file = findPageFile(target.path);

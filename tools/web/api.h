@@ -14,7 +14,7 @@ class Api {
   public:
     Api(Session &session, const Gate &gate) : session_(session), gate_(gate) {}
 
-    // Whether an answer takes long: see Resource::slow.
+    // Whether an answer takes long: see Resource::slow; changes wait for each other.
     [[nodiscard]] static bool isSlow(const Request &request);
 
     // Asks what runs to end.
@@ -31,7 +31,6 @@ class Api {
     Response answerJob(const Call &call);
     [[nodiscard]] Response index() const;
 
-    Session &session_;
     const Gate &gate_;
     Jobs jobs_;
 };

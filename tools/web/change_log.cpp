@@ -1,40 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "change_log.h"
 
+#include "log_line.h"
 #include "pages/text.h"
 
-#include <ctime>
-#include <unistd.h>
+#include <string>
 #include <vector>
 
 namespace web {
 namespace {
 
-constexpr size_t kTextMax = 1000;
-
-// What a client chose cannot end the line or steer a terminal.
-std::string plain(std::string_view text) {
-    std::string result;
-    for (const char c : text.substr(0, kTextMax)) {
-        result += c > ' ' && c < 0x7f ? c : '?';
-    }
-    return result + (text.size() > kTextMax ? "..." : "");
-}
-
-std::string now() {
-    const time_t seconds = time(nullptr);
-    struct tm parts {};
-    gmtime_r(&seconds, &parts);
-    char text[32];
-    strftime(text, sizeof(text), "%Y-%m-%dT%H:%M:%SZ", &parts);
-    return text;
-}
-
-} // namespace
-
-std::string changeText(const Call &call, const Request &request) {
+std::vector<std::string> namesOf(const pages::Value &body) {
     std::vector<std::string> names;
-    for (const auto &[name, value] : call.body.members()) {
+    for (const auto &[name, value] : body.members()) {
         if (!value.isObject()) {
             names.push_back(name);
         }
@@ -42,17 +20,19 @@ std::string changeText(const Call &call, const Request &request) {
             names.push_back(std::string(pages::withoutDot(name)) + "." + parameter);
         }
     }
-    std::string text = request.method + " " + plain(request.target);
-    for (const std::string &name : names) {
-        text += (&name == names.data() ? " " : ",") + plain(name);
-    }
-    return text;
+    return names;
 }
 
-void logChange(const std::string &text, const Request &request, Status status) {
-    const std::string line =
-        now() + " " + request.address + " " + text + " -> " + std::to_string(static_cast<unsigned>(status)) + "\n";
-    static_cast<void>(!write(STDERR_FILENO, line.data(), line.size()));
+} // namespace
+
+void logChange(const Call &call, const Request &request, Status status) {
+    std::string text = request.method + " " + plain(request.target);
+    const char *before = " ";
+    for (const std::string &name : namesOf(call.body)) {
+        text += before + plain(name);
+        before = ",";
+    }
+    logLine(request.address, text, status);
 }
 
 } // namespace web

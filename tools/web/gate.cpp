@@ -26,12 +26,30 @@ void checkLength(const Request &request) {
     }
 }
 
+template <class Judging>
+auto noting(RefusalLog &log, const Request &request, const Judging &judging) {
+    try {
+        return judging();
+    } catch (const Refusal &refusal) {
+        log.note(request, refusal);
+        throw;
+    }
+}
+
 } // namespace
 
-Gate::Gate(OwnHosts hosts, Session &session, bool readOnly)
-    : hosts_(std::move(hosts)), session_(session), readOnly_(readOnly) {}
+Gate::Gate(OwnHosts hosts, Session &session, RefusalLog &log, bool readOnly)
+    : hosts_(std::move(hosts)), session_(session), log_(log), readOnly_(readOnly) {}
 
 void Gate::check(const Request &request) const {
+    noting(log_, request, [&] { judge(request); });
+}
+
+std::string Gate::open(const std::string &token, const Request &request) const {
+    return noting(log_, request, [&] { return session_.open(token, request); });
+}
+
+void Gate::judge(const Request &request) const {
     if (!hosts_.isOwn(request.host)) {
         throw Refusal(Status::MisdirectedRequest,
                       "this server does not answer to that Host; --host adds a name when it is started");

@@ -74,8 +74,9 @@ void printUrl(const Options &options, const Listener &listener, const std::strin
 void serve(const Options &options, const sigset_t &endSignals) {
     const Listener listener = listenOn(options.listen);
     Session session(listener.port);
-    const Gate gate(OwnHosts(listener.text(), options.hosts), session, options.readOnly);
-    Api api(session, gate);
+    RefusalLog refusals;
+    const Gate gate(OwnHosts(listener.text(), options.hosts), session, refusals, options.readOnly);
+    Api api(gate);
     Server server(listener.descriptor, {options.connections, options.connectionsPerAddress}, gate, api);
     if (!options.tokenFile.empty()) {
         writeSecret(options.tokenFile, session.token());

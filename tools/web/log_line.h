@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// The log, on standard error.
+#pragma once
+
+#include "status.h"
+
+#include <string>
+#include <string_view>
+
+namespace web {
+
+// What a client chose, so that it cannot end a line or steer a terminal: without blanks, and cut where it is long.
+std::string plain(std::string_view text);
+
+// Writes "TIME ADDRESS TEXT -> STATUS" at once, in one piece. Safe for many threads.
+void logLine(const std::string &address, const std::string &text, Status status);
+
+} // namespace web
