@@ -3,6 +3,7 @@
 #include "body.h"
 #include "bytes.h"
 #include "call.h"
+#include "etag.h"
 #include "origin.h"
 #include "pages/failure.h"
 #include "refusal.h"
@@ -53,6 +54,15 @@ void checkCall(const Call &call) {
     static_cast<void>(call.flag("dry_run"));
 }
 
+// What a client names as read: in no case another tag than the one that stands there.
+void checkTags(const std::string &ifMatch) {
+    const std::string tag = etagOf("");
+    const bool allowed = etagAllows(ifMatch, tag).value_or(false);
+    require(!allowed || ifMatch.find('*') != std::string::npos || ifMatch.find(tag) != std::string::npos,
+            "a foreign tag");
+    require(etagAllows(ifMatch + "," + tag, tag).value_or(true), "a tag that is not found");
+}
+
 void checkBody(const pages::Value &body) {
     for (const pages::Object &object : objectsOf(body)) {
         require(object.name.starts_with("Device.") && !object.parameters.empty(), "a change of nothing");
@@ -71,6 +81,8 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     const bool own = OwnHosts("127.0.0.1:8080", {"gateway.example"}).isOwn(host);
     require(!own || !isFromOwnPage(host, "http://evil.example", "same-origin"), "a foreign page");
     static_cast<void>(isFromOwnPage(host, origin, ""));
+
+    checkTags(origin);
 
     const std::string method = bytes.text();
     const std::string text = bytes.text();

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """What PATCH writes, shows before, refuses and logs."""
+import concurrent.futures
 import json
 import re
 import subprocess
@@ -109,6 +110,58 @@ class Changes(unittest.TestCase):
                 if code:
                     self.assertEqual(answer.json["error"]["code"], code)
                 self.assertEqual(self.server.stored(CHANNEL), "6")
+
+    def test_a_change_holds_for_what_its_client_has_read(self):
+        """If-Match: the tag of the same resource's GET; for objects that of the query's paths, else of the body's."""
+        radio, ssid = "/objects?path=Device.WiFi.Radio.1", {"SSID": "mine"}
+        own, leaf = self.server.get(radio).headers["ETag"], self.server.get(radio + "&leaf=1").headers["ETag"]
+        pair = self.server.get(radio + "&path=Device.WiFi.SSID.1.").headers["ETag"]
+        wifi = self.server.get("/wifi/ssids/1").headers["ETag"]
+        body = {"Device.WiFi.Radio.1.": {"Channel": 11}}
+        both = {**body, "Device.WiFi.SSID.1": {"SSID": "x"}}
+        cases = [  # resource, body, If-Match, status while all is as it was read, and after another's change
+            ("/objects", body, own, 200, 412), ("/objects", body, leaf, 412, 412), ("/objects?leaf=1", body, leaf, 200, 412),
+            ("/objects", both, pair, 200, 412), ("/objects", both, own, 412, 412),
+            ("/objects?path=Device.WiFi.Radio.1", both, own, 200, 412),
+            ("/objects?path=Device.DHCPv4", body, own, 412, 412), ("/objects?path=Device.Nope", body, own, 404, 404),
+            ("/wifi/ssids/1", ssid, wifi, 200, 412), ("/wifi/ssids/1?db_only=1", ssid, wifi, 200, 412),
+            ("/wifi/ssids/1", ssid, f' "a,b" ,, {wifi}', 200, 412), ("/wifi/ssids/1", ssid, "W/" + wifi, 412, 412),
+            ("/wifi/ssids/1", ssid, "*", 200, 200), ("/wifi/ssids/1", ssid, "", 412, 412),
+            ("/wifi/ssids/77", ssid, "*", 404, 404), ("/wifi/ssids/1", {"Nope": 1}, wifi, 404, 412),
+            *(("/wifi/ssids/1", ssid, text, 400, 400) for text in ("x", '"x', wifi + " " + wifi, wifi + ", *", 'w/"x"', '"\t"')),
+            ("/objects?path=Device.WiFi.Radio.1", body, None, 400, 400), ("/objects?leaf=0", body, None, 400, 400),
+        ]
+        for turn in (3, 4):
+            for resource, given, tag, *statuses in cases:
+                with self.subTest(resource=resource, given=given, tag=tag, turn=turn):
+                    dry = self.server.patch(resource + "&?"["?" not in resource] + "dry_run=1", given, If_Match=tag)
+                    self.assertEqual(dry.status, statuses[turn - 3], dry.body)
+                    self.assertIn("changes" if dry.status == 200 else "error", dry.json)
+            self.server.tool("set", f"{CHANNEL}=3", "Device.WiFi.SSID.1.SSID=theirs")
+        refused = self.server.patch("/wifi/ssids/1", ssid, If_Match=wifi)
+        self.assertEqual((refused.status, self.server.stored("Device.WiFi.SSID.1.SSID")), (412, "theirs"))
+        fresh = self.server.get("/wifi/ssids/1").headers["ETag"]
+        self.assertEqual(self.server.patch("/wifi/ssids/1", ssid, If_Match=fresh).status, 200)
+        lines = f'If-Match: "x"\r\nIf-Match: {self.server.get("/wifi/ssids/1").headers["ETag"]}\r\n'  # one list
+        self.assertIn(b"HTTP/1.1 200", self.server.raw(
+            (f"PATCH /api/v1/wifi/ssids/1 HTTP/1.1\r\nHost: {self.server.host}\r\nOrigin: http://{self.server.host}\r\n"
+             f"Authorization: Bearer {self.server.token}\r\nContent-Type: application/json\r\nConnection: close\r\n{lines}"
+             'Content-Length: 15\r\n\r\n{"SSID": "our"}').encode()))
+
+    def test_changes_take_turns(self):
+        """Each of many at once tells what the one before it has written; of those with one tag a single one is made."""
+        def all_at_once(resource, bodies, **headers):
+            with concurrent.futures.ThreadPoolExecutor(8) as pool:
+                return list(pool.map(lambda body: self.server.patch(resource, body, **headers), bodies))
+        bodies = [{"SSID": f"n{number}"} for number in range(24)]
+        written = [answer.json["changes"][0] for answer in all_at_once("/wifi/ssids/1", bodies)]
+        self.assertEqual(len({one["from"] for one in written}), len(bodies))
+        self.assertEqual({one["from"] for one in written} ^ {one["to"] for one in written},
+                         {"VOLA Home", self.server.stored("Device.WiFi.SSID.1.SSID")})
+        tag = self.server.get("/objects?path=Device.WiFi.SSID.1.").headers["ETag"]
+        bodies = [{"Device.WiFi.SSID.1.": {"SSID": f"m{number}"}} for number in range(24)]
+        statuses = [answer.status for answer in all_at_once("/objects", bodies, If_Match=tag)]
+        self.assertEqual(sorted(statuses), [200] + [412] * 23)
 
     def test_each_change_is_logged_without_values(self):
         self.server.patch("/wifi/ssids/1", {"KeyPassphrase": "a-secret-of-mine"})

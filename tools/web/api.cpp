@@ -6,7 +6,7 @@
 #include "errors.h"
 #include "page_file.h"
 #include "pages/failure.h"
-#include "pages/json.h"
+#include "precondition.h"
 #include "secret.h"
 
 #include <algorithm>
@@ -40,7 +40,11 @@ pages::Value found(pages::Value job, const Call &call) {
 bool Api::isSlow(const Request &request) {
     try {
         const Target target = parseTarget(request.target);
-        return isApi(target.path) && parseCall(request.method, target).resource->slow;
+        if (!isApi(target.path)) {
+            return false;
+        }
+        const Call call = parseCall(request.method, target);
+        return call.resource->slow || call.method == kPatch;
     } catch (const Refusal &) {
         return false;
     }
@@ -63,7 +67,7 @@ Response Api::answerCall(const Request &request, const Target &target) {
     if (call.method == kGet) {
         return tagged(answerRead(call), request.ifNoneMatch);
     }
-    Response response = answered([&] { return answerChange(call); });
+    Response response = answered([&] { return answerChange(call, request); });
     if (!call.flag("dry_run")) {
         logChange(call, request, response.status);
     }
@@ -85,10 +89,10 @@ Response Api::answerRead(const Call &call) {
     }
 }
 
-Response Api::answerChange(const Call &call) {
+Response Api::answerChange(const Call &call, const Request &request) {
     switch (call.method) {
     case kPatch:
-        return reportResponse(change(call));
+        return answerPatch(call, request);
     case kDelete:
         return jsonResponse(found(jobs_.cancel(call.argument), call));
     default:
@@ -97,6 +101,13 @@ Response Api::answerChange(const Call &call) {
         response.headers.push_back({"Location", std::string(kApi) + "/jobs/" + job["id"].text()});
         return response;
     }
+}
+
+// What a client has read, and what the answer says that was there before, is what this change replaces.
+Response Api::answerPatch(const Call &call, const Request &request) {
+    const std::lock_guard turn(changes_);
+    checkPrecondition(call, request);
+    return reportResponse(change(call));
 }
 
 // A line for each resource.

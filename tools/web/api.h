@@ -7,12 +7,14 @@
 #include "jobs.h"
 #include "response.h"
 
+#include <mutex>
+
 namespace web {
 
 // Safe for many threads.
 class Api {
   public:
-    Api(Session &session, const Gate &gate) : session_(session), gate_(gate) {}
+    explicit Api(const Gate &gate) : gate_(gate) {}
 
     // Whether an answer takes long: see Resource::slow; changes wait for each other.
     [[nodiscard]] static bool isSlow(const Request &request);
@@ -27,12 +29,14 @@ class Api {
     Response answerCall(const Request &request, const Target &target);
     Response answerFile(const Request &request, const Target &target);
     Response answerRead(const Call &call);
-    Response answerChange(const Call &call);
+    Response answerChange(const Call &call, const Request &request);
+    Response answerPatch(const Call &call, const Request &request);
     Response answerJob(const Call &call);
     [[nodiscard]] Response index() const;
 
     const Gate &gate_;
     Jobs jobs_;
+    std::mutex changes_; // which read, compare and write, one at a time
 };
 
 } // namespace web

@@ -18,8 +18,8 @@ bool hasName(std::string_view names, const std::string &name) {
 
 void checkQuery(const Call &call) {
     for (const QueryItem &item : call.query) {
-        const bool isOfChange = hasName("dry_run db_only ", item.name);
-        if (!hasName(call.resource->queries, item.name) || isOfChange == (call.method == kGet)) {
+        const bool isOfOthers = hasName(call.method == kGet ? "dry_run db_only " : "where empty ", item.name);
+        if (!hasName(call.resource->queries, item.name) || isOfOthers) {
             throw Refusal(Status::BadRequest, "\"" + item.name + "\" is not understood in this URL's query");
         }
     }

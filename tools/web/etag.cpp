@@ -1,10 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "etag.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 
 namespace web {
+namespace {
+
+constexpr std::string_view kBlanks = " \t";
+
+std::string_view trimmed(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+}
+
+// The length of the tag with its quotes, and "W/" where it is a weak one, at the beginning of a text; 0 where none is.
+size_t tagLength(std::string_view text) {
+    const size_t open = text.starts_with("W/") ? 2 : 0;
+    const size_t close = text.find('"', open + 1);
+    const bool isTag = text.substr(open).starts_with('"') && close != std::string_view::npos;
+    const std::string_view inside = isTag ? text.substr(open + 1, close - open - 1) : "";
+    const bool isPlain =
+        std::all_of(inside.begin(), inside.end(), [](unsigned char c) { return c > ' ' && c != 0x7f; });
+    return isTag && isPlain ? close + 1 : 0;
+}
+
+} // namespace
 
 std::string etagOf(std::string_view content) {
     uint64_t hash = 0xcbf29ce484222325;
@@ -19,6 +41,24 @@ std::string etagOf(std::string_view content) {
 // A tag of ours holds neither a quote nor a comma inside, so that finding it is enough.
 bool etagMatches(std::string_view ifNoneMatch, std::string_view etag) {
     return ifNoneMatch == "*" || ifNoneMatch.find(etag) != std::string_view::npos;
+}
+
+std::optional<bool> etagAllows(std::string_view ifMatch, std::string_view etag) {
+    std::string_view rest = trimmed(ifMatch);
+    if (rest == "*") {
+        return true;
+    }
+    bool found = false;
+    while (!rest.empty()) {
+        const size_t length = tagLength(rest); // 0 between two commas as well
+        found = found || rest.substr(0, length) == etag;
+        rest = trimmed(rest.substr(length));
+        if (!rest.empty() && rest.front() != ',') {
+            return {};
+        }
+        rest = trimmed(rest.substr(std::min<size_t>(1, rest.size())));
+    }
+    return found;
 }
 
 } // namespace web

@@ -45,6 +45,9 @@ void takeOther(Headers &headers, const char *name, const char *value) {
         uint64_t length = 0;
         const auto [end, error] = std::from_chars(value, value + strlen(value), length);
         headers.request.contentLength = error == std::errc() && *end == '\0' ? length : UINT64_MAX;
+    } else if (is(name, "If-Match")) { // a list, which may be spread over several
+        std::optional<std::string> &list = headers.request.ifMatch;
+        list = list ? *list + "," + value : value;
     } else if (is(name, "Transfer-Encoding")) {
         headers.request.chunked = true;
     } else if (is(name, "Expect")) {

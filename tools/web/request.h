@@ -20,6 +20,7 @@ struct Request {
     std::string address; // the client's, as text
     // Headers; absent ones are empty.
     std::string host, origin, fetchSite, authorization, cookie, contentType, ifNoneMatch;
+    std::optional<std::string> ifMatch; // an empty one is a list that no tag is in
     std::optional<uint64_t> contentLength;
     bool chunked = false;
 };

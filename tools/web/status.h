@@ -16,6 +16,7 @@ enum class Status : unsigned {
     MethodNotAllowed = 405,
     RequestTimeout = 408,
     LengthRequired = 411,
+    PreconditionFailed = 412,
     ContentTooLarge = 413,
     UnsupportedMediaType = 415,
     MisdirectedRequest = 421,
