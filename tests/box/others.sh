@@ -45,3 +45,27 @@ Far|100|0|NONE|NONE|00:00:00:00:00:00|20|unknown|auto|0' "$(scan other wl1.1)"
 expect 'else the box makes networks up and says so' 'made-up 7' "$(scan dhcp wlan0 | awk 'NR == 1 { origin = $0 } END { print origin, NR - 1 }')"
 printf '2.4GHz\tOwn list\t6\t-50\tNONE\tNONE\t02:00:5E:00:00:09\t20\t802.11n\tauto\t0\n' >"$CALTOFAL_SANDBOX_DIR/other.box/neighbours.tsv"
 expect 'a list beside the gateway comes first' 'file Own list' "$(scan other ath0 | cut -d '|' -f 1 | paste -sd ' ')"
+
+# A list with a mistake ends the box before its command, and a scan while it is open.
+list=$CALTOFAL_SANDBOX_DIR/other.box/neighbours.tsv
+good='2.4GHz\tOwn list\t6\t-50\tNONE\tNONE\t02:00:5E:00:00:09\t20\t802.11n\tauto\t0'
+wrong_list() { # SED_EXPRESSION WHAT: the line after a comment, an empty one and a good one
+    printf '# networks\n\n%b\n%b\n' "$good" "$good" | sed "4 $1" >"$list"
+    expect "$2 is named" "caltofal-device-model: $list:4: $3|1" "$({
+        tool run -g other -- echo ran 2>&1
+        echo $?
+    } | grep -v 'start script' | paste -sd '|')"
+}
+wrong_list 's/\t0$//' 'a missing column' 'a network has 11 columns with tabs between them, this line 10'
+wrong_list 's/2.4GHz/2GHz/' 'a wrong band' 'column 1, the band, is not 2.4GHz, 5GHz or 6GHz'
+wrong_list 's/-50/-50dBm/' 'a wrong signal' 'column 4, the signal, is not a whole number of dBm'
+wrong_list 's/:09/:9/' 'a wrong BSSID' 'column 7, the BSSID, is not six pairs of hexadecimal digits with colons'
+wrong_list 's/0$/yes/' 'a wrong flag' 'column 11, the product, is not 0 or 1'
+printf '%b\n' "$good" >"$list"
+export list
+expect 'a list that goes wrong in an open box' "scan: caltofal-device-model: $list:1: a network has 11 columns with tabs between them, this line 1" "$(in_box other '
+    . /opt/lantiq/etc/ugw_notify_defs.sh
+    echo wrong >/opt/lantiq/var/neighbours.tsv
+    ubus call servd notify "{\"nid\": $NOTIFY_WIFI_SCAN_ACTION, \"pn1\": \"Action\", \"pv1\": \"SCAN\", \"pn2\": \"Name\", \"pv2\": \"ath0\"}"
+    for i in $(seq 60); do caltofal-sandbox console -m -g other | grep -q neighbours.tsv: && break; usleep 50000; done
+    caltofal-sandbox console -m -g other' | sed -n 's/.*servd: \(scan: .*neighbours.tsv:.*\)/\1/p')"

@@ -39,12 +39,15 @@ Console::~Console() {
     close(file_);
 }
 
-void Console::drain() const {
+std::string Console::drain() const {
+    std::string moved;
     char bytes[65536];
     ssize_t length = 0;
     while ((length = read(pipe_, bytes, sizeof(bytes))) > 0) {
         [[maybe_unused]] const ssize_t written = write(file_, bytes, static_cast<size_t>(length));
+        moved.append(bytes, static_cast<size_t>(length));
     }
+    return moved;
 }
 
 } // namespace box

@@ -4,6 +4,8 @@
 // line would overwrite the one before. So it is a pipe with a name, emptied into a file that grows.
 #pragma once
 
+#include <string>
+
 namespace box {
 
 class Console {
@@ -17,8 +19,8 @@ class Console {
     // To be watched for input.
     [[nodiscard]] int descriptor() const { return pipe_; }
 
-    // Moves what has been written so far to the file.
-    void drain() const;
+    // Moves what has been written so far to the file, and answers it.
+    std::string drain() const; // NOLINT(modernize-use-nodiscard): most callers want it moved only
 
   private:
     int pipe_ = -1;

@@ -100,8 +100,9 @@ void dropPending() {
     }
 }
 
-// Runs the start script to its end, its output on the console. A session of their own keeps keys from the daemons.
-bool startDaemons() {
+// Runs the start script to its end, its output on the console; where it fails, on standard error too. A session of
+// their own keeps keys from the daemons.
+bool startDaemons(const Console &console) {
     const pid_t script = fork();
     if (script == 0) {
         setsid();
@@ -117,6 +118,7 @@ bool startDaemons() {
     while (waitpid(script, &status, 0) < 0 && errno == EINTR) {
     }
     if (script < 0 || status != 0) {
+        std::fputs(console.drain().c_str(), stderr);
         std::fprintf(stderr, "caltofal-sandbox: the device's start script failed (%d)\n", exitCodeOf(status));
         return false;
     }
@@ -203,8 +205,9 @@ int run(const Invocation &invocation) {
     linkPrograms();
     linkProc();
     links.extend();
-    if (!startDaemons()) {
-        return kExitNoBox;
+    if (!startDaemons(logs.console)) {
+        [[maybe_unused]] const ssize_t written = write(invocation.ready, "", 1); // the box itself is there
+        return kExitFailed;
     }
     const int own = signalfd(-1, &handled, SFD_CLOEXEC);
     const pid_t command = own < 0 ? -1 : startCommand(invocation);

@@ -204,7 +204,7 @@ void startDriver(const sandbox::Location &location, const std::string &directory
         serve(location, directory, ends[1]);
     }
     close(ends[1]);
-    char reason[256];
+    char reason[1024];
     const ssize_t length = read(ends[0], reason, sizeof(reason));
     close(ends[0]);
     if (length != 0) {

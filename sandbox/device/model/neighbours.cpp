@@ -2,9 +2,10 @@
 #include "device/model/neighbours.h"
 
 #include "device/model/diagnostic_results.h"
+#include "device/model/neighbour_list.h"
+#include "store/location.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <stdexcept>
 
@@ -14,42 +15,10 @@ namespace {
 constexpr const char *kOwnFile = "/opt/lantiq/var/neighbours.tsv";
 constexpr const char *kFile = "/opt/lantiq/lib/neighbours.tsv";
 
-// Columns of a line.
-constexpr size_t kBand = 0;
-constexpr size_t kSsid = 1;
-constexpr size_t kSignal = 3;
-constexpr size_t kBssid = 6;
-constexpr size_t kColumns = 11;
-
-std::vector<std::string> tabSeparated(const std::string &line) {
-    std::vector<std::string> columns{""};
-    for (const char c : line) {
-        if (c == '\t') {
-            columns.emplace_back();
-        } else {
-            columns.back() += c;
-        }
-    }
-    return columns;
-}
-
-Neighbour neighbourOf(const std::string &line) {
-    const std::vector<std::string> columns = tabSeparated(line);
-    if (columns.size() != kColumns) {
-        throw std::runtime_error("neighbours.tsv: a band and ten columns are wanted: " + line);
-    }
-    return {columns[kBand], columns[kSsid], columns[kBssid], std::atoi(columns[kSignal].c_str()),
-            line.substr(columns[kBand].size() + 1)};
-}
-
-std::vector<Neighbour> readList(std::ifstream &file) {
-    std::vector<Neighbour> neighbours;
-    for (std::string line; std::getline(file, line);) {
-        if (!line.empty() && line.front() != '#') {
-            neighbours.push_back(neighbourOf(line));
-        }
-    }
-    return neighbours;
+// As the person who put it there knows it.
+std::string ownName() {
+    const sandbox::Location gateway = sandbox::Location::current();
+    return gateway.directory + "/" + gateway.name + ".box/neighbours.tsv";
 }
 
 } // namespace
@@ -68,7 +37,7 @@ const char *nameOf(Origin origin) {
 
 Surroundings readSurroundings(sandbox::Database &database) {
     if (std::ifstream own(kOwnFile); own) {
-        return {Origin::File, readList(own)};
+        return {Origin::File, parseNeighbours(own, ownName())};
     }
     if (std::vector<Neighbour> results = diagnosticResults(database); !results.empty()) {
         return {Origin::Gateway, std::move(results)};
@@ -77,7 +46,7 @@ Surroundings readSurroundings(sandbox::Database &database) {
     if (!file) {
         throw std::runtime_error(std::string(kFile) + " cannot be read");
     }
-    return {Origin::MadeUp, readList(file)};
+    return {Origin::MadeUp, parseNeighbours(file, kFile)};
 }
 
 std::vector<Neighbour> within(const std::vector<Neighbour> &neighbours, const Interface &interface,

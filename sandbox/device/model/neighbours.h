@@ -32,9 +32,8 @@ struct Surroundings {
 // "file", "gateway" or "made-up".
 const char *nameOf(Origin origin);
 
-// The first of the three origins that there is. A line of a list has the band and then the ten columns of a survey's
-// result, separated by tabs; lines that begin with '#' are comments. Throws std::runtime_error for a list that cannot
-// be read or a line with another number of columns.
+// The first of the three origins that there is. Throws std::runtime_error for a list that cannot be read or has a wrong
+// line.
 Surroundings readSurroundings(sandbox::Database &database);
 
 // What an interface hears: the networks of its band without those of `interfaces`, the gateway's own.
