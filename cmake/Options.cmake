@@ -107,10 +107,10 @@ function(caltofal_compile_as_one)
       set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${group})
     endforeach()
     set_target_properties(${target} PROPERTIES UNITY_BUILD ${CALTOFAL_UNITY} UNITY_BUILD_MODE GROUP)
-    if(CALTOFAL_UNITY AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-      # A type of a source file may well have members of types of its unnamed namespace, and a function a name of its own
-      # that stands in another file, too.
-      target_compile_options(${target} PRIVATE -Wno-subobject-linkage -Wno-shadow)
+    if(CALTOFAL_UNITY)
+      # A function may well have a name of its own that stands in another file, too, and a type of a source file members
+      # of types of its unnamed namespace.
+      target_compile_options(${target} PRIVATE -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
     endif()
   endforeach()
 endfunction()
