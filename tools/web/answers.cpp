@@ -22,15 +22,15 @@ namespace {
 using pages::Report;
 using pages::Usage;
 using pages::Value;
-using pages::wifi::Subject;
+using SettingsOf = pages::wifi::Subject;
 
 int numberOf(const Call &call, const char *what) {
     return pages::checkedInstance(call.argument, what);
 }
 
-template <Subject subject>
+template <SettingsOf subject>
 int instanceOf(const Call &call) {
-    return numberOf(call, subject == Subject::Ssid ? "SSID" : "radio");
+    return numberOf(call, subject == SettingsOf::Ssid ? "SSID" : "radio");
 }
 
 template <auto page>
@@ -38,7 +38,7 @@ Report show(const Call & /*call*/) {
     return page();
 }
 
-template <Subject subject>
+template <SettingsOf subject>
 Report showSettings(const Call &call) {
     return pages::wifi::settings(subject, instanceOf<subject>(call));
 }
@@ -103,7 +103,7 @@ Report showEndpoint(const Call & /*call*/) {
     return pages::wifi::endPoint();
 }
 
-template <Subject subject>
+template <SettingsOf subject>
 Report changeSettings(const Call &call) {
     return pages::wifi::changeSettings({.subject = subject,
                                         .instance = instanceOf<subject>(call),
@@ -128,34 +128,34 @@ Report changeMesh(const Call &call) {
 }
 
 struct Row {
-    web::Subject subject;
+    Subject subject;
     Report (*read)(const Call &);
     Report (*change)(const Call &) = nullptr;
 };
 
 constexpr Row kRows[] = {
-    {web::Subject::Status, show<pages::status>},
-    {web::Subject::Mode, show<pages::mode>},
-    {web::Subject::Gateway, show<pages::gateway>},
-    {web::Subject::Wan, show<pages::wan>},
-    {web::Subject::Dns, showDns},
-    {web::Subject::Ipv6, show<pages::ipv6>},
-    {web::Subject::Dsl, show<pages::dsl>},
-    {web::Subject::Atm, show<pages::atm>},
-    {web::Subject::Lan, show<pages::wholeLan>},
-    {web::Subject::MultiWan, show<pages::multiWan>},
-    {web::Subject::Iptv, show<pages::iptv>},
-    {web::Subject::Hosts, show<pages::hosts>},
-    {web::Subject::Mesh, showMesh, changeMesh},
-    {web::Subject::Objects, showObjects, changeObjects},
-    {web::Subject::WifiRadios, show<pages::wifi::radios>},
-    {web::Subject::WifiRadio, showSettings<Subject::Radio>, changeSettings<Subject::Radio>},
-    {web::Subject::WifiSsids, show<pages::wifi::ssids>},
-    {web::Subject::WifiSsid, showSettings<Subject::Ssid>, changeSettings<Subject::Ssid>},
-    {web::Subject::WifiChannels, showChannels},
-    {web::Subject::WifiStations, showStations},
-    {web::Subject::WifiSurvey, showSurvey},
-    {web::Subject::WifiEndpoint, showEndpoint},
+    {Subject::Status, show<pages::status>},
+    {Subject::Mode, show<pages::mode>},
+    {Subject::Gateway, show<pages::gateway>},
+    {Subject::Wan, show<pages::wan>},
+    {Subject::Dns, showDns},
+    {Subject::Ipv6, show<pages::ipv6>},
+    {Subject::Dsl, show<pages::dsl>},
+    {Subject::Atm, show<pages::atm>},
+    {Subject::Lan, show<pages::wholeLan>},
+    {Subject::MultiWan, show<pages::multiWan>},
+    {Subject::Iptv, show<pages::iptv>},
+    {Subject::Hosts, show<pages::hosts>},
+    {Subject::Mesh, showMesh, changeMesh},
+    {Subject::Objects, showObjects, changeObjects},
+    {Subject::WifiRadios, show<pages::wifi::radios>},
+    {Subject::WifiRadio, showSettings<SettingsOf::Radio>, changeSettings<SettingsOf::Radio>},
+    {Subject::WifiSsids, show<pages::wifi::ssids>},
+    {Subject::WifiSsid, showSettings<SettingsOf::Ssid>, changeSettings<SettingsOf::Ssid>},
+    {Subject::WifiChannels, showChannels},
+    {Subject::WifiStations, showStations},
+    {Subject::WifiSurvey, showSurvey},
+    {Subject::WifiEndpoint, showEndpoint},
 };
 
 const Row &rowOf(const Call &call) {
@@ -202,9 +202,9 @@ Jobs::Task syncTask(const Call &call) {
 
 Jobs::Task plainTaskOf(const Call &call) {
     switch (call.resource->subject) {
-    case web::Subject::WifiScans:
+    case Subject::WifiScans:
         return scanTask(call);
-    case web::Subject::WifiWps:
+    case Subject::WifiWps:
         return wpsTask(call);
     default:
         return syncTask(call);

@@ -7,13 +7,13 @@
 namespace web {
 namespace {
 
-struct Row {
+struct StatusOfExit {
     int exit;
     Status status;
 };
 
 // docs/web.md has the same table.
-constexpr Row kRows[] = {
+constexpr StatusOfExit kStatuses[] = {
     {static_cast<int>(pages::Category::Failed), Status::InternalError},
     {static_cast<int>(pages::Category::Usage), Status::BadRequest},
     {static_cast<int>(pages::Category::TimeOut), Status::GatewayTimeout},
@@ -26,9 +26,9 @@ constexpr Row kRows[] = {
 } // namespace
 
 Status statusOf(int exit) {
-    const auto *row =
-        std::find_if(std::begin(kRows), std::end(kRows), [&](const Row &candidate) { return candidate.exit == exit; });
-    return row == std::end(kRows) ? Status::InternalError : row->status;
+    const auto *row = std::find_if(std::begin(kStatuses), std::end(kStatuses),
+                                   [&](const StatusOfExit &candidate) { return candidate.exit == exit; });
+    return row == std::end(kStatuses) ? Status::InternalError : row->status;
 }
 
 Response errorResponse(const pages::Failure &failure) {
