@@ -8,6 +8,7 @@
 #include "libcal.h"
 #include "store/cal_codes.h"
 #include "store/fault.h"
+#include "store/known_parameter.h"
 #include "store/refusal_log.h"
 #include "store/schema.h"
 #include "value/path.h"
@@ -34,10 +35,26 @@ struct Call {
     Call(const char *name, const MsgHeader *message) : operation(name), trace(name, message) {}
 };
 
+// False also where the gateway cannot be asked.
+bool isKnown(const Location &location, const std::string &object, const std::string &parameter) noexcept {
+    try {
+        bool known = false;
+        Connection::instance().with(location, [&](Database &database) {
+            const Transaction transaction(database, Transaction::Kind::Read);
+            known = isKnownParameter(database, object, parameter);
+        });
+        return known;
+    } catch (const std::exception &) {
+        return false;
+    }
+}
+
 int refuse(const Call &call, int code, const char *reason) noexcept {
     snprintf(reasonOfThread, sizeof(reasonOfThread), "%s", reason);
     logRefusal(call.location, call.operation, code, reason);
-    call.trace.end(call.location.name, code, reasonOfThread);
+    call.trace.end(call.location.name, code, reasonOfThread, [&call](const auto &object, const auto &parameter) {
+        return isKnown(call.location, object, parameter);
+    });
     return code;
 }
 
@@ -53,7 +70,7 @@ int answer(const char *operation, const MsgHeader *message, Work work) noexcept 
     try {
         call.location = Location::current();
         work(call);
-        call.trace.end(call.location.name, 0, call.remark.c_str());
+        call.trace.end(call.location.name, 0, call.remark.c_str(), nullptr);
         return 0;
     } catch (const Refusal &refusal) {
         return refuse(call, refusal.code(), refusal.what());

@@ -77,25 +77,14 @@ const char *verbOf(const ObjectNode &node) {
     }
 }
 
-std::string parameterText(const MsgHeader &message, const ParamNode &param) {
-    if (!isValued(param)) { // a set then had NULL for a value, which counts as empty
-        return std::string(param.name) + (message.mainOper == CALTOFAL_OPER_SET ? "=NULL" : "");
-    }
-    return std::string(param.name) + "=" + quotedValue(param.name, param.value);
-}
+// A set without a value, which counts as an empty one.
+constexpr std::string_view kNoValue = "NULL";
 
-// "Device.Hosts.(HostNumberOfEntries) Device.WiFi.Radio.1.": each object with the parameters that the message names.
-std::string requestText(const MsgHeader *message) {
-    std::string text;
-    for (ObjectNode *node = nullptr; hasObjects(message) && (node = caltofal_nextObject(message, node)) != nullptr;) {
-        std::string parameters;
-        for (ParamNode *param = nullptr; (param = caltofal_nextParam(node, param)) != nullptr;) {
-            parameters += (parameters.empty() ? "" : ",") + parameterText(*message, *param);
-        }
-        text += (text.empty() ? "" : " ") + std::string(verbOf(*node)) + node->name;
-        text += parameters.empty() ? "" : "(" + parameters + ")";
+std::string valueText(const MsgHeader &message, const ParamNode &param) {
+    if (!isValued(param)) {
+        return std::string(message.mainOper == CALTOFAL_OPER_SET ? kNoValue : "");
     }
-    return text.empty() ? "no object" : text;
+    return quotedValue(param.name, param.value);
 }
 
 std::string operationText(const char *operation, const MsgHeader *message) {
@@ -124,12 +113,39 @@ std::string ownerRemark(const MsgHeader *message) {
 
 } // namespace
 
+std::vector<Trace::Object> Trace::objectsOf(const MsgHeader *message) {
+    std::vector<Object> objects;
+    for (ObjectNode *node = nullptr; hasObjects(message) && (node = caltofal_nextObject(message, node)) != nullptr;) {
+        Object &object = objects.emplace_back(Object{verbOf(*node), node->name, {}});
+        for (ParamNode *param = nullptr; (param = caltofal_nextParam(node, param)) != nullptr;) {
+            object.parameters.push_back({param->name, valueText(*message, *param)});
+        }
+    }
+    return objects;
+}
+
+// "Device.Hosts.(HostNumberOfEntries) Device.WiFi.Radio.1.": each object with the parameters that the message names.
+std::string Trace::textOf(const std::vector<Object> &objects, const Knows &isShown) {
+    std::string text;
+    for (const Object &object : objects) {
+        std::string parameters;
+        for (const auto &[name, value] : object.parameters) {
+            const bool shown = value.empty() || value == kNoValue || isShown(object.path, name);
+            parameters += (parameters.empty() ? "" : ",") + name + (value.empty() ? "" : "=") +
+                          (shown ? value : std::string(kHidden));
+        }
+        text += (text.empty() ? "" : " ") + object.verb + object.path;
+        text += parameters.empty() ? "" : "(" + parameters + ")";
+    }
+    return text.empty() ? "no object" : text;
+}
+
 Trace::Trace(const char *operation, const MsgHeader *message) noexcept {
     try {
         file_ = wantedFile();
         if (!file_.empty()) {
             operation_ = operationText(operation, message);
-            request_ = requestText(message);
+            request_ = objectsOf(message);
             ownerRemark_ = ownerRemark(message);
             begin_ = std::chrono::steady_clock::now();
         }
@@ -138,17 +154,18 @@ Trace::Trace(const char *operation, const MsgHeader *message) noexcept {
     }
 }
 
-void Trace::end(const std::string &gateway, int code, const char *reason) const noexcept {
+void Trace::end(const std::string &gateway, int code, const char *reason, const Knows &knows) const noexcept {
     if (file_.empty()) {
         return;
     }
     try {
+        const Knows all = [](const std::string &, const std::string &) { return true; };
         const auto spent = std::chrono::steady_clock::now() - begin_;
         const auto microseconds = std::chrono::duration_cast<std::chrono::microseconds>(spent).count();
         const std::string process = std::string(program_invocation_short_name) + "[" + std::to_string(getpid()) + "]";
         const std::string result = code == 0 ? "0 ok" : codeText(code);
         std::string line = localTime(true) + " " + gateway + " " + process + " " + operation_ + " " + result + " " +
-                           std::to_string(microseconds) + "us " + request_;
+                           std::to_string(microseconds) + "us " + textOf(request_, code == 0 ? all : knows);
         const std::string separator = *reason == '\0' || ownerRemark_.empty() ? "" : "; ";
         const std::string remark = reason + separator + ownerRemark_;
         line += remark.empty() ? "" : " : " + remark;

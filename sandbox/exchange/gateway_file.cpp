@@ -3,6 +3,7 @@
 
 #include "store/schema.h"
 #include "value/escape.h"
+#include "value/secret.h"
 
 #include <algorithm>
 #include <charconv>
@@ -109,7 +110,7 @@ class LineReader {
         if (separated && takePrefix(rest_, "=")) {
             readValue();
         } else if (!rest_.empty()) {
-            refuse("expected \" = \" before " + quotedShort(rest_));
+            refuse("expected \" = \" before " + quotedValue(entry_.name, rest_));
         }
         if (entry_.kind == Entry::Kind::Object && table_) {
             entry_.writable = entry_.writable.value_or(false);

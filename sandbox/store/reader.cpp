@@ -2,6 +2,7 @@
 #include "store/reader.h"
 
 #include "caltofal.h"
+#include "store/known_parameter.h"
 #include "store/model.h"
 #include "store/nature.h"
 #include "value/escape.h"
@@ -135,8 +136,7 @@ class Reader {
         if (object.kind != ObjectKind::Table) {
             return findParameter(database_, object.id, name).has_value();
         }
-        Statement any(database_, "SELECT 1 FROM parameter WHERE container = ?1 AND name = ?2 LIMIT 1", object.id, name);
-        return any.step();
+        return isParameterOfInstances(database_, object.id, name);
     }
 
     bool isEmptyTable(const ObjectRow &object) const {
@@ -186,7 +186,9 @@ class Reader {
     std::string filterText() const {
         std::string text;
         for (const auto &[name, value] : request_.filters) {
-            text += (text.empty() ? "" : " and ") + name + " = " + quotedValue(name, value);
+            const bool known = isKnownParameter(database_, request_.path, name); // a slip may be a secret's
+            text += (text.empty() ? "" : " and ") + name + " = " +
+                    (known ? quotedValue(name, value) : std::string(kHidden));
         }
         return text;
     }

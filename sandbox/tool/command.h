@@ -68,6 +68,9 @@ std::shared_ptr<Options> makeOptions() {
     return std::make_shared<Options>();
 }
 
+// What --show-secrets does, where a command has it.
+inline constexpr const char *kShowSecrets = "Show pass phrases, passwords and keys";
+
 // A word on standard error.
 void say(const std::string &words);
 

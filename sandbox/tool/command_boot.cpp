@@ -6,19 +6,28 @@
 #include <iostream>
 
 namespace sandbox {
+namespace {
+
+struct BootOptions {
+    std::string name;
+    bool secrets = false;
+};
+
+} // namespace
 
 void addBoot(Command &root, Tool &tool) {
-    auto name = makeOptions<std::string>();
+    auto options = makeOptions<BootOptions>();
     Command command = root.add("boot", "Make the running values follow the stored ones");
-    command.word("NAME", *name, "The gateway");
+    command.word("NAME", options->name, "The gateway");
+    command.flag("--show-secrets", options->secrets, kShowSecrets);
     command.footer("Prints what changed, as diff does.");
-    command.runs([&tool, name] {
-        const std::unique_ptr<Database> database = tool.open(*name);
+    command.runs([&tool, options] {
+        const std::unique_ptr<Database> database = tool.open(options->name);
         Transaction transaction(*database, Transaction::Kind::Write);
         const std::vector<Difference> differences = pendingDifferences(*database);
         boot(*database);
         transaction.commit();
-        printDifferences(differences, std::cout);
+        printDifferences(differences, options->secrets, std::cout);
     });
 }
 

@@ -64,6 +64,7 @@ std::vector<Difference> pending(Database &database) {
 
 struct DiffOptions {
     std::string first, second;
+    bool secrets = false;
 };
 
 } // namespace
@@ -74,6 +75,7 @@ void addDiff(Command &root, Tool &tool) {
         root.add("diff", "Compare the running values of two gateways, or the running with the stored values of one");
     command.word("A", options->first, "The gateway", Need::Required);
     command.word("B", options->second, "The gateway to compare it with");
+    command.flag("--show-secrets", options->secrets, kShowSecrets);
     command.footer(
         "Exit code 1 when they differ.\n\n"
         "Examples:\n  caltofal-sandbox diff home lab\n  caltofal-sandbox diff home     what a boot would change");
@@ -82,7 +84,7 @@ void addDiff(Command &root, Tool &tool) {
         const std::vector<Difference> differences =
             options->second.empty() ? pending(*first)
                                     : compare(runningShape(*first), runningShape(*tool.open(options->second)));
-        printDifferences(differences, std::cout);
+        printDifferences(differences, options->secrets, std::cout);
         tool.exitCode = differences.empty() ? kDone : kFailed;
     });
 }

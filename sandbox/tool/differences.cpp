@@ -2,31 +2,28 @@
 #include "tool/differences.h"
 
 #include "value/escape.h"
+#include "value/secret.h"
 
 #include <ostream>
 
 namespace sandbox {
 
-namespace {
-
-void printWhole(char sign, const std::string &path, const std::optional<std::string> &value, std::ostream &out) {
-    out << sign << ' ' << path << (value ? " = " + inQuotes(*value) : "") << '\n';
-}
-
-} // namespace
-
-void printDifferences(const std::vector<Difference> &differences, std::ostream &out) {
-    for (const Difference &difference : differences) {
-        switch (difference.kind) {
+void printDifferences(const std::vector<Difference> &differences, bool secrets, std::ostream &out) {
+    for (const auto &[kind, path, before, after] : differences) {
+        const bool hides = !secrets && isSecretName(path);
+        const auto shown = [hides](const std::string &value) {
+            return hides && !value.empty() ? std::string(kHidden) : inQuotes(value);
+        };
+        const auto whole = [&](const std::optional<std::string> &value) { return value ? " = " + shown(*value) : ""; };
+        switch (kind) {
         case Difference::Kind::Added:
-            printWhole('+', difference.path, difference.after, out);
+            out << "+ " << path << whole(after) << '\n';
             break;
         case Difference::Kind::Removed:
-            printWhole('-', difference.path, difference.before, out);
+            out << "- " << path << whole(before) << '\n';
             break;
         case Difference::Kind::Changed:
-            out << "~ " << difference.path << ": " << inQuotes(*difference.before) << " -> "
-                << inQuotes(*difference.after) << '\n';
+            out << "~ " << path << ": " << shown(*before) << " -> " << shown(*after) << '\n';
             break;
         }
     }

@@ -24,4 +24,18 @@ std::string quotedValue(std::string_view parameter, std::string_view value) {
     return isSecretName(parameter) ? std::string(kHidden) : quotedShort(value);
 }
 
+std::string withoutSecrets(std::string line) {
+    constexpr std::string_view kArrow = "=>";
+    size_t arrow = line.find(kArrow);
+    while (arrow != std::string::npos && !isSecretName(std::string_view(line).substr(0, arrow))) {
+        arrow = line.find(kArrow, arrow + 1); // the library writes "==>" in front
+    }
+    const size_t start = arrow + kArrow.size();
+    const size_t end = line.ends_with(']') ? line.size() - 1 : line.size();
+    if (arrow != std::string::npos && start < end) {
+        line.replace(start, end - start, kHidden);
+    }
+    return line;
+}
+
 } // namespace sandbox

@@ -18,4 +18,7 @@ bool isSecretName(std::string_view name);
 // A parameter's value as logs and reasons quote it: cut to a readable length; kHidden for a secret.
 std::string quotedValue(std::string_view parameter, std::string_view value);
 
+// A line that the library wrote, with kHidden in place of a secret that stands behind its name and "=>".
+std::string withoutSecrets(std::string line);
+
 } // namespace sandbox

@@ -128,6 +128,45 @@ TEST_F(ToolTest, ShowsDifferencesAndBoots) {
     EXPECT_NE(run("diff lab other").out.find("- Device.Net.Host.10.Address.1.IP = \"::1\"\n"), std::string::npos);
 }
 
+TEST_F(ToolTest, HidesSecretsOnTheScreen) {
+    write("keys.tr181", "Device.Key.WEPKey [string rw] = old one\nDevice.Key.Passphrase [string rw] =\n");
+    ASSERT_EQ(run("new a --from {}/keys.tr181").code, 0);
+    ASSERT_EQ(run("import b {}/keys.tr181").code, 0);
+    setenv("CALTOFAL_GATEWAY", "b", 1);
+    ASSERT_EQ(setOne("Device.Key", {{"WEPKey", "new one"}}), 0);
+    ASSERT_EQ(cal_setValueToDb(&Message::set()->with("Device.Key", kSet, {{"Passphrase", "dear"}}).header), 0);
+    const struct {
+        const char *command, *hidden, *shown;
+    } cases[] = {
+        {"diff a b", "~ Device.Key.WEPKey: (hidden) -> (hidden)\n",
+         "~ Device.Key.WEPKey: \"old one\" -> \"new one\"\n"},
+        {"diff a lab | grep Key.", "- Device.Key.Passphrase = \"\"\n- Device.Key.WEPKey = (hidden)\n",
+         "- Device.Key.Passphrase = \"\"\n- Device.Key.WEPKey = \"old one\"\n"},
+        {"diff b", "~ Device.Key.Passphrase: \"\" -> (hidden)\n", "~ Device.Key.Passphrase: \"\" -> \"dear\"\n"},
+        {"boot b", "~ Device.Key.Passphrase: \"\" -> (hidden)\n", ""},
+    };
+    for (const auto &[command, hidden, shown] : cases) {
+        std::string option = command;
+        option.insert(option.find(' '), " --show-secrets");
+        EXPECT_EQ(option.starts_with("boot") ? "" : run(option).out, shown);
+        EXPECT_EQ(run(command).out, hidden);
+    }
+    write("wrong.tr181", "Device.Key.WEPKey [string rw] very dear\n");
+    EXPECT_EQ(run("import a {}/wrong.tr181").errors,
+              "caltofal-sandbox: " + directory + "/wrong.tr181:1: expected \" = \" before (hidden)\n");
+}
+
+TEST_F(ToolTest, HidesSecretsOfTheConsole) {
+    ASSERT_EQ(system(("mkdir -p " + directory + "/lab.box/log").c_str()), 0);
+    const std::string lines = "  write:84 ==> <1> Device.A.1.KeyPassphrase=>two words\n"
+                              "[Device.A.1.WEPKey=>x]\n[Device.A.1.Channel=>6]\nKeyPassphrase=>\n";
+    write("lab.box/log/console", lines);
+    EXPECT_EQ(run("console").out, "  write:84 ==> <1> Device.A.1.KeyPassphrase=>(hidden)\n"
+                                  "[Device.A.1.WEPKey=>(hidden)]\n[Device.A.1.Channel=>6]\nKeyPassphrase=>\n");
+    EXPECT_EQ(run("console --show-secrets").out, lines);
+    EXPECT_EQ(run("console -f | head -n 2 | tail -n 1").out, "[Device.A.1.WEPKey=>(hidden)]\n");
+}
+
 TEST_F(ToolTest, KeepsGateways) {
     EXPECT_EQ(run("new bench --from home").code, 0);
     EXPECT_EQ(run("new bench").code, 1);

@@ -62,6 +62,12 @@ TEST_F(TraceTest, HasALineForEachMessage) {
 
 TEST_F(TraceTest, TellsWhyAMessageIsRefused) {
     cal_setValue(&Message::set()->with("Device.Pair", kSet, {{"Left", "1"}, {"KeyPassphrase", "secret"}}).header);
+    cal_setValue(&Message::set()
+                      ->with("Device.Pair", kSet, {{"Left", "1"}, {"KeyPasphrase", "secret"}, {"Right", ""}})
+                      .with("Device.Net.Host", kAdd, {{"Level", "5"}, {"Pasword", "secret"}})
+                      .with("Device.Net.Host.99", kSet, {{"Name", "n"}, {"Tokn", "secret"}})
+                      .with("Device.Nope", kSet, {{"Left", "1"}})
+                      .header);
     cal_getValue(nullptr);
     Message empty(CALTOFAL_OPER_GET, SOPT_OBJVALUE);
     cal_getValue(&empty.header);
@@ -71,6 +77,10 @@ TEST_F(TraceTest, TellsWhyAMessageIsRefused) {
     cal_getValue(&Message::get(kPlainGet, "Device.Info.")->header);
     EXPECT_EQ(takeTrace(), "lab set -203 unknown-parameter Device.Pair(Left=\"1\",KeyPassphrase=(hidden)) : "
                            "Device.Pair: no parameter \"KeyPassphrase\"\n"
+                           "lab set -203 unknown-parameter Device.Pair(Left=\"1\",KeyPasphrase=(hidden),Right=\"\") "
+                           "add Device.Net.Host(Level=\"5\",Pasword=(hidden)) "
+                           "Device.Net.Host.99(Name=\"n\",Tokn=(hidden)) Device.Nope(Left=(hidden)) : "
+                           "Device.Pair: no parameter \"KeyPasphrase\"\n"
                            "lab get -201 bad-message no object : there is no message\n"
                            "lab get -201 bad-message no object : the message names no object\n"
                            "nosuch get -209 no-gateway Device.Info. : there is no gateway \"nosuch\" in " +
@@ -91,7 +101,7 @@ TEST_F(TraceTest, TellsWhatASuccessLeftOut) {
     cal_setValue(&set->header);
     EXPECT_EQ(takeTrace(), "lab get 0 ok Device.Info.(Nmae,UpTime,Upp) Device.Pair.(Lefft) : "
                            "not answered: Device.Info.Nmae, Device.Info.Upp, Device.Pair.Lefft\n"
-                           "lab get -208 no-match Device.Net.Host.(Name=\"two\",Levle=\"5\") : "
+                           "lab get -208 no-match Device.Net.Host.(Name=\"two\",Levle=(hidden)) : "
                            "Device.Net.Host: no instance has a parameter \"Levle\"\n"
                            "lab set 0 ok Device.Info(Text=NULL,Text=\"\") : owner 7 is none of CaltofalOwner\n");
 }

@@ -33,10 +33,14 @@ void replaceAll(std::string &text, std::string_view part, std::string_view by) {
     }
 }
 
-// The library writes a row of a table as "OBJECT.NAME=>VALUE", in brackets or at the line's end.
+// The library writes a row of a table as "OBJECT.NAME=>VALUE", in brackets or at the line's end, "==>" may stand before.
+// sandbox/value/secret.cpp does the same.
 void hideRow(std::string &line) {
-    const size_t arrow = line.find(kArrow);
-    if (arrow == std::string::npos || !isSecret(std::string_view(line).substr(0, arrow))) {
+    size_t arrow = line.find(kArrow);
+    while (arrow != std::string::npos && !isSecret(std::string_view(line).substr(0, arrow))) {
+        arrow = line.find(kArrow, arrow + 1);
+    }
+    if (arrow == std::string::npos) {
         return;
     }
     const size_t start = arrow + kArrow.size();
