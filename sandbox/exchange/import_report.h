@@ -24,6 +24,7 @@ enum class Reason {
     Placeholder,
     ValueOfObject,
     TornRow,
+    NoName, // of an entry in a list
     ForeignRoot,
     AcsRow,
     OtherDevice,

@@ -117,10 +117,15 @@ class JsonDump {
 
     // A list's items belong together, unless they are devices, of which one is taken.
     void pieces(const std::vector<const JsonNode *> &nodes) {
-        for (const JsonNode *node : nodes) {
+        const bool entries = std::any_of(nodes.begin(), nodes.end(), [](const JsonNode *node) { return isEntry(*node); });
+        for (size_t i = 0; i < nodes.size(); ++i) {
+            const JsonNode *node = nodes[i];
             const size_t before = dump_.rows.size();
             document(*node);
             if (dump_.rows.size() == before) {
+                if (entries && !isEntry(*node)) {
+                    countNameless(*node, i);
+                }
                 continue;
             }
             if (before == 0) {
@@ -194,6 +199,15 @@ class JsonDump {
                 (isPathLike(name->text) && memberOf(node, Role::Value)));
     }
 
+    static bool isEntry(const JsonNode &node) { return isTuple(node) || isNamed(node); }
+
+    // An entry of a list that does not say what it is for.
+    void countNameless(const JsonNode &node, size_t index) {
+        const bool tuple = node.kind == JsonNode::Kind::Array && node.children.size() > 1;
+        dump_.report.values += tuple || memberOf(node, Role::Value) ? 1 : 0;
+        dump_.report.count(Reason::NoName, "entry " + std::to_string(index + 1) + " in line " + std::to_string(node.line));
+    }
+
     // An item that says which parameter or object it is. `prefix` is that of the list that holds it.
     void named(const JsonNode &node, const std::string &prefix) {
         const std::string &name = memberOf(node, Role::Name)->text;
@@ -219,10 +233,14 @@ class JsonDump {
             members(contents, prefix);
             return;
         }
-        for (const auto &[none, item] : contents.children) {
+        for (size_t i = 0; i < contents.children.size(); ++i) {
+            const JsonNode &item = contents.children[i].node;
             const JsonNode *name = item.kind == JsonNode::Kind::Object ? memberOf(item, Role::Name) : nullptr;
-            if (name && name->kind == JsonNode::Kind::Text) {
+            const bool usable = name && name->kind == JsonNode::Kind::Text && !name->text.empty();
+            if (usable) {
                 named(item, prefix);
+            } else if (name || item.isScalar() || memberOf(item, Role::Value)) {
+                countNameless(item, i);
             } else {
                 members(item, prefix);
             }
