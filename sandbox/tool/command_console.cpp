@@ -39,8 +39,7 @@ struct EndPipe {
 // Up to the reader's key. The program goes when this one does.
 void follow(const std::string &file, bool secrets) {
     setenv("CALTOFAL_CONSOLE", file.c_str(), 1);
-    const std::unique_ptr<FILE, EndPipe> lines(
-        popen("exec tail -n +1 --pid=$PPID -F -- \"$CALTOFAL_CONSOLE\"", "re"));
+    const std::unique_ptr<FILE, EndPipe> lines(popen("exec tail -n +1 --pid=$PPID -F -- \"$CALTOFAL_CONSOLE\"", "re"));
     if (!lines) {
         throw Failure(std::string("tail: ") + std::strerror(errno));
     }

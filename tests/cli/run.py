@@ -401,6 +401,11 @@ class Lacking(unittest.TestCase):
         self.assertEqual((result.code, list(json.loads(result.out))), (0, ["ipv6"]))
         self.assertIn("DHCPv4.Server.Pool.1", result.err)
         self.assertEqual(self.run_tool("lan", "--ipv4").code, 10)
+        self.without("Device.IPv6")
+        result = self.run_tool("lan")
+        self.assertEqual((result.code, result.out), (10, b""))
+        self.assertRegex(result.err, r"^caltofal: request on [^;]*: fault 1 hit Device\.DHCPv4\.Server\.Pool\.1; "
+                                     r"request on [^;]*: fault 2 hit Device\.IPv6\n$")
 
     def test_what_a_gateway_does_not_have_is_none_in_the_status(self):
         self.without("Device.DSL")

@@ -49,7 +49,8 @@ std::vector<Object> objectsToChange(const std::vector<std::string> &words) {
     std::vector<Object> objects;
     for (const std::string &word : words) {
         const bool assigns = word.find('=') != std::string::npos;
-        if (assigns && beginsObject(word)) {
+        const bool first = objects.empty() && word.find('.') < word.find('=');
+        if (assigns && (first || beginsObject(word))) {
             const auto [path, rest] = splitPath(word);
             if (objects.empty() || objects.back().name != path) {
                 startObject(objects, path);

@@ -33,8 +33,8 @@ void replaceAll(std::string &text, std::string_view part, std::string_view by) {
     }
 }
 
-// The library writes a row of a table as "OBJECT.NAME=>VALUE", in brackets or at the line's end, "==>" may stand before.
-// sandbox/value/secret.cpp does the same.
+// The library writes a row of a table as "OBJECT.NAME=>VALUE", in brackets or at the line's end, "==>" may stand
+// before. sandbox/value/secret.cpp does the same.
 void hideRow(std::string &line) {
     size_t arrow = line.find(kArrow);
     while (arrow != std::string::npos && !isSecret(std::string_view(line).substr(0, arrow))) {

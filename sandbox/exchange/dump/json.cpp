@@ -117,7 +117,8 @@ class JsonDump {
 
     // A list's items belong together, unless they are devices, of which one is taken.
     void pieces(const std::vector<const JsonNode *> &nodes) {
-        const bool entries = std::any_of(nodes.begin(), nodes.end(), [](const JsonNode *node) { return isEntry(*node); });
+        const bool entries =
+            std::any_of(nodes.begin(), nodes.end(), [](const JsonNode *node) { return isEntry(*node); });
         for (size_t i = 0; i < nodes.size(); ++i) {
             const JsonNode *node = nodes[i];
             const size_t before = dump_.rows.size();
@@ -205,7 +206,8 @@ class JsonDump {
     void countNameless(const JsonNode &node, size_t index) {
         const bool tuple = node.kind == JsonNode::Kind::Array && node.children.size() > 1;
         dump_.report.values += tuple || memberOf(node, Role::Value) ? 1 : 0;
-        dump_.report.count(Reason::NoName, "entry " + std::to_string(index + 1) + " in line " + std::to_string(node.line));
+        dump_.report.count(Reason::NoName,
+                           "entry " + std::to_string(index + 1) + " in line " + std::to_string(node.line));
     }
 
     // An item that says which parameter or object it is. `prefix` is that of the list that holds it.

@@ -52,13 +52,23 @@ Section ipv6Section() {
             }};
 }
 
+// Both reasons, unless they are one.
+[[noreturn]] void lacksBoth(const Failure &first, const Failure &second) {
+    const std::string reason = second.what();
+    throw Failure(first.category(), first.what() + (reason == first.what() ? "" : "; " + reason), first.object(),
+                  first.code());
+}
+
 // A half that the gateway does not have is told in a note.
 void addHalf(Page &page, Section (*half)(), std::optional<Failure> &missing) {
     try {
         page.sections.push_back(half());
     } catch (const Failure &failure) {
-        if (failure.category() != Category::Absent || missing) {
+        if (failure.category() != Category::Absent) {
             throw;
+        }
+        if (missing) {
+            lacksBoth(*missing, failure);
         }
         missing = failure;
         page.notes.emplace_back(failure.what());

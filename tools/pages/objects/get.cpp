@@ -29,7 +29,7 @@ void checkAnswered(const Object &asked, const std::vector<Object> &answer) {
     if (!missing.empty()) {
         throw Failure(Category::Absent,
                       branch + joined(missing) + ": no object here has that parameter" +
-                          didYouMean(missing.front(), namesIn(asked.name)),
+                          parameterHint(missing.front(), asked.name),
                       asked.name);
     }
 }
@@ -66,10 +66,10 @@ std::vector<Object> getObject(const Object &object, Reading reading) {
         try {
             found = get(other, reading);
         } catch (const Failure &) {
-            throw withHint(failure, object.name);
+            throw Failure(failure);
         }
         if (found.empty()) {
-            throw withHint(failure, object.name);
+            throw;
         }
         return found;
     }
@@ -144,6 +144,42 @@ Report typesOf(const std::vector<Object> &objects) {
     return result;
 }
 
+// What `work` answers, with a hint where something is not there.
+template <class Work>
+auto hinted(const std::vector<Object> &objects, Work work) {
+    try {
+        return work();
+    } catch (const Failure &failure) {
+        throw withHint(failure, objects);
+    }
+}
+
+Report reportOf(const Query &query) {
+    if (query.names) {
+        return namesBelow(query);
+    }
+    if (query.types) {
+        return typesOf(answer(query));
+    }
+    Report result{.json = Value::object()};
+    for (const Object &object : answer(query)) {
+        Value &parameters = result.json[withoutDot(object.name)];
+        parameters = parameters.isNull() ? Value::object() : parameters;
+        if (object.parameters.empty()) {
+            result.table.rows.push_back({{std::string(withoutDot(object.name))}, {}});
+        }
+        for (const Parameter &parameter : object.parameters) {
+            parameters[parameter.name] = shownValue(parameter.name, parameter.value);
+            result.table.rows.push_back(
+                {{withDot(object.name) + parameter.name}, {shownText(parameter.name, parameter.value)}});
+            if (query.valuesOnly) {
+                result.raw += shownText(parameter.name, parameter.value) + "\n";
+            }
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 void check(const Query &query) {
@@ -172,40 +208,20 @@ void check(const Query &query) {
 
 std::vector<Object> readWhole(std::vector<Object> objects) {
     resolveParameters(objects);
-    std::vector<Object> answer = getObjects(objects, Reading::Whole);
-    for (const Object &object : objects) {
-        checkAnswered(object, answer);
-    }
-    return answer;
+    return hinted(objects, [&] {
+        std::vector<Object> answer = getObjects(objects, Reading::Whole);
+        for (const Object &object : objects) {
+            checkAnswered(object, answer);
+        }
+        return answer;
+    });
 }
 
 Report read(const Query &asked) {
     Query query = asked;
     resolveParameters(query.objects);
     check(query);
-    if (query.names) {
-        return namesBelow(query);
-    }
-    if (query.types) {
-        return typesOf(answer(query));
-    }
-    Report result{.json = Value::object()};
-    for (const Object &object : answer(query)) {
-        Value &parameters = result.json[withoutDot(object.name)];
-        parameters = parameters.isNull() ? Value::object() : parameters;
-        if (object.parameters.empty()) {
-            result.table.rows.push_back({{std::string(withoutDot(object.name))}, {}});
-        }
-        for (const Parameter &parameter : object.parameters) {
-            parameters[parameter.name] = shownValue(parameter.name, parameter.value);
-            result.table.rows.push_back(
-                {{withDot(object.name) + parameter.name}, {shownText(parameter.name, parameter.value)}});
-            if (query.valuesOnly) {
-                result.raw += shownText(parameter.name, parameter.value) + "\n";
-            }
-        }
-    }
-    return result;
+    return hinted(query.objects, [&] { return reportOf(query); });
 }
 
 } // namespace pages::objects

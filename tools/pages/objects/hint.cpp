@@ -7,10 +7,14 @@
 #include "pages/text.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
+#include <span>
 
 namespace pages::objects {
 namespace {
+
+constexpr const char *kRoots[] = {"Device", "InternetGatewayDevice"};
 
 Failure with(const Failure &failure, const std::string &hint) {
     return {failure.category(), failure.what() + hint, failure.object(), failure.code()};
@@ -29,7 +33,39 @@ std::optional<std::vector<std::string>> below(const std::string &object) {
     }
 }
 
+// The path below the root, each part spelled as there, up to the first one that nothing there is like.
+std::string spelledBelow(std::string path, std::span<const std::string> parts) {
+    for (const std::string &part : parts) {
+        const std::vector<std::string> names = below(path).value_or(std::vector<std::string>());
+        const bool there = std::find(names.begin(), names.end(), part) != names.end();
+        const std::vector<std::string> near = there ? std::vector{part} : similar(part, names);
+        if (near.empty()) {
+            break;
+        }
+        path += "." + near.front();
+    }
+    return path;
+}
+
+// For a path that begins with a misspelt root, or without one.
+std::string didYouMeanRooted(const std::string &path) {
+    const std::vector<std::string> parts = partsOf(path);
+    if (parts.empty() || std::find(std::begin(kRoots), std::end(kRoots), parts.front()) != std::end(kRoots)) {
+        return "";
+    }
+    const std::span<const std::string> all(parts);
+    const std::vector<std::string> near = similar(parts.front(), {std::begin(kRoots), std::end(kRoots)});
+    const std::string meant = near.empty() ? spelledBelow(kRoots[0], all) : spelledBelow(near.front(), all.subspan(1));
+    return near.empty() && meant == kRoots[0] ? "" : " (did you mean " + meant + "?)";
+}
+
 } // namespace
+
+std::string parameterHint(const std::string &parameter, const std::string &object) {
+    const std::string hint = didYouMean(parameter, namesIn(object));
+    const bool path = hint.empty() && parameter.find('.') != std::string::npos;
+    return path ? didYouMeanRooted(parameter) : hint;
+}
 
 std::vector<std::string> namesIn(const std::string &object) {
     std::vector<std::string> names;
@@ -53,13 +89,14 @@ Failure withHint(const Failure &failure, const std::string &path) {
             return with(failure, didYouMean(part, *names));
         }
     }
-    return failure;
+    return with(failure, didYouMeanRooted(path));
 }
 
 Failure withHint(const Failure &failure, const std::vector<Object> &objects) {
     for (const Object &object : objects) {
-        if (failure.code() == CALTOFAL_ABSENT_OBJECT && withoutDot(failure.object()) == withoutDot(object.name)) {
-            return withHint(failure, object.name);
+        const std::string path = object.name.substr(0, object.name.find('*')); // what was asked for of a pattern
+        if (failure.code() == CALTOFAL_ABSENT_OBJECT && withoutDot(failure.object()) == withoutDot(path)) {
+            return withHint(failure, path);
         }
         if (failure.code() != CALTOFAL_UNKNOWN_PARAMETER) {
             continue;

@@ -13,10 +13,13 @@ namespace pages::objects {
 // The names of the parameters that stand in an object, or in the objects of its table.
 std::vector<std::string> namesIn(const std::string &object);
 
+// " (did you mean HostName?)" for a parameter that is not there: a word may also be the path of another object.
+std::string parameterHint(const std::string &parameter, const std::string &object);
+
 // The refusal of a path of which a part is not there, with what there is instead of the first such part.
 Failure withHint(const Failure &failure, const std::string &path);
 
-// The same of a change, also for a parameter.
+// The same of several paths, one of which was refused; in a change also for a parameter.
 Failure withHint(const Failure &failure, const std::vector<Object> &objects);
 
 } // namespace pages::objects

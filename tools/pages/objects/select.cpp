@@ -97,17 +97,6 @@ std::vector<Object> getFiltered(Object request, const std::vector<Parameter> &wh
     throw Failure(*first);
 }
 
-std::vector<std::string> partsOf(const std::string &path) {
-    std::vector<std::string> parts;
-    std::string_view rest = withoutDot(path);
-    while (!rest.empty()) {
-        const size_t dot = std::min(rest.find('.'), rest.size());
-        parts.emplace_back(rest.substr(0, dot));
-        rest.remove_prefix(std::min(dot + 1, rest.size()));
-    }
-    return parts;
-}
-
 // Whether a path begins with what the pattern says.
 bool begins(const std::vector<std::string> &path, const std::vector<std::string> &pattern) {
     return path.size() >= pattern.size() && std::equal(pattern.begin(), pattern.end(), path.begin(),
@@ -120,6 +109,17 @@ bool begins(const std::vector<std::string> &path, const std::vector<std::string>
 
 std::string withDot(const std::string &path) {
     return path.ends_with('.') ? path : path + ".";
+}
+
+std::vector<std::string> partsOf(const std::string &path) {
+    std::vector<std::string> parts;
+    std::string_view rest = withoutDot(path);
+    while (!rest.empty()) {
+        const size_t dot = std::min(rest.find('.'), rest.size());
+        parts.emplace_back(rest.substr(0, dot));
+        rest.remove_prefix(std::min(dot + 1, rest.size()));
+    }
+    return parts;
 }
 
 bool has(const Object &object, const std::string &parameter) {

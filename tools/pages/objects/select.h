@@ -11,6 +11,9 @@ namespace pages::objects {
 
 std::string withDot(const std::string &path);
 
+// What stands between the dots.
+std::vector<std::string> partsOf(const std::string &path);
+
 bool has(const Object &object, const std::string &parameter);
 
 // The instances of a table whose parameters have those values, with the parameters that `asked` names; with `leaf`
