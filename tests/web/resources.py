@@ -97,9 +97,18 @@ class Resources(unittest.TestCase):
                     self.assertEqual(status == 405, method not in methods, (method, path))
 
     def test_a_missing_gateway_is_said(self):
-        with Server(gateway="nosuch") as server:
-            answer = server.get("/wan")
-            self.assertEqual((answer.status, answer.json["error"]["exit"]), (503, 4), answer.body)
+        """One that was never there, and one that is removed while it is served."""
+        with Server(gateway="nosuch", words=True) as server:
+            for made in (False, True):
+                for verb in ("new", "remove") if made else ():
+                    self.assertEqual(server.get("/wan").status, 200 if verb == "remove" else 503)
+                    subprocess.run([SANDBOX, verb, "nosuch", *(["--from", "home"] if verb == "new" else [])],
+                                   env=environment(server.folder), capture_output=True, check=True)
+                answers = [server.get(resource) for resource in PLAIN if not resource.endswith(("=Active", "/x", "/0"))]
+                answers.append(server.patch("/wifi/ssids/1", {"SSID": "x"}))
+                for answer in answers:
+                    self.assertEqual((answer.status, answer.json["error"]["exit"]), (503, 4), answer.body)
+                    self.assertIn('there is no gateway "nosuch" in ', answer.message)
 
     def test_secrets_are_asked_for_by_themselves(self):
         with Server() as server:

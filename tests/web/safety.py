@@ -74,6 +74,7 @@ class Refusals(unittest.TestCase):
             ("PATCH", "/api/v1/objects", {"Transfer-Encoding": "chunked", "Content-Type": JSON}, 411),
             ("DELETE", "/api/v1/jobs/1", {"Origin": None}, 403),
             ("DELETE", "/api/v1/jobs/1", {}, 404),
+            ("DELETE", "/api/v1/jobs/1", {"If-Match": "*"}, 400),
         ]
         for method, target, headers, status in cases:
             with self.subTest(method=method, target=target, headers=headers):
@@ -154,6 +155,8 @@ class Refusals(unittest.TestCase):
             (head + "X: " + "y" * 17000 + "\r\n\r\n", "431", True),
             (head + "".join(f"X{i}: y\r\n" for i in range(9000)) + "\r\n", "431", False),
             (head + "Cookie: " + "; ".join(f"c{i}=v" for i in range(180)) + "\r\n\r\n", "431", True),
+            (head + "Cookie: " + ";" * 400 + "\r\n\r\n", "431", True),
+            (head + "Cookie: " + ";" * 5000 + "\r\n\r\n", "431", False),
             (head + f"Host: {self.server.host}\r\n\r\n", "400", True),
             (head + "Content-Length: 1\r\nContent-Length: 2\r\n\r\n12", "400", True),
             (head + "Content-Length: 0\r\nContent-Length: 9\r\n\r\n" + head + "\r\n", "400", True),

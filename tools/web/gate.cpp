@@ -77,6 +77,9 @@ void Gate::checkChange(const Request &request, const Call &call) const {
         throw Refusal(Status::Forbidden, "a change must come from this server's own origin: its Origin header, or "
                                          "Sec-Fetch-Site: same-origin, is missing or another one");
     }
+    if (request.ifMatch && call.method != kPatch) {
+        throw Refusal(Status::BadRequest, "If-Match is understood with PATCH only");
+    }
     if (call.method == kDelete) {
         return; // has no body
     }
