@@ -77,6 +77,29 @@ class Box(unittest.TestCase):
         self.assertEqual(self.run_tool("wifi", "scan", "wlan0", CALTOFAL_BOX_SCAN_MS="500").code, 0)
         self.assertLess(time.monotonic() - start, 12, "its first interval lasts 15 seconds")
 
+    def test_a_radio_that_is_off_has_no_stations_and_cannot_scan(self):
+        self.run_tool("set", "Device.WiFi.Radio.1.Enable=false")
+        for words, code, message in (("scan wlan0", 1, "radio 1 is switched off: it cannot scan"),
+                                     ("scan wlan0.0 --ssid x", 1, "radio 1 is switched off: it cannot scan"),
+                                     ("stations wlan0", 0, "no stations on wlan0")):
+            result = self.run_tool("wifi", *words.split())
+            self.assertEqual((result.code, result.out, result.err), (code, b"", f"caltofal: {message}\n"))
+
+    def test_a_narrow_terminal_leaves_columns_out(self):
+        self.run_tool("wifi", "scan", "wlan2", "--pace", "10", **QUICK)
+        def shown(*words, columns):
+            text = tool.on_terminal("wifi", "survey", *words, folder=self.folder, columns=columns, NO_COLOR="1")
+            return text.decode().splitlines()
+
+        for width, gone in ((80, "2ND, STANDARDS, ENCRYPTION, WIDTH MHZ"), (110, "2ND"), (120, None)):
+            lines = shown(columns=width)
+            self.assertLessEqual(max(len(line) for line in lines if not line.startswith("caltofal: ")), width)
+            self.assertTrue(lines[1].startswith("VOLA Upstream 5G ") and lines[2].startswith("Upstream 5G "), lines)
+            self.assertEqual([line for line in lines if "no room for" in line],
+                             [] if gone is None else [f"caltofal: no room for {gone}: --columns shows them, and so does a "
+                                                      "wider terminal"])
+        self.assertEqual(shown("--columns", "ssid,bssid,2nd", columns=40)[1][:5], "  2ND")
+
     def test_a_stale_result_is_not_taken_for_a_new_one(self):
         self.assertEqual(self.run_tool("wifi", "scan", "wlan0", "--pace", "10", **QUICK).code, 0)
         stale = self.run_tool("wifi", "scan", "wlan0", "--pace", "1", CALTOFAL_BOX_SCAN_MS="5000")

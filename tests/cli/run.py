@@ -528,6 +528,11 @@ class Words(unittest.TestCase):
         for page in ("hosts", "wifi ssids"):
             lines = tool.on_terminal(*page.split(), NO_COLOR="1", columns=80).decode().splitlines()
             self.assertEqual([line for line in lines if line.startswith(" ") or len(line) > 80], [], page)
+        for page, wanted in (("radio", r"\nAccessPoint\.1\n  WMMEnable .*\n.*\n  X_ZINTU_WMMOption +AC_Gaming +gaming\n"),
+                             ("ssid", r"\nAccessPoint\.1\.Security\n  ModeEnabled +WPA2-Personal +WPA2-PSK\n")):
+            lines = tool.on_terminal("wifi", page, "1", NO_COLOR="1", columns=80).decode().splitlines()
+            self.assertLessEqual(max(map(len, lines)), 80)
+            self.assertRegex("\n".join(lines), wanted)
         lines = tool.on_terminal("get", "Device.WiFi.AccessPoint.1.Security", "--types", NO_COLOR="1",
                                  columns=80).decode().splitlines()
         self.assertLessEqual(max(map(len, lines)), 80)

@@ -54,12 +54,12 @@ class Tool:
         return subprocess.run([self.sandbox_executable, *words], env=self.environment(folder), stdout=subprocess.PIPE,
                               timeout=60, check=True).stdout
 
-    def on_terminal(self, *words, columns=200, **variables):
-        """What the tool writes when its standard output is a terminal of that width."""
+    def on_terminal(self, *words, columns=200, folder=None, **variables):
+        """What the tool writes when its standard output is a terminal of that width; with `folder` words too."""
         ours, theirs = pty.openpty()
         fcntl.ioctl(theirs, termios.TIOCSWINSZ, struct.pack("HHHH", 50, columns, 0, 0))
-        with subprocess.Popen([self.executable, *words], env={**self.environment(None), **variables}, stdout=theirs,
-                              stderr=subprocess.DEVNULL) as process:
+        with subprocess.Popen([self.executable, *words], env={**self.environment(folder), **variables}, stdout=theirs,
+                              stderr=theirs if folder else subprocess.DEVNULL) as process:
             os.close(theirs)
             text = b""
             try:

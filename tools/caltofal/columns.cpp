@@ -36,25 +36,41 @@ size_t columnNamed(const std::vector<std::string> &headings, const std::string &
     return static_cast<size_t>(found - headings.begin());
 }
 
+pages::Table chosen(const pages::Table &table, const std::vector<size_t> &places) {
+    pages::Table result;
+    for (const size_t place : places) {
+        result.headings.push_back(table.headings[place]);
+    }
+    for (const pages::Row &row : table.rows) {
+        pages::Row &cells = result.rows.emplace_back();
+        for (const size_t place : places) {
+            cells.push_back(place < row.size() ? row[place] : pages::Cell());
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 pages::Table withColumns(const pages::Table &table, const std::vector<std::string> &names) {
     if (table.headings.empty()) {
         throw Usage("--columns: this page has no columns with headings");
     }
-    pages::Table result;
     std::vector<size_t> places;
     for (const std::string &name : names) {
         places.push_back(columnNamed(table.headings, name));
-        result.headings.push_back(table.headings[places.back()]);
     }
-    for (const pages::Row &row : table.rows) {
-        pages::Row &chosen = result.rows.emplace_back();
-        for (const size_t place : places) {
-            chosen.push_back(place < row.size() ? row[place] : pages::Cell());
+    return chosen(table, places);
+}
+
+pages::Table withoutColumns(const pages::Table &table, const std::vector<std::string> &headings) {
+    std::vector<size_t> places;
+    for (size_t i = 0; i < table.headings.size(); ++i) {
+        if (std::find(headings.begin(), headings.end(), table.headings[i]) == headings.end()) {
+            places.push_back(i);
         }
     }
-    return result;
+    return chosen(table, places);
 }
 
 } // namespace cli

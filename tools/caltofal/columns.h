@@ -12,4 +12,7 @@ namespace cli {
 // Throws Usage where none or several begin so.
 pages::Table withColumns(const pages::Table &table, const std::vector<std::string> &names);
 
+// A table without the columns of these headings.
+pages::Table withoutColumns(const pages::Table &table, const std::vector<std::string> &headings);
+
 } // namespace cli

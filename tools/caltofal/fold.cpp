@@ -32,6 +32,12 @@ std::vector<size_t> widthsOf(const pages::Table &table) {
     return widths;
 }
 
+// Of columns in one line.
+size_t lineWidth(const std::vector<size_t> &widths, size_t gap) {
+    const size_t gaps = widths.empty() ? 0 : widths.size() - 1;
+    return std::accumulate(widths.begin(), widths.end(), gap * gaps);
+}
+
 // The bytes of the character that begins a printable text.
 size_t lengthOfFirst(const std::string &text, size_t at) {
     const int length = mblen(text.c_str() + at, text.size() - at);
@@ -100,9 +106,44 @@ size_t displayWidth(const std::string &text) {
 
 size_t gapFor(const pages::Table &table, size_t width) {
     const std::vector<size_t> widths = widthsOf(table);
-    const size_t all = std::accumulate(widths.begin(), widths.end(), size_t{0});
-    const size_t gaps = widths.empty() ? 0 : widths.size() - 1;
-    return all + kGap * gaps > width && all + gaps <= width ? 1 : kGap;
+    return lineWidth(widths, kGap) > width && lineWidth(widths, 1) <= width ? 1 : kGap;
+}
+
+std::vector<std::string> columnsToLeave(const pages::Table &table, size_t width) {
+    std::vector<size_t> widths = widthsOf(table);
+    size_t used = lineWidth(widths, 1);
+    std::vector<std::string> left;
+    for (const std::string &heading : table.leastNeeded) {
+        const auto place = std::find(table.headings.begin(), table.headings.end(), heading);
+        if (used > width && place != table.headings.end()) {
+            used -= widths[static_cast<size_t>(place - table.headings.begin())] + 1;
+            left.push_back(heading);
+        }
+    }
+    return left;
+}
+
+pages::Table groupedByObject(const pages::Table &table, size_t width) {
+    constexpr const char *kBelow = "  ";
+    const bool paths = std::all_of(table.rows.begin(), table.rows.end(), [](const pages::Row &row) {
+        return !row.empty() && row[0].text.find('.') != std::string::npos;
+    });
+    if (!paths || lineWidth(widthsOf(table), 1) <= width) {
+        return table;
+    }
+    pages::Table result{table.headings};
+    std::string last;
+    for (const pages::Row &row : table.rows) {
+        const size_t dot = row[0].text.rfind('.');
+        const std::string object = row[0].text.substr(0, dot);
+        if (object != last) {
+            result.rows.push_back({{object, pages::Style::Heading}});
+            last = object;
+        }
+        result.rows.push_back(row);
+        result.rows.back()[0].text = kBelow + row[0].text.substr(dot + 1);
+    }
+    return result;
 }
 
 std::vector<std::vector<size_t>> columnGroups(const pages::Table &table, size_t width, size_t gap) {

@@ -16,6 +16,12 @@ size_t displayWidth(const std::string &text);
 // The blanks between two columns: one where the table is too wide with two.
 size_t gapFor(const pages::Table &table, size_t width);
 
+// The headings of the least needed columns that must leave for the others to have room in one line.
+std::vector<std::string> columnsToLeave(const pages::Table &table, size_t width);
+
+// A table that is too wide, with paths in its first column: the objects stand on lines of their own, the names below.
+pages::Table groupedByObject(const pages::Table &table, size_t width);
+
 // Which columns stand together in a line of that width: as many as fit, the rest on continuation lines, which begin
 // with kContinuation.
 std::vector<std::vector<size_t>> columnGroups(const pages::Table &table, size_t width, size_t gap);

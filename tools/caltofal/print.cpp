@@ -77,12 +77,18 @@ std::string linesOf(const Report &report, const Form &form, int indent) {
 void print(const Report &report, const Form &form) {
     std::cout << linesOf(report, form, kNoteIndent);
     flushOutput();
-    printNotes(report);
+    printNotes(report, form);
 }
 
-void printNotes(const Report &report) {
+void printNotes(const Report &report, const Form &form) {
     for (const std::string &note : report.notes) {
         std::cerr << "caltofal: " << printable(note) << '\n';
+    }
+    const bool chosen = form.json || form.terse || !form.columns.empty();
+    if (const auto left = chosen ? std::vector<std::string>() : withoutRoom(report.table, {.width = screen().columns});
+        !left.empty()) {
+        std::cerr << "caltofal: no room for " << joined(left)
+                  << ": --columns shows them, and so does a wider terminal\n";
     }
 }
 

@@ -26,7 +26,8 @@ std::string linesOf(const pages::Report &report, const Form &form, int indent);
 // The data, then the notes. Throws like linesOf() and flushOutput().
 void print(const pages::Report &report, const Form &form);
 
-void printNotes(const pages::Report &report);
+// Also of columns for which the terminal has no room.
+void printNotes(const pages::Report &report, const Form &form);
 
 void printError(const pages::Failure &failure, bool json);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/render.h"
 
+#include "caltofal/columns.h"
 #include "caltofal/fold.h"
 #include "caltofal/printable.h"
 #include "pages/text.h"
@@ -157,6 +158,8 @@ std::string render(const Table &table, const Look &look) {
     const bool folds = look.width > 0;
     if (folds && shown.headings.empty()) {
         shown = withFoldedValues(shown, look.width);
+    } else if (folds) {
+        shown = groupedByObject(withoutColumns(shown, columnsToLeave(shown, look.width)), look.width);
     }
     const size_t width = folds && !shown.headings.empty() ? look.width : std::numeric_limits<size_t>::max();
     std::vector<std::string> groups;
@@ -165,6 +168,11 @@ std::string render(const Table &table, const Look &look) {
         groups.push_back(linesOf(shown, columns, look.colour, gap));
     }
     return interleaved(groups);
+}
+
+std::vector<std::string> withoutRoom(const Table &table, const Look &look) {
+    return look.width == 0 || table.rows.empty() ? std::vector<std::string>()
+                                                 : columnsToLeave(drawn(table), look.width);
 }
 
 std::string renderTerse(const Table &table) {

@@ -46,7 +46,7 @@ void show(const pages::Report &report, const Form &form) {
     const std::string lines = linesOf(report, form, -1);
     std::cout << (terminal ? inPlace(lines) : lines);
     flushOutput();
-    printNotes(report);
+    printNotes(report, form);
 }
 
 } // namespace

@@ -22,6 +22,8 @@ struct Table {
     std::vector<std::string> headings = {}; // none: no heading line, as many columns as the first row has
     std::vector<Row> rows = {};
     std::vector<Row> forScripts = {}; // instead of the rows: one fact a cell; none: the rows do
+    std::vector<std::string> leastNeeded =
+        {}; // headings of columns that may be missing on a narrow terminal, first first
 };
 
 } // namespace pages

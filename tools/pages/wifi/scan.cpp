@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal.h"
 #include "pages/failure.h"
+#include "pages/page.h"
 #include "pages/process/shell_output.h"
 #include "pages/wifi/file_mark.h"
 #include "pages/wifi/interface.h"
@@ -45,9 +46,13 @@ void checkForShell(const std::string &interface, const std::string &ssid) {
     }
 }
 
+// Whether the radio is one of 5 GHz. One that is switched off would never bring a result.
 bool is5GHz(int radio) {
-    const std::vector<Object> found =
-        get({{"Device.WiFi.Radio." + std::to_string(radio), {{"OperatingFrequencyBand"}}}}, Reading::Leaf);
+    const std::string path = "Device.WiFi.Radio." + std::to_string(radio);
+    const std::vector<Object> found = get({{path, {{"OperatingFrequencyBand"}, {"Enable"}}}}, Reading::Leaf);
+    if (!found.empty() && flagOf(valueOf(found.front(), "Enable")) == false) {
+        throw Failure(Category::Failed, "radio " + std::to_string(radio) + " is switched off: it cannot scan", path);
+    }
     return !found.empty() && valueOf(found.front(), "OperatingFrequencyBand") == "5GHz";
 }
 

@@ -154,6 +154,7 @@ Report surveyReport(const std::string &file, const std::string &ssid) {
     Report result{.json = Value::object({{"networks", Value::list()}})};
     result.table.headings = {"SSID",  "CHANNEL",   "SIGNAL DBM", "SECURITY", "ENCRYPTION",
                              "BSSID", "WIDTH MHZ", "STANDARDS",  "2ND"};
+    result.table.leastNeeded = {"2ND", "STANDARDS", "ENCRYPTION", "WIDTH MHZ", "BSSID"};
     const std::span entries(survey.list.entries, static_cast<size_t>(count));
     for (const SiteSurveyEntry &entry : entries) {
         result.json["networks"].push(jsonOf(entry));
