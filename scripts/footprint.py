@@ -75,6 +75,8 @@ class Calls:
                         print(f"footprint: the frame of {title} is {own[2]}", file=sys.stderr)
             for source, target in re.findall(r'^edge: \{ sourcename: "([^"]+)" targetname: "([^"]+)"', text, re.M):
                 self.callees[source].add(target)
+        if not self.frames:
+            sys.exit(f"footprint: no call graphs in {directory} (a compiler cache keeps none)")
         # A call across files names the function alone.
         self.full = {title.rsplit(":", 1)[-1]: title for title in self.frames}
 
