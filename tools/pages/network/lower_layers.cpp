@@ -4,6 +4,7 @@
 #include "pages/layer/call.h"
 #include "pages/layer/query.h"
 #include "pages/network/pages.h"
+#include "pages/objects/hint.h"
 #include "pages/text.h"
 
 #include <set>
@@ -102,7 +103,7 @@ class Descent {
 Report lowerLayers(const std::string &object, const LowerLayers &how) {
     Report result{.json =
                       Value::object({{"object", withoutDot(checkedPath(object))}, {"lower_layers", Value::list()}})};
-    Descent(result, how).below(object, 0);
+    objects::hinted({{object}}, [&] { Descent(result, how).below(object, 0); });
     return result;
 }
 
