@@ -5,7 +5,6 @@
 #include "store/model.h"
 #include "store/store.h"
 #include "tool/command.h"
-#include "value/path.h"
 
 #include <iostream>
 
@@ -46,7 +45,7 @@ void addExport(Command &root, Tool &tool) {
         const std::unique_ptr<Database> database = tool.open(arguments[0]);
         const Transaction transaction(*database, Transaction::Kind::Read);
         if (!key.empty() && !findObject(*database, key)) {
-            throw Failure(pathOf(key) + ": no such object", kAbsent);
+            throw Failure(arguments[1] + ": no such object", kAbsent);
         }
         writeEntries(format, exportEntries(*database, key, options->stored ? View::Stored : View::Both), std::cout);
     });

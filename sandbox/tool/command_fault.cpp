@@ -109,7 +109,7 @@ void addFaultAdd(Command &group, Tool &tool) {
         }
         inTransaction(tool, [&](Database &database) {
             if (!fault.object.empty() && !findObject(database, fault.object)) {
-                throw Failure(pathOf(fault.object) + ": no such object", kAbsent);
+                throw Failure(options->object + ": no such object", kAbsent);
             }
             fault.id = addFault(database, fault);
         });

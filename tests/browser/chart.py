@@ -29,7 +29,7 @@ return {area: chart.chartArea, floor: y.getPixelForValue(y.min), mhz: x.getPixel
     id: network.id, own: network.own, channel: network.channel, colour: borderColor,
     first: px(data[0]), last: px(data.at(-1)), top: Math.min(...data.map(one => px(one)[1])),
     dbm: network.own ? null : y.getPixelForValue(network.rssi_dbm)})),
-  names: chart.names.map(({network, lines, box}) => ({id: network.id, lines, ...box}))};"""
+  names: chart.names.map(({network, ...label}) => ({id: network.id, ...label}))};"""
 
 
 def row(number, band, channel, dbm, mhz, side, *_, name="network"):
@@ -112,6 +112,16 @@ class Chart(PageCase):
             self.assertEqual({one["id"]: colours[one["id"]] for one in before[band]["networks"]},
                              {one["id"]: one["colour"] for one in before[band]["networks"]})
             self.assertEqual(len(set(colours.values())), len(colours), "and none has another one's")
+
+    def test_colours_follow_the_scheme(self):
+        look = """const {scales: {x}, data: {datasets}} = Chart.getChart(document.querySelector(".chart canvas")),
+            mark = document.querySelector("section .swatch");
+            return [x.options.ticks.color, datasets[0].borderColor, getComputedStyle(mark).backgroundColor];"""
+        self.drawn()
+        light = self.script(look)
+        self.resize(1280, "dark")
+        self.await_script(f"(() => {{{look}}})()[0] !== arguments[0]", light[0], timeout=2)
+        self.assertTrue(all(one != other for one, other in zip(light, self.script(look))))
 
     def test_a_gateway_that_hears_nobody_still_shows_itself(self):
         self.put_around([])

@@ -73,7 +73,7 @@ class Link(PageCase):
         self.await_script(f"{TROUBLE}.includes('connection to the server is lost')", timeout=REFRESH + 5)
         self.assertIn("IPv4/Address", self.read()["LAN"]["facts"])
         self.script("location.hash = '#/mesh'")  # which was not loaded before
-        self.await_script("document.querySelector('main').innerText.includes('Not available:')")
+        self.await_script("document.querySelector('main').innerText.includes('The server cannot be reached.')")
         self.driver.get_log("browser")  # the browser's own words on the refused connection
 
     def test_an_ended_session_is_said_and_nothing_more_asked(self):
@@ -98,10 +98,20 @@ class Link(PageCase):
         self.sandbox(server, "fault", "clear")
         self.await_script("document.querySelector('main').innerText.includes('parameters.')")
 
-    def test_a_server_that_only_reads_says_so_in_the_form(self):
+    def test_a_server_that_only_reads_offers_no_change(self):
         self.serve(options=["--read-only"])
-        self.open("wifi")
-        self.press("Change network 1, VOLA Home")
-        self.await_script("document.querySelector('dialog')")
-        self.fill("SSID", "Attic")
-        self.await_script("/only|read/.test(document.querySelector('dialog [role=alert]').innerText)")
+        for view in ("wifi", "mesh", "model"):
+            self.open(view)
+            if view == "model":
+                self.driver.find_element("id", "search").send_keys("radio.1")
+            self.assertEqual(self.script("return [...document.querySelectorAll('main button')].length"), 0, view)
+            self.assertIn("only reads", self.script("return document.querySelector('main').innerText"))
+
+    def test_a_bar_follows_its_value(self):
+        server = self.serve()
+        self.open("internet")
+        width = "document.querySelector('[aria-label=\"Downstream noise margin\"] .fill').offsetWidth"
+        before = self.script(f"return {width}")
+        self.sandbox(server, "import", "home", "-", "--format", "tr181",
+                     data=b"Device.DSL.Line.1.DownstreamNoiseMargin = 20\n")
+        self.await_script(f"{width} < arguments[0] / 2", before, timeout=REFRESH + 5)

@@ -152,21 +152,19 @@ class PageCase(unittest.TestCase):
         self.script("arguments[0].click()", self.button(name, inside))
 
     def field(self, name):
-        return self.driver.find_element(By.NAME, name)
+        return self.await_script("document.querySelector('dialog')?.querySelector(`[name=${arguments[0]}]`)", name)
 
     def fill(self, name, text):
         field = self.field(name)
         if field.tag_name == "select":
             Select(field).select_by_value(text)
-            # A person's choice is an input too; the driver's is not.
-            self.script("arguments[0].dispatchEvent(new Event('input', {bubbles: true}))", field)
         else:
             field.send_keys(Keys.CONTROL, "a")
             field.send_keys(text or Keys.DELETE)
 
     def await_preview(self):
         """What the open form says that will change, {parameter: (from, to)}, as soon as it may be saved."""
-        self.await_script("document.querySelector('dialog button.main:enabled')")
+        self.await_script("document.querySelector('dialog button.main[aria-disabled=false]')")
         rows = self.script("""return [...document.querySelectorAll("dialog tbody tr")].map(row =>
             [...row.cells].map(cell => cell.innerText))""")
         return {path: (old, new) for path, old, new in rows}

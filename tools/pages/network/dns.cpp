@@ -5,7 +5,6 @@
 #include "pages/layer/call.h"
 #include "pages/network/current.h"
 #include "pages/network/pages.h"
-#include "pages/objects/hint.h"
 
 namespace pages {
 namespace {
@@ -18,9 +17,7 @@ constexpr const char *kServers = "Device.DNS.Client.Server";
 Page dns(const std::string &given) {
     const std::string interface = given.empty() ? gatewayInterface() : checkedPath(given);
     if (!given.empty()) {
-        objects::hinted({{interface}}, [&] {
-            return get({{interface}}, Reading::Leaf);
-        }); // the library's functions do not say that it is not there
+        get({{interface}}, Reading::Leaf); // the library's functions do not say that it is not there
     }
     char used1[kAddressSize] = "";
     char used2[kAddressSize] = "";

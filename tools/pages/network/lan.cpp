@@ -2,7 +2,6 @@
 
 #include "caltofal.h"
 #include "pages/layer/call.h"
-#include "pages/layer/query.h"
 #include "pages/network/pages.h"
 
 #include <optional>
@@ -10,58 +9,11 @@
 namespace pages {
 namespace {
 
-// Nothing in it where the gateway does not have it.
-Object ifThere(const Object &wanted) {
-    try {
-        const std::vector<Object> found = get({wanted}, Reading::Leaf);
-        return found.empty() ? Object() : found.front();
-    } catch (const Failure &failure) {
-        if (failure.category() != Category::Absent) {
-            throw;
-        }
-        return {};
-    }
-}
-
-template <size_t Size>
-void store(char (&field)[Size], const Object &object, const char *parameter) {
-    valueOf(object, parameter).copy(field, Size - 1);
-}
-
-// Each object by itself; whether there is an address.
-bool fillPiecemeal(LANv4Info &lan) {
-    const Object address = ifThere({"Device.IP.Interface.1.IPv4Address.1", {{"IPAddress"}, {"SubnetMask"}}});
-    const Object pool =
-        ifThere({"Device.DHCPv4.Server.Pool.1", {{"Enable"}, {"MinAddress"}, {"MaxAddress"}, {"LeaseTime"}}});
-    const Value server = flagOf(valueOf(ifThere({"Device.DHCPv4.Server", {{"Enable"}}}), "Enable"));
-    const Value active = server == false ? server : flagOf(valueOf(pool, "Enable"));
-    store(lan.sIPv4Address, address, "IPAddress");
-    store(lan.sIPv4Subnet, address, "SubnetMask");
-    store(lan.sMACAddr, ifThere({"Device.Ethernet.Interface.1", {{"MACAddress"}}}), "MACAddress");
-    store(lan.sDHCPv4StartIP, pool, "MinAddress");
-    store(lan.sDHCPv4EndIP, pool, "MaxAddress");
-    if (active.isFlag()) {
-        lan.bDHCPv4Active = active == true ? 1 : 0;
-    }
-    if (const Value lease = numberOf(valueOf(pool, "LeaseTime")); lease.isNumber()) {
-        lan.nLeaseTimeSec = static_cast<int32_t>(lease.whole());
-    }
-    return lan.sIPv4Address[0] != '\0';
-}
-
-// The library's function answers nothing where an object is missing: then the page has what the others tell.
-Section ipv4Section(std::vector<std::string> &notes) {
+Section ipv4Section() {
     LANv4Info lan{};
     lan.bDHCPv4Active = kUntouchedFlag;
     untouch(lan.nLeaseTimeSec);
-    try {
-        ask([&] { return ZintuGet_LANv4Info(&lan); }, {"no LAN"});
-    } catch (const Failure &failure) {
-        if (failure.category() != Category::Absent || !fillPiecemeal(lan)) {
-            throw;
-        }
-        notes.push_back(std::string(failure.what()) + "; what it tells is missing here");
-    }
+    ask([&] { return ZintuGet_LANv4Info(&lan); }, {"no LAN"});
     return {"ipv4",
             "IPv4",
             {
@@ -75,7 +27,7 @@ Section ipv4Section(std::vector<std::string> &notes) {
             }};
 }
 
-Section ipv6Section(std::vector<std::string> & /*notes*/) {
+Section ipv6Section() {
     LANv6Info lan{};
     lan.bIPv6Active = kUntouchedFlag;
     lan.bPDActive = kUntouchedFlag;
@@ -108,9 +60,9 @@ Section ipv6Section(std::vector<std::string> & /*notes*/) {
 }
 
 // A half that the gateway does not have is told in a note.
-void addHalf(Page &page, Section (*half)(std::vector<std::string> &), std::optional<Failure> &missing) {
+void addHalf(Page &page, Section (*half)(), std::optional<Failure> &missing) {
     try {
-        page.sections.push_back(half(page.notes));
+        page.sections.push_back(half());
     } catch (const Failure &failure) {
         if (failure.category() != Category::Absent) {
             throw;
@@ -126,11 +78,10 @@ void addHalf(Page &page, Section (*half)(std::vector<std::string> &), std::optio
 } // namespace
 
 Page lan(LanPart part) {
-    Page page;
     if (part != LanPart::Both) {
-        page.sections.push_back(part == LanPart::Ipv4 ? ipv4Section(page.notes) : ipv6Section(page.notes));
-        return page;
+        return {{part == LanPart::Ipv4 ? ipv4Section() : ipv6Section()}};
     }
+    Page page;
     std::optional<Failure> missing;
     addHalf(page, ipv4Section, missing);
     addHalf(page, ipv6Section, missing);

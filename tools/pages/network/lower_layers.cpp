@@ -4,7 +4,6 @@
 #include "pages/layer/call.h"
 #include "pages/layer/query.h"
 #include "pages/network/pages.h"
-#include "pages/objects/hint.h"
 #include "pages/text.h"
 
 #include <set>
@@ -103,7 +102,7 @@ class Descent {
 Report lowerLayers(const std::string &object, const LowerLayers &how) {
     Report result{.json =
                       Value::object({{"object", withoutDot(checkedPath(object))}, {"lower_layers", Value::list()}})};
-    objects::hinted({{object}}, [&] { Descent(result, how).below(object, 0); });
+    Descent(result, how).below(object, 0);
     return result;
 }
 

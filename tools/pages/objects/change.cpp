@@ -33,8 +33,13 @@ Report report(const char *what, const std::vector<Object> &objects, bool storeOn
     return {.json = Value::object({{what, listOf(objects)}, {"applied", !storeOnly}})};
 }
 
+// `change` with a hint where something is not there.
 std::vector<Object> hintedChange(const std::vector<Object> &objects, Change what, bool storeOnly) {
-    return hinted(objects, [&] { return change(objects, what, storeOnly); });
+    try {
+        return change(objects, what, storeOnly);
+    } catch (const Failure &failure) {
+        throw withHint(failure, objects);
+    }
 }
 
 } // namespace

@@ -144,6 +144,16 @@ Report typesOf(const std::vector<Object> &objects) {
     return result;
 }
 
+// What `work` answers, with a hint where something is not there.
+template <class Work>
+auto hinted(const std::vector<Object> &objects, Work work) {
+    try {
+        return work();
+    } catch (const Failure &failure) {
+        throw withHint(failure, objects);
+    }
+}
+
 Report reportOf(const Query &query) {
     if (query.names) {
         return namesBelow(query);

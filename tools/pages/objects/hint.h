@@ -22,14 +22,4 @@ Failure withHint(const Failure &failure, const std::string &path);
 // The same of several paths, one of which was refused; in a change also for a parameter.
 Failure withHint(const Failure &failure, const std::vector<Object> &objects);
 
-// What `work` answers, with a hint where one of the objects is not there.
-template <class Work>
-auto hinted(const std::vector<Object> &objects, Work work) {
-    try {
-        return work();
-    } catch (const Failure &failure) {
-        throw withHint(failure, objects);
-    }
-}
-
 } // namespace pages::objects

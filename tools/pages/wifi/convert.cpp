@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal.h"
 #include "pages/failure.h"
-#include "pages/similar.h"
 #include "pages/text.h"
 #include "pages/wifi/pages.h"
 
@@ -136,12 +135,7 @@ const Converter &converterNamed(const std::string &name) {
     const auto *const found = std::find_if(std::begin(kConverters), std::end(kConverters),
                                            [&](const Converter &one) { return one.name == name; });
     if (found == std::end(kConverters)) {
-        std::vector<std::string> names;
-        for (const Converter &one : kConverters) {
-            names.emplace_back(one.name);
-        }
-        throw Usage(inQuotes(name) + " is not a conversion" + didYouMean(name, names) +
-                    "; caltofal wifi convert lists them");
+        throw Usage(inQuotes(name) + " is not a conversion; caltofal wifi convert lists them");
     }
     return *found;
 }

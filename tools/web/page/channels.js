@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The geometry of the channel chart: which frequencies a network takes, where they are on the axis, its shape there,
-// the place of its name, its colour. Numbers in, numbers out: nothing here draws or asks.
+// The channel chart in numbers: what a network takes, where that is on the axis, its shape, the place of its name, its
+// colour. Nothing here draws or asks.
 
 // The 20 MHz channels of 5 GHz lie in runs without gaps, in which wider channels are formed from the first one on.
 const RUNS = [[36, 64], [100, 144], [149, 177]];
@@ -25,7 +25,7 @@ export function spanOf({channel, bandwidth_mhz: width, secondary_side: side}) {
   const band = bandOf(channel);
   if (!band) return null;
   let channels = [channel], sure = width === 20;
-  if (band === "5g" && width > 20) {
+  if (band === "5g") {
     const block = blockOf(channel, width / 20);
     channels = block ?? channels;
     sure = block !== null;
@@ -65,39 +65,36 @@ export function humpOf(axis, {low, high}, top, floor) {
     y: floor + (top - floor) * Math.max(0, 1 - across ** 4)}));
 }
 
-// Boxes in `area` for names {x: middle, y: wanted lower edge, width, height}, the most important first. They do not
-// cover each other; null where there is no room within four heights.
+// Labels {x: middle, y: wanted lower edge, width, height}, the most important first, with `left` and `top` in `area` so
+// that they do not cover each other; those without room within four heights are left out.
 export function placeLabels(labels, area) {
   const placed = [];
   const covers = (a, b) => a.left < b.left + b.width && b.left < a.left + a.width
     && a.top < b.top + b.height && b.top < a.top + a.height;
-  return labels.map(({x, y, width, height}) => {
+  for (const label of labels) {
+    const {x, y, width, height} = label;
     const left = Math.max(area.left, Math.min(x - width / 2, area.right - width));
     const wanted = Math.max(area.top, Math.min(y, area.bottom) - height);
-    const box = [0, -.5, -1, .5, -1.5, 1, -2, 2, -3, 3, -4, 4].map(step => ({left, top: wanted + step * height, width, height}))
+    const place = [0, -.5, -1, .5, -1.5, 1, -2, 2, -3, 3, -4, 4]
+      .map(step => ({...label, left, top: wanted + step * height}))
       .find(one => one.top >= area.top && one.top + height <= area.bottom && !placed.some(other => covers(other, one)));
-    if (box) placed.push(box);
-    return box ?? null;
-  });
+    if (place) placed.push(place);
+  }
+  return placed;
 }
 
-// One of `count` colours for a network. `taken` remembers those given; a new network gets a free one while there
-// are some.
+// One of `count` colours for a network. `taken` remembers those given: none is given twice before all are.
 export function colourOf(id, taken, count) {
-  if (!taken.has(id)) {
-    const hash = [...id].reduce((sum, letter) => (sum * 31 + letter.codePointAt(0)) % 9973, 7);
-    const order = series(hash, count, 1).map(number => number % count), used = new Set(taken.values());
-    taken.set(id, order.find(number => !used.has(number)) ?? order[0]);
-  }
+  if (!taken.has(id)) taken.set(id, taken.size % count);
   return taken.get(id);
 }
 
 // The networks on the air: the own ones of a radio as one, then the others, strongest first. One that several
-// interfaces heard stands there once; own ones that were heard are no others. `sides`: of the secondary channel, by
-// radio.
-export function networksOf(radios, ssids, sides, heard) {
+// interfaces heard stands there once; own ones that were heard are no others. sideOf() tells where a radio's secondary
+// channel is.
+export function networksOf(radios, ssids, sideOf, heard) {
   const own = radios.filter(radio => radio.enabled && radio.status === "Up" && bandOf(radio.channel) === radio.band)
-    .map(radio => ({...radio, own: true, id: radio.interface, secondary_side: sides[radio.radio], names:
+    .map(radio => ({...radio, own: true, id: radio.interface, secondary_side: sideOf(radio), names:
       ssids.filter(ssid => ssid.radio === radio.radio && ssid.enabled && ssid.active && ssid.network !== "uplink")}))
     .filter(network => network.names.length);
   const ours = new Set(ssids.map(ssid => ssid.bssid)), others = new Map();

@@ -1,25 +1,19 @@
 // SPDX-License-Identifier: MIT
 // The home network: its addresses, the hosts in it, the set-top box.
-import {connected, el, facts, figure, getStatus, name, note, onOff, pair, part, table} from "./main.js";
+import {deviceColumns, el, facts, figure, getStatus, note, onOff, pair, part, table} from "./main.js";
+
+const pool = lan => ["Hands out", lan.dhcp_start && `${lan.dhcp_start} to ${lan.dhcp_end}`];
 
 const ipv4 = lan => facts(["Address", lan.address], ["Subnet mask", lan.subnet_mask], ["MAC address", lan.mac_address],
-  ["DHCP server", onOff(lan.dhcp_active)], ["Hands out", lan.dhcp_start && `${lan.dhcp_start} to ${lan.dhcp_end}`],
-  ["Lease", figure(lan.lease_time_s / 3600, "hours")]);
+  ["DHCP server", onOff(lan.dhcp_active)], pool(lan), ["Lease", figure(lan.lease_time_s / 3600, "hours")]);
 
 const ipv6 = lan => facts(["State", onOff(lan.active)],
-  ["Address", lan.address && `${lan.address}/${lan.prefix_length_bits}`],
-  ["Mode", lan.mode], ["Hands out", lan.dhcp_start && `${lan.dhcp_start} to ${lan.dhcp_end}`],
+  ["Address", lan.address && `${lan.address}/${lan.prefix_length_bits}`], ["Mode", lan.mode], pool(lan),
   ["Name servers", [lan.dns1, lan.dns2].filter(Boolean).join(", ")], ["Domain", lan.domain]);
 
-const COLUMNS = [
-  ["Host", host => name(host.name)],
-  ["State", host => connected(host.active, "Away")],
-  ["Address", "address"],
-  ["MAC address", "mac"],
-  ["Link", "type"]];
-
-const hostTable = ({hosts}) => [note(`${hosts.filter(host => host.active).length} of ${hosts.length} are connected.`),
-  table("Hosts", COLUMNS, [...hosts].sort((a, b) => b.active - a.active), "number", "No host has been seen yet.")];
+const hostTable = ({hosts}) => [note(`Connected: ${hosts.filter(host => host.active).length} of ${hosts.length}.`),
+  table("Hosts", [...deviceColumns("Host", "address"), ["Link", "type"]],
+    [...hosts].sort((a, b) => b.active - a.active), "number", "No host has been seen yet.")];
 
 export default {
   load: () => getStatus({hosts: "hosts"}),

@@ -53,7 +53,7 @@ export default {
     part("DSL line", dsl, line, "DSL line"),
     pair(
       part("ATM link", atm, ({vpi, vci, qos_class: quality}) => facts(["VPI / VCI", `${vpi} / ${vci}`],
-        ["Service class", quality], ["In use", wan.value?.link_type === "adsl" ? "yes" : "no"]), "ATM link"),
+        ["Service class", quality], ["In use", wan.link_type === "adsl" ? "yes" : "no"]), "ATM link"),
       part("Multi-WAN", multiwan, both => facts(["Two WANs", onOff(both.enabled)], ["Sharing", word(both.sharing)],
         ["First", oneWan(both.wan1)], ["Second", oneWan(both.wan2)]), "second WAN")),
   ],

@@ -1,73 +1,78 @@
 // SPDX-License-Identifier: MIT
-// The page: asking the gateway; what views are made of; the overview; the way between the views and their refreshing.
-// One file, as the first view is to need few; the other views are loaded when they are first shown. Text from the
-// gateway only ever becomes text: nothing here parses markup.
+// Asking the gateway; what views are made of; the overview; the way between the views, which are loaded when they are
+// first shown. One file, as the first view is to need few.
 
-export class ApiError extends Error {
-  constructor(status, error) {
-    super(error.message);
-    this.status = status;
-  }
-}
+// What went wrong with a request, with its HTTP status or 0.
+export const failure = (status, message) => Object.assign(new Error(message), {status});
 
 // How the server was last found: "ok", "lost" (no answer) or "ended" (it no longer knows this session).
-export const link = {state: "ok"};
-const kept = new Map(); // path → {tag, value} of its last answer
+export const link = {state: "ok", readOnly: false};
+const kept = new Map(); // path → the value of its last answer
+const heads = new WeakMap(); // such a value → the headers that came with it
+
+function lost() {
+  link.state = "lost";
+  throw failure(0, "The server cannot be reached.");
+}
 
 async function ask(method, path, headers, body) {
-  let response;
-  try {
-    response = await fetch(`/api/v1/${path}`, {method, headers, body, cache: "no-store"});
-  } catch {
-    link.state = "lost";
-    throw new ApiError(0, {message: "The server cannot be reached."});
-  }
+  const response = await fetch(`/api/v1/${path}`, {method, headers, body, cache: "no-store"}).catch(lost);
   link.state = response.status === 401 ? "ended" : "ok";
+  link.readOnly = response.headers.has("Caltofal-Read-Only");
   if (response.ok || response.status === 304) return response;
   const answer = await response.json().catch(() => ({}));
-  throw new ApiError(response.status, answer.error ?? {message: `The server answered ${response.status}.`});
+  throw failure(response.status, answer.error?.message ?? `The server answered ${response.status}.`);
 }
+
+const tagOf = value => heads.get(value).get("ETag");
 
 // A resource: the same object again for as long as the server says that it is the same.
 export async function get(path) {
   const before = kept.get(path);
-  const response = await ask("GET", path, before ? {"If-None-Match": before.tag} : {});
-  if (response.status === 304) return before.value;
-  const value = await response.json(), tag = response.headers.get("ETag");
-  if (tag) kept.set(path, {tag, value});
+  const response = await ask("GET", path, before ? {"If-None-Match": tagOf(before)} : {});
+  if (response.status === 304) return before;
+  const value = await response.json();
+  kept.set(path, value);
+  heads.set(value, response.headers);
   return value;
 }
 
-// {name: path} becomes {name: {value} or {error}}; fails as a whole only when no server answers.
-export async function getAll(paths) {
-  return Object.fromEntries(await Promise.all(Object.entries(paths).map(async ([name, path]) => {
-    try {
-      return [name, {value: await get(path)}];
-    } catch (error) {
-      if (link.state !== "ok" || !(error instanceof ApiError)) throw error;
-      return [name, {error}];
-    }
-  })));
+// What was said beside a value that get() gave: a list of texts.
+export const notesOf = value => JSON.parse(heads.get(value)?.get("Caltofal-Notes") ?? "[]");
+
+// For what does not change while it is looked at.
+export const getOnce = async path => kept.get(path) ?? get(path);
+
+// {name: path} becomes {name: answer}, which may be a failure; fails as a whole only when no server answers.
+export async function getAll(paths, read = get) {
+  return Object.fromEntries(await Promise.all(Object.entries(paths).map(async ([name, path]) =>
+    [name, await read(path).catch(error => {
+      if (link.state !== "ok") throw error;
+      return error;
+    })])));
 }
 
 // The pages of `status` in the same form, with more that getAll() asks for.
 export async function getStatus(more) {
   const [status, others] = await Promise.all([get("status"), getAll(more)]);
-  const pages = Object.entries(status).map(([name, value]) =>
-    [name, value?.error ? {error: new ApiError(value.error.exit === 10 ? 404 : 500, value.error)} : {value}]);
-  return {...Object.fromEntries(pages), ...others};
+  return {...Object.fromEntries(Object.entries(status).map(([name, value]) =>
+    [name, value?.error ? failure(value.error.exit === 10 ? 404 : 500, value.error.message) : value])), ...others};
 }
 
-// A change: its answer, null when there is none.
-export async function send(method, path, body) {
-  const response = await ask(method, path, {"Content-Type": "application/json"}, JSON.stringify(body));
-  return response.json().catch(() => null);
+// A change: its answer. It is refused with 412 when the gateway has something else by now than `known`, from get().
+export async function send(method, path, body, known) {
+  const headers = {"Content-Type": "application/json", ...known && {"If-Match": tagOf(known)}};
+  return (await ask(method, path, headers, JSON.stringify(body))).json();
 }
 
-const HANDLERS = ["onclick", "oninput", "onsubmit"];
+const HANDLERS = ["onclick", "oninput", "onchange", "onsubmit"];
 const given = value => value !== false && (value ?? null) !== null;
 
-// el("p.note", {id: "x", onclick: f}, "text", child, [more]): what is null or false is left out.
+// What would not be seen, or would turn the direction of what follows, is spelled out.
+const UNSEEN = /[\0-\x1f\x7f-\x9f\u00ad\u061c\u180e\u200b-\u200f\u2028-\u202e\u2060-\u206f\ufeff\ufff9-\ufffb]/g;
+export const visible = text => String(text).replace(UNSEEN, c => `\\u${c.charCodeAt(0).toString(16).padStart(4, "0")}`);
+
+// el("p.note", {id: "x", onclick: f}, "text", child, [more]): without what is null or false, and with texts visible.
 export function el(kind, ...rest) {
   const [tag, ...classes] = kind.split(".");
   const node = document.createElement(tag);
@@ -77,7 +82,7 @@ export function el(kind, ...rest) {
     if (HANDLERS.includes(key)) node[key] = value;
     else if (given(value)) node.setAttribute(key, value === true ? "" : value);
   }
-  node.append(...rest.flat(9).filter(given));
+  node.append(...rest.flat(9).filter(given).map(child => child instanceof Node ? child : visible(child)));
   return node;
 }
 
@@ -91,42 +96,42 @@ function morphNode(old, next) {
   if ("own" in old.dataset) return;
   // Whether a disclosure is open is the reader's affair.
   for (const {name} of [...old.attributes]) if (name !== "open" && !next.hasAttribute(name)) old.removeAttribute(name);
-  for (const {name, value} of next.attributes) if (old.getAttribute(name) !== value) old.setAttribute(name, value);
+  for (const {name, value} of next.attributes) {
+    if (old.getAttribute(name) === value) continue;
+    if (name === "style") old.style.cssText = value; // the content security policy refuses the attribute
+    else old.setAttribute(name, value);
+  }
   morph(old, next.childNodes);
 }
 
 // Makes the children of a node like those given and touches only what differs, so that focus, selection, scrolling and
 // open disclosures survive. An element with data-own keeps what it has.
 export function morph(parent, fresh) {
-  const wanted = [...fresh], present = [...parent.childNodes];
+  const wanted = [...fresh].flat(9).filter(given), present = [...parent.childNodes];
   wanted.forEach((next, index) => (present[index] ? morphNode(present[index], next) : parent.append(next)));
   present.slice(wanted.length).forEach(old => old.remove());
 }
 
-// What would not be seen, or would turn the direction of what follows, is spelled out.
-const UNSEEN = /[\0-\x1f\x7f-\x9f\u00ad\u061c\u180e\u200b-\u200f\u2028-\u202e\u2060-\u206f\ufeff\ufff9-\ufffb]/g;
-export const visible = text => String(text).replace(UNSEEN, c => `\\u${c.charCodeAt(0).toString(16).padStart(4, "0")}`);
-
 export const quiet = (...text) => el("span.quiet", text);
 export const note = (...text) => el("p.quiet", text);
-const shown = value => (value ?? "") === "" ? quiet("–") : typeof value === "object" ? value : visible(value);
+const shown = value => given(value) && value !== "" ? value : quiet("–");
 
 // A name that came from the air or from a client.
-export const name = (text, empty = "(no name)") => text ? el("bdi", visible(text)) : quiet(empty);
+export const name = (text, empty = "(no name)") => text ? el("bdi", text) : quiet(empty);
 
 export const figure = (value, unit, digits = 0) => typeof value === "number"
   ? el("span.figure", value.toFixed(digits), " ", el("span.unit", unit)) : quiet("–");
 export const rate = kbit => kbit < 1000 ? figure(kbit, "kbit/s") : figure(kbit / 1000, "Mbit/s", 1);
-export const bandName = band => ({"2.4g": "2.4 GHz", "5g": "5 GHz"})[band] ?? band;
+export const bandName = band => band?.replace("g", " GHz");
 
 // A state in words; `kind` (good, bad, off) adds a mark of its own shape and colour.
-export const state = (word, kind) => el(`span.state.${kind}`, visible(word));
+export const state = (word, kind) => el(`span.state.${kind}`, word);
 export const onOff = on => on ? state("On", "good") : state("Off", "off");
 export const connected = (is, otherwise, kind = "off") => is ? state("Connected", "good") : state(otherwise, kind);
 
 // How much of a whole there is.
 export function bar(label, part, whole, weak) {
-  const share = Math.round(100 * Math.max(0, Math.min(1, whole ? part / whole : 0)));
+  const share = Math.round(100 * Math.max(0, Math.min(1, part / whole || 0)));
   const fill = el("span.fill");
   fill.style.width = `${share}%`;
   return el(`span.bar${weak ? ".weak" : ""}`, {role: "meter", "aria-label": label, "aria-valuenow": share}, fill);
@@ -136,19 +141,24 @@ export const facts = (...rows) => el("dl", rows.filter(Boolean).map(([term, valu
   el("div", el("dt", term), el("dd", shown(value)))));
 
 // Columns of [head, content, kind]: content is a member's name or content(row), kind "count" for figures and "act" for
-// buttons. On a narrow screen a row becomes a list of heads and cells, which is why the roles are spelled out. `key` is
-// the content that gives a row its identity over refreshes.
-export function table(label, columns, rows, key, empty) {
+// changes, left out where the server only reads. On a narrow screen a row becomes a list of heads and cells, which is
+// why the roles are spelled out. `key` is the content that gives a row its identity over refreshes.
+export function table(label, all, rows, key, empty) {
   if (!rows.length) return note(empty);
+  const columns = all.filter(([, , kind]) => kind !== "act" || !link.readOnly);
   const of = (content, row) => typeof content === "function" ? content(row) : row[content];
   const row = (cells, attributes) => el("tr", {role: "row", ...attributes}, columns.map(cells));
   return el("table", {role: "table", "aria-label": label},
-    el("thead", {role: "rowgroup"}, row(([head, , kind = "text"]) =>
+    el("thead", row(([head, , kind = ""]) =>
       el(`th.${kind}`, {role: "columnheader"}, el("span", head)))),
-    el("tbody", {role: "rowgroup"}, rows.map(one => row(([head, content, kind = "text"], index) =>
+    el("tbody", rows.map(one => row(([head, content, kind = ""], index) =>
       el(`${index ? "td" : "th"}.${kind}`, {role: index ? "cell" : "rowheader", "data-head": head},
         shown(of(content, one))), {"data-key": of(key, one)}))));
 }
+
+// Columns of a table of devices in the home.
+export const deviceColumns = (head, address) => [[head, device => name(device.name)],
+  ["State", device => connected(device.active, "Away")], ["Address", address], ["MAC address", "mac"]];
 
 // `title` may go with buttons: [title, ...buttons].
 export function section(title, ...content) {
@@ -160,19 +170,19 @@ export const pair = (...parts) => el("div.pair", parts);
 
 // `subject` completes the name for those who do not see what stands around it.
 export const button = (label, onclick, subject) =>
-  el("button", {type: "button", onclick, "aria-label": subject && `${label} ${subject}`}, label);
+  el("button", {type: "button", onclick, "aria-label": subject && visible(`${label} ${subject}`)}, label);
 
 // What a view makes of an answer; `thing` is what is missing where there is none.
-export const answered = ({value, error}, show, thing) => !error ? show(value) : error.status === 404 && thing
-  ? note(`This gateway has no ${thing}.`) : el("p", el("strong.refused", "Not available: "), visible(error.message));
+export const answered = (answer, show, thing) => !(answer instanceof Error) ? show(answer)
+  : answer.status === 404 && thing ? note(`This gateway has no ${thing}.`)
+    : el("p", el("strong.refused", "Not available: "), answer.message);
 export const part = (title, answer, show, thing) => section(title, answered(answer, show, thing));
 
 // For a screen reader and the corner of the eye: something was done.
-let saidTimer;
 export function say(text) {
-  document.getElementById("said").textContent = text;
-  clearTimeout(saidTimer);
-  saidTimer = text && setTimeout(say, 6000, "");
+  said.textContent = visible(text);
+  clearTimeout(say.timer);
+  say.timer = setTimeout(() => { said.textContent = ""; }, 6000);
 }
 
 const REFRESH_MS = 5000;
@@ -181,10 +191,10 @@ const overview = {
   load: () => getStatus({radios: "wifi/radios"}),
   render: ({mode, wan, dsl, lan, radios}) => pair(
     part("Internet", wan, value => facts(["State", connected(value.status === "Up", value.status || "Unknown", "bad")],
-      ["Connection", value.description || value.type], dsl.value?.status === "connected" && ["DSL line",
-        [rate(dsl.value.downstream.rate_kbit_s), " down, ", rate(dsl.value.upstream.rate_kbit_s), " up"]],
+      ["Connection", value.description || value.type], dsl.status === "connected" && ["DSL line",
+        [rate(dsl.downstream.rate_kbit_s), " down, ", rate(dsl.upstream.rate_kbit_s), " up"]],
       ["Address", value.ip_address], ["IPv6 address", value.ipv6?.address], ["Gateway", value.gateway])),
-    part("Home network", lan, ({ipv4, ipv6}) => facts(["Role", mode.value && (mode.value.router ? "router" : "bridge")],
+    part("Home network", lan, ({ipv4, ipv6}) => facts(["Role", ({true: "router", false: "bridge"})[mode.router]],
       ["Address", ipv4?.address], ["IPv6 address", ipv6?.address], ["DHCP server", onOff(ipv4?.dhcp_active)])),
     part("Wi-Fi", radios, value => table("Radios", [["Radio", radio => bandName(radio.band)],
       ["State", radio => onOff(radio.enabled)], ["Channel", "channel", "count"],
@@ -195,7 +205,7 @@ const overview = {
 const VIEWS = Object.entries({"": "Overview", internet: "Internet", home: "Home network", wifi: "Wi-Fi", mesh: "Mesh",
   model: "Data model", written: "Written"}).map(([route, title]) => ({route, title, view: route ? null : overview}));
 
-const [content, freshness, trouble, views] = ["content", "freshness", "trouble", "views"]
+const [content, freshness, said, trouble, views] = ["content", "freshness", "said", "trouble", "views"]
   .map(id => document.getElementById(id));
 let current, timer, turn = 0, data, lastGood = "";
 
@@ -207,12 +217,12 @@ function showLink() {
   freshness.textContent = text || !lastGood ? "" : `As of ${lastGood}`;
 }
 
-const title = () => el("h1", current.title);
+const title = () => [el("h1", current.title), link.readOnly && note("This server only reads: nothing can be changed.")];
 
 // Shows what is known already: for a view whose own controls changed.
 export function redraw() {
   if (!data) return;
-  morph(content, [title(), current.view.render(data)].flat());
+  morph(content, [title(), current.view.render(data)]);
   current.view.shown?.(data);
 }
 
@@ -221,16 +231,17 @@ export async function refresh() {
   clearTimeout(timer);
   const mine = ++turn;
   try {
-    current.view ??= (await import(`./${current.route}.js`)).default;
+    current.view ??= (await import(`./${current.route}.js`).catch(lost)).default;
     const fresh = mine === turn && await current.view.load();
     if (mine !== turn) return;
     data = fresh;
     lastGood = new Date().toLocaleTimeString();
     redraw();
+    dispatchEvent(new Event("refreshed"));
   } catch (error) {
-    if (!(error instanceof ApiError)) console.error(error);
+    if (!("status" in error)) console.error(error); // a fault of the page's own
     if (mine !== turn) return;
-    if (link.state === "ok" || !data) morph(content, [title(), answered({error})]);
+    if (link.state === "ok" || !data) morph(content, [title(), answered(error)]);
   }
   content.removeAttribute("aria-busy");
   showLink();
@@ -256,5 +267,6 @@ function open() {
 }
 
 addEventListener("hashchange", open);
+matchMedia("(prefers-color-scheme: dark)").addEventListener("change", redraw);
 document.addEventListener("visibilitychange", () => (document.hidden ? clearTimeout(timer) : refresh()));
 open();

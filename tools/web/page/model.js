@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The whole data model: found by words, read, changed.
 import {openForm} from "./edit.js";
-import {button, el, getAll, name, note, part, quiet, redraw, refresh, table, visible} from "./main.js";
+import {button, el, getAll, note, part, redraw, table} from "./main.js";
+import {valueOf} from "./written.js";
 
 const MOST = 200; // rows at once
 let words = "", kept, rows;
@@ -13,25 +14,25 @@ function parametersOf(answer) {
   rows = Object.entries(answer).flatMap(([object, parameters]) => Object.entries(parameters)
     .filter(([parameter]) => !parameter.endsWith("_hex"))
     .map(([parameter, value]) => ({object, parameter, value,
-      path: `${object.replace(/\.$/, "")}.${parameter}`, text: `${object}.${parameter} ${value}`.toLowerCase()})));
+      path: `${object}.${parameter}`, text: `${object}.${parameter} ${value}`.toLowerCase()})));
   return rows;
 }
 
 function search(text) {
   words = text;
   const input = document.getElementById("search");
-  if (input.value !== text) input.value = text;
+  input.value = text;
   input.focus();
   redraw();
 }
 
-const change = row => openForm({title: row.path, path: "objects", done: refresh,
-  body: asked => ({[row.object]: asked}),
-  fields: [{name: row.parameter, label: row.parameter, value: row.value}]});
+const change = ({object, parameter, path}) => openForm({title: path, path: `objects?path=${encodeURIComponent(path)}`,
+  fieldsOf: answer => [{name: parameter, label: parameter, value: answer[object][parameter],
+    write: value => ({[object]: {[parameter]: value}})}]});
 
 const COLUMNS = [
-  ["Parameter", row => el("code", visible(row.path))],
-  ["Value", row => row.value === "" || row.value === null ? quiet("(empty)") : name(String(row.value))],
+  ["Parameter", row => el("code", row.path)],
+  ["Value", row => valueOf(row.value)],
   ["Change", row => button("Change", () => change(row), row.path), "act"]];
 
 function results(all) {
@@ -50,7 +51,7 @@ function results(all) {
 export default {
   load: () => getAll({all: "objects?path=Device."}),
   render: ({all}) => [
-    el("div.field.search", el("label", {for: "search"}, "Words of a path or a value"), el("input", {id: "search",
+    el("div.field", el("label", {for: "search"}, "Words of a path or a value"), el("input", {id: "search",
       type: "search", autocomplete: "off", spellcheck: "false", value: words,
       oninput: event => search(event.target.value)})),
     part("Parameters", all, value => results(parametersOf(value))),

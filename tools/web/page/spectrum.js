@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Draws the channel chart of a band with Chart.js. What stands where comes from channels.js.
-import {axisOf, centreMhz, colourOf, humpOf, isRadar, placeLabels, positionOf} from "./channels.js";
+import {axisOf, centreMhz, colourOf, humpOf, placeLabels, positionOf} from "./channels.js";
 import {visible} from "./main.js";
 
 const FLOOR_DBM = -100, TOP_DBM = -20;
 const OWN_DBM = -30; // the gateway does not hear itself: its own networks stand highest
+const RADAR_MHZ = [[5250, 5330], [5490, 5730]]; // channels 52 to 64, 100 to 144
 const COLOURS = 12;
-const LINE_PX = 15, NAME_PX = 170;
+const LINE_PX = 15, MOST_LETTERS = 24; // of a name
 
 const taken = new Map(); // network → its colour
 const charts = new Map(); // band → Chart
-
-let script;
-const chartJs = () => script ??= new Promise((resolve, reject) => {
-  const element = document.createElement("script");
-  element.onload = () => resolve(globalThis.Chart);
-  element.onerror = () => {
-    script = null; // the next turn tries again
-    reject(new Error("The chart cannot be loaded."));
-  };
-  element.src = "/chart.js";
-  document.head.append(element);
-});
 
 const css = name => getComputedStyle(document.documentElement).getPropertyValue(name);
 
@@ -36,11 +25,7 @@ const hump = (network, axis) => ({network, showLine: true, pointRadius: 0, fill:
   borderWidth: network.own ? 2.5 : 1.5, borderDash: network.own ? [6, 4] : [], order: network.own ? 1 : 0,
   data: humpOf(axis, network.span, network.own ? OWN_DBM : Math.max(FLOOR_DBM + 2, network.rssi_dbm), FLOOR_DBM)});
 
-function cut(context, text) {
-  const letters = [...text], fits = () => context.measureText(letters.join("")).width <= NAME_PX;
-  while (!fits()) letters.splice(-2, 2, "…");
-  return letters.join("");
-}
+const cut = text => text.length > MOST_LETTERS ? `${[...text].slice(0, MOST_LETTERS - 1).join("")}…` : text;
 
 const fontOf = (network, px = 12) => `${network?.own ? "600 " : ""}${px}px ${css("--font")}`;
 
@@ -51,19 +36,18 @@ function drawNames(chart) {
   Object.assign(context, {textAlign: "center", textBaseline: "top", direction: "ltr", lineWidth: 4, lineJoin: "round"});
   const labels = chart.data.datasets.map(({network, data}) => {
     context.font = fontOf(network);
-    const lines = network.names.map(one => cut(context, visible(one.ssid) || "(no name)"));
+    const lines = network.names.map(one => cut(visible(one.ssid) || "(no name)"));
     const middle = data[data.length >> 1];
     return {network, lines, x: x.getPixelForValue(middle.x), y: y.getPixelForValue(middle.y) - 3,
       width: Math.max(...lines.map(line => context.measureText(line).width)) + 6, height: lines.length * LINE_PX};
   });
-  const boxes = placeLabels(labels, area);
-  chart.names = labels.map(({network, lines}, index) => ({network, lines, box: boxes[index]})).filter(({box}) => box);
-  for (const {network, lines, box} of chart.names) {
+  chart.names = placeLabels(labels, area);
+  for (const {network, lines, left, top, width} of chart.names) {
     // A rim in the background's colour, as lines may cross a name.
     Object.assign(context, {font: fontOf(network), strokeStyle: css("--paper"),
       fillStyle: css(network.own ? "--accent" : "--ink")});
     lines.forEach((line, index) => {
-      const place = [line, box.left + box.width / 2, box.top + index * LINE_PX + 1];
+      const place = [line, left + width / 2, top + index * LINE_PX + 1];
       context.strokeText(...place);
       context.fillText(...place);
     });
@@ -75,11 +59,9 @@ function drawNames(chart) {
 function drawRadar({ctx: context, chartArea: area, scales: {x}, data: {axis}}) {
   context.save();
   Object.assign(context, {font: fontOf(null, 11), textBaseline: "bottom"});
-  for (const piece of axis.band === "5g" ? axis.pieces : []) {
-    const channels = piece.channels.filter(isRadar);
-    if (!channels.length) continue;
-    const [left, right] = [centreMhz(channels[0]) - 10, centreMhz(channels.at(-1)) + 10]
-      .map(mhz => x.getPixelForValue(positionOf(axis, mhz)));
+  for (const ends of RADAR_MHZ.map(pair => pair.map(mhz => positionOf(axis, mhz)))) {
+    if (ends.includes(null)) continue; // not on this axis
+    const [left, right] = ends.map(end => x.getPixelForValue(end));
     context.fillStyle = css("--shade");
     context.fillRect(left, area.top, right - left, area.bottom - area.top);
     context.fillStyle = css("--quiet");
@@ -110,7 +92,7 @@ function optionsOf(axis) {
 
 // Shows networks of a band in `place`; `possible` are the channels that the radio may use.
 export async function drawSpectrum(place, band, possible, networks) {
-  const Chart = await chartJs();
+  await import("/chart.js"); // which makes a global Chart
   if (!place.isConnected) return;
   const axis = axisOf(band, [...possible, ...networks.flatMap(network => network.span.channels)]);
   const data = {axis, datasets: networks.map(network => hump(network, axis))}, options = optionsOf(axis);
@@ -122,12 +104,11 @@ export async function drawSpectrum(place, band, possible, networks) {
   } else {
     chart?.destroy();
     const canvas = document.createElement("canvas");
-    canvas.setAttribute("role", "img");
+    canvas.role = "img";
+    canvas.ariaLabel = "Networks by channel and signal, as in the table below";
     place.replaceChildren(canvas);
     chart = new Chart(canvas, {type: "scatter", data, options,
       plugins: [{id: "channels", beforeDatasetsDraw: drawRadar, afterDatasetsDraw: drawNames}]});
     charts.set(band, chart);
   }
-  const label = `${networks.length} networks by channel and signal, as in the table below`;
-  if (chart.canvas.ariaLabel !== label) chart.canvas.ariaLabel = label;
 }

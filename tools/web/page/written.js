@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 // What was written from this browser tab, kept for as long as it is open.
-import {el, note, table, visible} from "./main.js";
+import {el, name, note, table} from "./main.js";
 
 const KEPT = "written", MOST = 200;
 let entries = JSON.parse(sessionStorage.getItem(KEPT) ?? "[]");
 
-// Rows of {path, from, to} of the answer to a change, which hides secrets.
-export const changesOf = ({changes}) => changes.map(({object, parameter, from, to}) =>
-  ({path: `${object}.${parameter}`, from: from === "" ? "(empty)" : from, to: to === "" ? "(empty)" : to}));
+// A parameter's value as it stands in a table.
+export const valueOf = value => name(String(value ?? ""), "(empty)");
 
-const COLUMNS = [["Parameter", row => el("code", visible(row.path))], ["From", "from"], ["To", "to"]];
+const COLUMNS = [["Parameter", row => el("code", `${row.object}.${row.parameter}`)], ["From", row => valueOf(row.from)],
+  ["To", row => valueOf(row.to)]];
 export const changeTable = rows => table("Changes", COLUMNS, rows, null, "Nothing.");
 
 export function noteWritten(rows) {
