@@ -29,9 +29,10 @@ thread_local int captured = -1;
 
 std::mutex streamsGuard;
 
+// Never destroyed: a thread that was left behind still closes its stream while the process ends.
 std::vector<Stream> &streams() {
-    static std::vector<Stream> all;
-    return all;
+    static auto *const all = new std::vector<Stream>;
+    return *all;
 }
 
 // The child's standard output and standard error lead into these; -1: where the process's do. 0 where it cannot start.
