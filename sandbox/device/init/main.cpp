@@ -39,7 +39,6 @@ constexpr std::chrono::seconds kGrace(5); // for a command that was told to end
 constexpr int kHandedOn[] = {SIGINT, SIGQUIT, SIGTERM, SIGHUP};
 
 constexpr int kExitFailed = 1;
-constexpr int kExitNoBox = 77;
 constexpr int kExitNotExecutable = 126;
 constexpr int kExitNotFound = 127;
 constexpr int kExitSignal = 128;

@@ -73,6 +73,10 @@ std::vector<std::string> tabSeparated(const std::string &line) {
     return columns;
 }
 
+[[noreturn]] void refuse(const std::string &name, size_t line, const std::string &why) {
+    throw std::runtime_error(name + ":" + std::to_string(line) + ": " + why);
+}
+
 // What is wrong with a line; "" for nothing.
 std::string mistake(const std::vector<std::string> &columns) {
     if (columns.size() != std::size(kColumns)) {
@@ -98,7 +102,7 @@ std::vector<Neighbour> parseNeighbours(std::istream &list, const std::string &na
         }
         const std::vector<std::string> columns = tabSeparated(line);
         if (const std::string wrong = mistake(columns); !wrong.empty()) {
-            throw std::runtime_error(name + ":" + std::to_string(number) + ": " + wrong);
+            refuse(name, number, wrong);
         }
         neighbours.push_back({columns[kBand], columns[kSsid], columns[kBssid], std::stoi(columns[kSignal]),
                               line.substr(columns[kBand].size() + 1)});
