@@ -405,7 +405,7 @@ typedef struct ZintuWanInfo {
     char sIpv6NextHop[46];       /**< next hop of the WAN's IPv6 forwarding entry; 46 likewise */
 } ZintuWanInfo;
 
-/** DSL line 1 and channel 1. */
+/** DSL line 1 and channel 1. A text that is too long for its field leaves the field as it was. */
 typedef struct ZintuDslLineInfo {
     char sStatus[16];               /**< begins with "connected" or "disconnected" */
     char sCurrentProfile[256];      /**< such as "17a" */
@@ -484,14 +484,15 @@ int32_t ZintuGet_UciSectionByConnMode(const char *connMode, char *uciSection);
 
 /** The UCI section of the WAN connection that carries the default route, into `uciSection`, char[128]: at most 127
  * characters, the rest zeroed up to there. The path of its IP interface and that interface's name are cut at 127
- * characters. 0, or -1. */
+ * characters. 127 characters leave no terminator in a buffer that was not zero-filled. 0, or -1. */
 int32_t ZintuGet_UciSectionOfDefGw(char *uciSection);
 
 /** The first "LowerLayers" below `object`, into `lowerLayers`, char[128]: 128 characters and more leave no
  * terminator. 0 also when there is none (`lowerLayers` untouched); -1 for null arguments or a failed request. */
 int32_t ZintuGet_LowerLayers(const char *object, char *lowerLayers);
 
-/** The IP interface object of the Ethernet WAN (alias "cpe-EthWan-IPIntf-1"), into `objName`, char[128]. 0, or -1. */
+/** The IP interface object of the Ethernet WAN (alias "cpe-EthWan-IPIntf-1"; the last, where several have it), into
+ * `objName`, char[128]. 0, or -1. */
 int32_t ZintuGet_EthWanObjName(char *objName);
 
 /** Fills the record from "Device.DSL.Line.1." and "Device.DSL.Channel.1.". 0, or -1 as soon as one of its four
@@ -526,9 +527,9 @@ enum CaltofalBridgedWanFlag {
  * CALTOFAL_BRIDGED_WAN_REFUSE, otherwise the code of the forwarding request (0 success). */
 int32_t ZintuGet_BrWanInfo(uint32_t flags, ZintuWanInfo *info);
 
-/** Fills bIpv6Enable, sIpv6Type, sIpv6Address and sIpv6NextHop; needs sWanIpInterface and nWanIpIfIndex. The path of
- * the address object is cut at 255 characters. The code of the forwarding request. The message of that request is not
- * released: each call leaves one. */
+/** Fills bIpv6Enable, sIpv6Type, sIpv6Address and sIpv6NextHop; needs sWanIpInterface and nWanIpIfIndex. An address of
+ * 47 characters or more leaves its field as it was. The path of the address object is cut at 255 characters. The code
+ * of the forwarding request. The message of that request is not released: each call leaves one. */
 int32_t ZintuGet_WanIPv6(ZintuWanInfo *info);
 
 /** Fills the whole summary of the WAN connection that carries the default route, except the ATM fields. Paths are cut
@@ -539,15 +540,16 @@ int32_t ZintuGet_WanIPv6(ZintuWanInfo *info);
  * keeps what it held.
  * DNS: sDNS1 and sDNS2 are those of ZintuGet_DefGw(); where sWanIpType contains "dynamic", those of
  * ZintuGet_WanStaticDns() replace them, and bDnsAuto is its result. For other types bDnsAuto is 0 where the type
- * contains "static" or is "pppoe" with sIpv4Mode "static", else 1. Only where both servers are "0.0.0.0", or neither is
- * an address, those in use (ZintuGet_WanDns(), what a DNS page shows) are taken.
+ * contains "static", or "pppoe" with an sIpv4Mode that contains "static", else 1. Only where both servers begin with
+ * "0.0.0.0", or neither is an address, those in use (ZintuGet_WanDns(), what a DNS page shows) are taken.
  * Leaves the message of ZintuGet_WanIPv6(). */
 int32_t ZintuGet_DefWanInfo(ZintuWanInfo *info);
 
 /** 1 when IPv6 prefix delegation is on for the current WAN, 0 when not, -1 when the request fails. */
 int32_t ZintuGet_IPv6PD(void);
 
-/** Fills nAtmVpi, nAtmVci and sAtmQoSClass from "Device.ATM.Link.1.". 0, or -1 when a request fails. */
+/** Fills nAtmVpi, nAtmVci and sAtmQoSClass from "Device.ATM.Link.1."; a text of 32 characters or more leaves its fields
+ * as they were. 0, or -1 when a request fails. */
 int32_t ZintuGet_AtmInfo(ZintuWanInfo *info);
 
 /** Fills the LAN page's IPv4 record. -1 when a request fails, with the record as it was. Any other code of the second
@@ -555,7 +557,7 @@ int32_t ZintuGet_AtmInfo(ZintuWanInfo *info);
 int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info);
 
 /** Fills the LAN page's IPv6 record. Without an address in the answer it is the manual prefix followed by "1". 0, or -1
- * when a request fails. */
+ * when a request fails, with the record as it was. */
 int32_t ZintuGet_LANv6Info(LANv6Info *pxLANv6Info);
 
 /** Fills the multi-WAN record. 0, or -1 when the request fails; without "Enabled" only nEnabled is written (-1). */
