@@ -56,10 +56,9 @@ pages::Table withColumns(const pages::Table &table, const std::vector<std::strin
     if (table.headings.empty()) {
         throw Usage("--columns: this page has no columns with headings");
     }
-    std::vector<size_t> places;
-    for (const std::string &name : names) {
-        places.push_back(columnNamed(table.headings, name));
-    }
+    std::vector<size_t> places(names.size());
+    std::transform(names.begin(), names.end(), places.begin(),
+                   [&](const std::string &name) { return columnNamed(table.headings, name); });
     return chosen(table, places);
 }
 

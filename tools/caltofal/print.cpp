@@ -7,6 +7,7 @@
 #include "caltofal/render.h"
 #include "caltofal/terminal.h"
 #include "pages/json.h"
+#include "pages/text.h"
 
 #include <cstdlib>
 #include <iostream>
