@@ -42,7 +42,8 @@ class Access(PageCase):
     def fill_the_views(self):
         """A scan and a change, so that no view is empty."""
         server = self.serve("home", CALTOFAL_BOX_SCAN_MS="50")
-        server.tool("set", "Device.Hosts.Host.1", f"HostName={'a' * 63}")
+        self.sandbox(server, "import", "home", "-", "--format", "tr181",
+                     data=b"Device.Hosts.Host.1.HostName = " + b"a" * 63)
         self.scan(server)
         self.open("wifi")
         self.press("Change radio 5 GHz")

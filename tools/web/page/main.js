@@ -5,7 +5,7 @@
 // What went wrong with a request, with its HTTP status or 0.
 export const failure = (status, message) => Object.assign(new Error(message), {status});
 
-// How the server was last found: "ok", "lost" (no answer) or "ended" (it no longer knows this session).
+// How the server was last found: "ok", "lost" (no answer) or "ended" (it knows no such session).
 export const link = {state: "ok", readOnly: false};
 const kept = new Map(); // path → the value of its last answer
 const heads = new WeakMap(); // such a value → the headers that came with it
@@ -18,8 +18,10 @@ function lost() {
 async function ask(method, path, headers, body) {
   const response = await fetch(`/api/v1/${path}`, {method, headers, body, cache: "no-store"}).catch(lost);
   link.state = response.status === 401 ? "ended" : "ok";
-  link.readOnly = response.headers.has("Caltofal-Read-Only");
-  if (response.ok || response.status === 304) return response;
+  if (response.ok || response.status === 304) {
+    link.readOnly = response.headers.has("Caltofal-Read-Only");
+    return response;
+  }
   const answer = await response.json().catch(() => ({}));
   throw failure(response.status, answer.error?.message ?? `The server answered ${response.status}.`);
 }
@@ -43,7 +45,7 @@ export const notesOf = value => JSON.parse(heads.get(value)?.get("Caltofal-Notes
 // For what does not change while it is looked at.
 export const getOnce = async path => kept.get(path) ?? get(path);
 
-// {name: path} becomes {name: answer}, which may be a failure; fails as a whole only when no server answers.
+// {name: path} becomes {name: answer}, which may be a failure; fails as a whole only without a server.
 export async function getAll(paths, read = get) {
   return Object.fromEntries(await Promise.all(Object.entries(paths).map(async ([name, path]) =>
     [name, await read(path).catch(error => {
@@ -178,7 +180,7 @@ export const answered = (answer, show, thing) => !(answer instanceof Error) ? sh
     : el("p", el("strong.refused", "Not available: "), answer.message);
 export const part = (title, answer, show, thing) => section(title, answered(answer, show, thing));
 
-// For a screen reader and the corner of the eye: something was done.
+// Tells for a while that something was done.
 export function say(text) {
   said.textContent = visible(text);
   clearTimeout(say.timer);
@@ -210,7 +212,7 @@ const [content, freshness, said, trouble, views] = ["content", "freshness", "sai
 let current, timer, turn = 0, data, lastGood = "";
 
 function showLink() {
-  const since = lastGood && ` What is shown is of ${lastGood}.`;
+  const since = data ? ` What is shown is of ${lastGood}.` : "";
   const text = {lost: `The connection to the server is lost; trying again.${since}`,
     ended: `This session has ended: open the address that the server printed at its start.${since}`}[link.state] ?? "";
   if (trouble.textContent !== text) trouble.textContent = text;

@@ -29,7 +29,7 @@ const cut = text => text.length > MOST_LETTERS ? `${[...text].slice(0, MOST_LETT
 
 const fontOf = (network, px = 12) => `${network?.own ? "600 " : ""}${px}px ${css("--font")}`;
 
-// The names over the humps; the chart knows where they are.
+// The names over the humps.
 function drawNames(chart) {
   const {ctx: context, chartArea: area, scales: {x, y}} = chart;
   context.save();

@@ -2,8 +2,8 @@
 // Wi-Fi: radios, networks, channels with the networks around, stations, WPS.
 import {isRadar, networksOf} from "./channels.js";
 import {jobButton} from "./jobs.js";
-import {answered, bandName, bar, button, el, figure, getAll, getOnce, name, note, notesOf, onOff, part, quiet, section,
-  state, table} from "./main.js";
+import {answered, bandName, bar, button, el, figure, getAll, getOnce, link, name, note, notesOf, onOff, part, quiet,
+  section, state, table} from "./main.js";
 import {drawSpectrum, networkColour} from "./spectrum.js";
 import {editRadio, editSsid} from "./wifi_forms.js";
 
@@ -81,7 +81,7 @@ function spectrum(radio, data) {
   el("div.chart", {"data-own": "", "data-key": radio.band}),
   note(shown.some(network => network.own) ? "Dashed: own networks, at full height as their signal is not measured."
     : "No own network is on the air in this band.", radio.band === "5g" && " DFS channels give way to radar.",
-  shown.every(network => network.own) ? " Scan to see the networks around."
+  shown.every(network => network.own) ? !link.readOnly && " Scan to see the networks around."
     : notesOf(data.survey).map(text => ` Note: ${text}.`)),
   table(title, AROUND, shown, "id", "No network is known here."));
 }
@@ -108,7 +108,7 @@ export default {
     part("Networks", data.ssids, ({ssids}) => networkTables(ssids, data.radios.radios ?? []), "Wi-Fi"),
     (data.radios.radios ?? []).map(radio => spectrum(radio, data)),
     section("Stations", stationTable(data)),
-    section(["WPS", jobButton("Start", "WPS", "wifi/wps", {}, ({wps}) => `${wps}.`)],
+    !link.readOnly && section(["WPS", jobButton("Start", "WPS", "wifi/wps", {}, ({wps}) => `${wps}.`)],
       note("Start it, then press the WPS button of the device that is to join. No pass phrase is typed.")),
   ],
   shown(data) {
