@@ -15,4 +15,6 @@ endforeach()
 
 set(CALTOFAL_DEMO_SOURCE ${CMAKE_CURRENT_BINARY_DIR}/demo_texts.cpp)
 configure_file(demo_texts.cpp.in ${CALTOFAL_DEMO_SOURCE} @ONLY)
-set_source_files_properties(${CALTOFAL_DEMO_SOURCE} PROPERTIES OBJECT_DEPENDS "${demo_files}")
+# By itself: compiled with others, what it depends on would be forgotten.
+set_source_files_properties(${CALTOFAL_DEMO_SOURCE} PROPERTIES OBJECT_DEPENDS "${demo_files}"
+                                                               SKIP_UNITY_BUILD_INCLUSION ON)

@@ -23,4 +23,6 @@ caltofal_embed(chart.js ${CALTOFAL_CHART_JS})
 
 set(CALTOFAL_PAGE_SOURCE ${CMAKE_CURRENT_BINARY_DIR}/page_files.cpp)
 configure_file(page_files.cpp.in ${CALTOFAL_PAGE_SOURCE} @ONLY)
-set_source_files_properties(${CALTOFAL_PAGE_SOURCE} PROPERTIES OBJECT_DEPENDS "${page_sources}")
+# By itself: compiled with others, what it depends on would be forgotten.
+set_source_files_properties(${CALTOFAL_PAGE_SOURCE} PROPERTIES OBJECT_DEPENDS "${page_sources}"
+                                                               SKIP_UNITY_BUILD_INCLUSION ON)
