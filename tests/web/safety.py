@@ -234,7 +234,8 @@ class Sessions(unittest.TestCase):
             dry, wrong = (server.patch(f"/objects?dry_run={flag}", CHANGE) for flag in ("1", "maybe"))
             self.assertEqual((dry.status, dry.json["changes"][0]["to"], wrong.status), (200, 11, 400))
             self.assertEqual(server.stored("Device.WiFi.Radio.1.Channel"), "6")
-            self.assertEqual([one.get("/wan").headers["Caltofal-Read-Only"] for one in (server, other)], ["1", None])
+            self.assertEqual([one.get(resource).headers["Caltofal-Read-Only"] for one in (server, other)
+                              for resource in ("/wan", "/nope")], ["1", "1", None, None])
 
     def test_command_line(self):
         cases = [  # options, exit code, what it says

@@ -51,14 +51,10 @@ bool Api::isSlow(const Request &request) {
 }
 
 Response Api::answer(const Request &request) {
-    Response response = answered([&] {
+    return answered([&] {
         const Target target = parseTarget(request.target);
         return isApi(target.path) ? answerCall(request, target) : answerFile(request, target);
     });
-    if (gate_.readOnly()) { // a page need not offer changes
-        response.headers.push_back({"Caltofal-Read-Only", "1"});
-    }
-    return response;
 }
 
 Response Api::answerCall(const Request &request, const Target &target) {

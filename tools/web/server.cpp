@@ -130,6 +130,9 @@ struct Callbacks {
 
     static MHD_Result finish(Server &server, MHD_Connection *connection, Exchange &exchange) {
         server.connections_.become(exchange.connection, Connections::State::Answering);
+        if (server.gate_.readOnly()) { // a page need not offer changes
+            exchange.response->headers.push_back({"Caltofal-Read-Only", "1"});
+        }
         return send(connection, *exchange.response);
     }
 
