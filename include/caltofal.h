@@ -19,8 +19,11 @@
  *  5. Results: the network getters answer 0 for success and a negative code for failure: -1, or the
  *     configuration layer's own code (see CaltofalLayerCode). Wi-Fi requests and GetCurrentChannel() answer 1
  *     for success and 0 for failure. List getters answer their entry count.
- *  6. Failures are also traced on "/dev/console"; the message builders log to syslog (unfaltocalLogType).
- *     A refused message is a line on standard error too.
+ *  6. Most failures are also traced on "/dev/console", and some calls that succeed. A refused message is a line on
+ *     standard error too. A request function that does not know a keyword answers -1 and says nothing, except
+ *     faltocal_send_main_multi_obj() and its _No_variable form, which trace it. The message builders log a missing
+ *     name, wrong list flags and lack of memory to syslog (unfaltocalLogType). GetSiteSurveyList() prints the lines
+ *     that it refuses on the process's standard output.
  *  7. Threads: every function may be called from several threads at once, each with its own records and
  *     messages. The library keeps no state but capi_mutex and the two log settings, and holds capi_mutex
  *     around each single call into the configuration layer only. Functions that leave a work file
@@ -220,7 +223,8 @@ MsgHeader *faltocal_createMessage(uint32_t mainOper, uint32_t listFlags);
 /** Adds one object node named `objectName` to the list `listHead` and stores it in `*outNode`.
  * `mainOper` CALTOFAL_OPER_GET: a node of the kind that `listFlags` chooses; `subOper` does not count. 0, or -1 when
  * nothing could be added (`*outNode` is then NULL).
- * CALTOFAL_OPER_SET: `subOper` CALTOFAL_SUBOPER_ADD, _DELETE or _SET; 0. Others answer -1, `*outNode` untouched.
+ * CALTOFAL_OPER_SET: `subOper` CALTOFAL_SUBOPER_ADD, _DELETE or _SET; 0. Others answer -1, `*outNode` untouched,
+ * without a word anywhere.
  * Any other main operation adds nothing, leaves `*outNode` untouched and answers 0. */
 int faltocal_FillObject(ObjectNode **outNode, ObjectNode *listHead, const char *objectName, uint32_t mainOper,
                         uint32_t subOper, uint32_t listFlags);
@@ -253,8 +257,10 @@ int faltocal_sendQuery_ToDb(MsgHeader *message);
  * What it held before is not released: do that first.
  * `mainOper`: "get", "set", "factoryreset", "backup", "reboot" or "fwupgrade"; `subOper`: "get", "set", "add",
  * "del" or "act". Then `count` parameters: for "get" a name each (const char *), for "set" a name and a value.
- * Count 0 asks for the whole object. 0, or -1 for an unknown keyword or a failed send. Only "get" and "set" are
- * ever delivered. The caller releases the message in every case, and reads a get's answer from it before. */
+ * Count 0 asks for the whole object. A "get" is one with any of the sub-operations; a "set" with "get" or "act" is sent
+ * without an object, which a layer refuses. 0, or -1 for an unknown keyword (without a trace) or a failed send. Only
+ * "get" and "set" are ever delivered. The caller releases the message in every case, and reads a get's answer from it
+ * before. */
 int faltocal_send_main(MsgHeader *message, const char *object, const char *mainOper, const char *subOper, int count,
                        ...);
 
@@ -280,7 +286,7 @@ int faltocal_send_main_multi_obj_No_variable(MsgHeader *message, char *object, c
 /** As faltocal_send_main_multi_obj(), but the caller chooses list flags (CaltofalListFlag) and owner (CaltofalOwner),
  * `send` says whether this call sends, "&" has no meaning, only "query" in lower case is a query, and the keywords are
  * those of faltocal_send_main() and "get_filter_by_param_value". 0, the layer's own code, or -1 for an unknown keyword.
- */
+ * Nothing is traced. */
 int faltocal_SendMultiObj(uint8_t send, uint32_t listFlags, uint32_t owner, MsgHeader *message, const char *object,
                           const char *mainOper, const char *subOper, int count, ...);
 
@@ -351,7 +357,8 @@ char *remove_rss_tag(char *text, const char *openTag);
 
 /** Runs a shell command and puts its first output line (at most 127 characters, one trailing white-space
  * character dropped) into `output`, char[128]; on failure all 128 bytes are zeroed and the console says why.
- * The command reaches the shell unescaped. Returns `output`. A NULL or empty command, and a NULL output, fail. */
+ * A failure is a command that prints nothing, whatever its exit code, which is not looked at; also a NULL or empty
+ * command, and a NULL output. The command reaches the shell unescaped. Returns `output`. */
 char *get_from_shell(const char *command, char *output);
 
 /** @} */
@@ -552,8 +559,9 @@ int32_t ZintuGet_IPv6PD(void);
  * as they were. 0, or -1 when a request fails. */
 int32_t ZintuGet_AtmInfo(ZintuWanInfo *info);
 
-/** Fills the LAN page's IPv4 record. -1 when a request fails, with the record as it was. Any other code of the second
- * request is returned and its answer read all the same: a server object without an "Enable" value counts as off. */
+/** Fills the LAN page's IPv4 record. 0; -1 when a request fails, with the record as it was. Any other code of the
+ * second request, that for the server's switch, is returned with the record filled all the same. A layer that refuses
+ * it and leaves "Enable" without a value, as the sandbox's does, then has bDHCPv4Active set to 0: it is not known. */
 int32_t ZintuGet_LANv4Info(LANv4Info *pxLANv4Info);
 
 /** Fills the LAN page's IPv6 record. Without an address in the answer it is the manual prefix followed by "1". 0, or -1
@@ -734,7 +742,9 @@ int ConvRtsThreshold(int value);
 /** 1 high (above 50 percent), 2 medium (26 to 50), 3 low. */
 int ConvTransmitPower(int percent);
 
-/** The channel number of a centre frequency of a Wi-Fi band; 0 above 45,000 MHz outside 58,320 to 64,800. */
+/** The channel number of a centre frequency at 2.4, 4.9, 5 or 60 GHz. Not at 6 GHz, which is counted on from 5 GHz:
+ * 5955 gives 191, not 1. Others are not refused (0 gives -481), but 0 is the answer above 45,000 MHz outside 58,320 to
+ * 64,800. */
 int ConvFreqChannel(int frequencyMHz);
 
 /** 1 for twelve hexadecimal digits, plain or in pairs separated by ':' or '-', else 0. It accepts some other texts too:
@@ -783,8 +793,8 @@ typedef struct WifiChannelList {
 /** One associated station. */
 typedef struct WifiStaEntry {
     char mac[128];       /**< as the driver prints it */
-    int32_t rssiAverage; /**< dBm, mean of the antennas that gave a value; 0: none */
-    int32_t rssi[4];     /**< dBm per antenna; 0: none */
+    int32_t rssiAverage; /**< dBm, mean of the values from -127 to -1; 0: there is none */
+    int32_t rssi[4];     /**< dBm per antenna as the driver prints it: -128 where it has no value; 0: not printed */
 } WifiStaEntry;
 
 /** The stations of an access point, in the driver's order. */
@@ -819,7 +829,9 @@ typedef struct WifiParamTable {
     WifiParamRow rows[100]; /**< of one object or of several */
 } WifiParamTable;
 
-/** One neighbouring network. Texts are cut to 126 characters. */
+/** One neighbouring network. Texts are never cut: a line of the file has room for 127 bytes, its newline included. Of a
+ * longer one each 127 bytes are read as a line of their own. Such a piece is refused, unless it has ten columns itself:
+ * 128 bytes of name make an entry whose ssid is the last of them. */
 typedef struct SiteSurveyEntry {
     char ssid[128];       /**< the network's name as received: any bytes, chosen by a stranger */
     int32_t channel;      /**< number */
@@ -907,9 +919,10 @@ int CheckGetReqDbAndCurDb(WifiParamTable *requested, WifiParamTable *current, co
                           const char *value);
 
 /** Adds one set per object of `changes` to the caller's message and sends it, or leaves it queued when
- * `moreFollows`. `onlyDb` stores without applying when the message holds more than one object. 0, also for an
- * empty table, or -1. Object and parameter are cut to 126 characters: an object of more is sent cut and without its
- * values. The caller releases the message. */
+ * `moreFollows`. `onlyDb` stores without applying when the message holds more than one object. 0 or -1. An empty table
+ * adds nothing, sends nothing and answers 0, also where earlier calls have queued: faltocal_sendQuery(), or
+ * faltocal_sendQuery_ToDb() to store only, is then due, else what was queued is lost. Object and parameter are cut to
+ * 126 characters: an object of more is sent cut and without its values. The caller releases the message. */
 int faltocal_fromDB(MsgHeader *header, WifiParamTable *changes, int moreFollows, int onlyDb);
 
 /** Empties "/opt/lantiq/wave/confs" where it exists. Always 0. */
@@ -923,7 +936,10 @@ int GetFileLineCnt(const char *path);
 int CombineScanResultFiles(const char *first, const char *second, const char *target);
 
 /** Parses a survey's result file: ten tab-separated columns a line. With a non-empty `ssidFilter` only that network.
- * `entries` is allocated anew for all lines of the file; `count` grows by what was read. The count. */
+ * `entries` is allocated anew for all lines of the file; `count` grows by what was read. The count.
+ * A line with an empty column is refused, so that networks without an SSID are dropped. Each refused line is printed on
+ * the process's standard output, "scan[3] ssid: channel: ...", with its bytes as they are: strangers chose them, and
+ * control characters may be among them. A host whose standard output is read by others points it elsewhere before. */
 int GetSiteSurveyList(const char *path, SiteSurveyList *list, const char *ssidFilter);
 
 /** @{ */
@@ -958,7 +974,9 @@ int ReqEPChannelInfo(const char *ifname, int32_t *values);
  * CALTOFAL_OWNER_SINGLE and CALTOFAL_LIST_GET. 0, or -1 for an unknown keyword with the header untouched. */
 int faltocal_create_msg(MsgHeader *header, const char *operation);
 
-/** Escapes a text for a UCI command line in the shell. `target`: 4 * strlen(source) + 1 bytes. Returns 0. */
+/** Escapes a text for use between single quotes in a UCI command line in the shell, and there only: quotes and
+ * backslashes are escaped, all else ($, backquote, ;, |, blank, newline) passes as it is. `target`: 4 * strlen(source)
+ * + 1 bytes. Returns 0. */
 int ConvSpecialChar_forUciCli(const char *source, char *target);
 
 /** @} */
