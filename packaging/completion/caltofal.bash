@@ -171,7 +171,7 @@ _caltofal_read() {
             kind=$(_caltofal_argument "$word" "${command[@]}")
             option=${kind:+$word}
         elif [[ $word == help && ${#given[@]} -eq 0 && ${program##*/} == caltofal ]]; then
-            continue # its words are those that stand without it
+            help="" # its words are those that stand without it
         elif [[ ${#given[@]} -eq 0 ]] && verb=$(_caltofal_meant "$word" "${command[@]}") && [[ -n $verb ]]; then
             command+=("$verb")
         else
@@ -234,6 +234,8 @@ _caltofal() {
     local program=${COMP_WORDS[0]/#\~/$HOME} current=${COMP_WORDS[COMP_CWORD]}
     local -a command=("$program") given=() gateway=() verbs=() # noun and verb; other words; -g NAME
     local option="" kind="" object=""                          # an option that wants its word; the last Device.
+    local help=""                                              # the word, where it may stand and does not yet
+    [[ ${program##*/} == caltofal ]] && help=help
     COMPREPLY=()
     _caltofal_read "${COMP_WORDS[@]:1:COMP_CWORD-1}"
     [[ ${#given[@]} -eq 0 ]] && mapfile -t verbs < <(_caltofal_commands "${command[@]}")
@@ -251,7 +253,7 @@ _caltofal() {
         _caltofal_reply "$current" $({ _caltofal_options "${command[@]}"; _caltofal_options "$program"; } |
             sed 's/ .*//' | sort -u)
     elif [[ ${#verbs[@]} -gt 0 ]]; then
-        _caltofal_reply "$current" "${verbs[@]}"
+        _caltofal_reply "$current" "${verbs[@]}" $help
     else
         _caltofal_place
     fi
