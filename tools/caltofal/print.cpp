@@ -9,9 +9,9 @@
 #include "pages/json.h"
 #include "pages/text.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
-#include <sstream>
 #include <unistd.h>
 
 namespace cli {
@@ -29,23 +29,35 @@ bool colourWanted() {
     return !refused && isatty(STDOUT_FILENO) == 1;
 }
 
-// The beginning of a line that has room on the terminal; a chart that wraps cannot be read.
-std::string cutTo(std::string line, size_t columns) {
+// The beginning of a text that has room in so many columns.
+std::string cutTo(std::string text, size_t columns) {
     constexpr unsigned char kMore = 0x80; // in the first two bits: a letter goes on
-    while (columns > 0 && displayWidth(line) > columns) {
-        while ((static_cast<unsigned char>(line.back()) & 0xc0U) == kMore) {
-            line.pop_back();
+    while (displayWidth(text) > columns) {
+        while ((static_cast<unsigned char>(text.back()) & 0xc0U) == kMore) {
+            text.pop_back();
         }
-        line.pop_back();
+        text.pop_back();
     }
-    return line;
+    return text;
 }
 
-std::string chartLines(const std::string &text, size_t columns) {
-    std::istringstream lines(text);
+// A chart that wraps cannot be read: its lines end where the terminal does, with dots where a name is cut. A name
+// without room is left out.
+std::string fitted(const ChartLine &line, size_t columns) {
+    const std::string name = line.name.empty() ? "" : " " + printable(line.name);
+    if (columns == 0 || displayWidth(line.drawing + name) <= columns) {
+        return line.drawing + name;
+    }
+    const std::string dots = "...";
+    const size_t room = columns - std::min(columns, displayWidth(line.drawing));
+    const std::string cutName = room > dots.size() + 1 ? cutTo(name, room - dots.size()) + dots : "";
+    return cutTo(line.drawing, columns) + cutName;
+}
+
+std::string chartLines(const std::vector<ChartLine> &chart, size_t columns) {
     std::string result;
-    for (std::string line; std::getline(lines, line);) {
-        result += cutTo(printable(line), columns) + "\n";
+    for (const ChartLine &line : chart) {
+        result += fitted(line, columns) + "\n";
     }
     return result;
 }
@@ -65,8 +77,11 @@ std::string linesOf(const Report &report, const Form &form, int indent) {
     if (!form.columns.empty() && !(report.raw.empty() && report.chart.empty())) {
         throw Usage("--columns: this page is no table");
     }
-    if (!report.raw.empty()) {
+    if (!report.raw.empty() && (!form.terse || report.table.forScripts.empty())) {
         return report.raw;
+    }
+    if (form.terse && !report.chart.empty()) {
+        throw Usage("--terse: a chart is for people; without --chart the networks are a table");
     }
     if (!report.chart.empty()) {
         return chartLines(report.chart, screen().columns);
@@ -78,19 +93,20 @@ std::string linesOf(const Report &report, const Form &form, int indent) {
 void print(const Report &report, const Form &form) {
     std::cout << linesOf(report, form, kNoteIndent);
     flushOutput();
-    printNotes(report, form);
+    std::cerr << notesOf(report, form);
 }
 
-void printNotes(const Report &report, const Form &form) {
+std::string notesOf(const Report &report, const Form &form) {
+    std::string lines;
     for (const std::string &note : report.notes) {
-        std::cerr << "caltofal: " << printable(note) << '\n';
+        lines += "caltofal: " + printable(note) + "\n";
     }
     const bool chosen = form.json || form.terse || !form.columns.empty();
     if (const auto left = chosen ? std::vector<std::string>() : withoutRoom(report.table, {.width = screen().columns});
         !left.empty()) {
-        std::cerr << "caltofal: no room for " << joined(left)
-                  << ": --columns shows them, and so does a wider terminal\n";
+        lines += "caltofal: no room for " + joined(left) + ": --columns shows them, and so does a wider terminal\n";
     }
+    return lines;
 }
 
 void printError(const Failure &failure, bool json) {

@@ -26,8 +26,8 @@ std::string linesOf(const pages::Report &report, const Form &form, int indent);
 // The data, then the notes. Throws like linesOf() and flushOutput().
 void print(const pages::Report &report, const Form &form);
 
-// Also of columns for which the terminal has no room.
-void printNotes(const pages::Report &report, const Form &form);
+// Lines for standard error, also of columns for which the terminal has no room.
+std::string notesOf(const pages::Report &report, const Form &form);
 
 void printError(const pages::Failure &failure, bool json);
 

@@ -2,6 +2,7 @@
 #include "caltofal/watch.h"
 
 #include "caltofal/exit.h"
+#include "caltofal/fold.h"
 #include "caltofal/signals.h"
 #include "caltofal/terminal.h"
 #include "caltofal/terminal_wait.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <csignal>
 #include <iostream>
+#include <sstream>
 #include <unistd.h>
 
 namespace cli {
@@ -18,13 +20,30 @@ constexpr const char *kHome = "\x1b[H";
 constexpr const char *kClearToEnd = "\x1b[K";
 constexpr const char *kClearBelow = "\x1b[J";
 
-// What is left of the lines on a screen of that many rows, its last one for the cursor; 0: as many as there are.
-std::string fitting(const std::string &lines, size_t rows) {
+// The rows of the screen that notes take below a page.
+size_t rowsOf(const std::string &notes) {
+    const size_t columns = screen().columns;
+    if (columns == 0 || isatty(STDERR_FILENO) != 1) {
+        return 0;
+    }
+    std::istringstream lines(notes);
+    size_t rows = 0;
+    for (std::string line; std::getline(lines, line);) {
+        rows += (std::max<size_t>(displayWidth(line), 1) + columns - 1) / columns;
+    }
+    return rows;
+}
+
+// What is left of the lines on a screen of that many rows, its last one for the cursor; 0: as many as there are. So
+// many of the rows are taken, but room for a line stays.
+std::string fitting(const std::string &lines, size_t rows, size_t taken) {
+    constexpr size_t kLeast = 3; // a line, how many are left out, the cursor
+    const size_t room = rows - std::min(taken, std::max(rows, kLeast) - kLeast);
     const auto count = static_cast<size_t>(std::count(lines.begin(), lines.end(), '\n'));
-    if (rows < 3 || count < rows) {
+    if (rows < kLeast || count < room) {
         return lines;
     }
-    const size_t shown = rows - 2;
+    const size_t shown = room - 2;
     size_t end = 0;
     for (size_t line = 0; line < shown; ++line) {
         end = lines.find('\n', end) + 1;
@@ -33,9 +52,9 @@ std::string fitting(const std::string &lines, size_t rows) {
 }
 
 // Line by line over what stands there, so that nothing flickers.
-std::string inPlace(const std::string &lines) {
+std::string inPlace(const std::string &lines, const std::string &notes) {
     std::string result = kHome;
-    for (const char c : fitting(lines, screen().rows)) {
+    for (const char c : fitting(lines, screen().rows, rowsOf(notes))) {
         result += c == '\n' ? std::string(kClearToEnd) + c : std::string(1, c);
     }
     return result + kClearBelow;
@@ -44,9 +63,10 @@ std::string inPlace(const std::string &lines) {
 void show(const pages::Report &report, const Form &form) {
     const bool terminal = !form.json && isatty(STDOUT_FILENO) == 1;
     const std::string lines = linesOf(report, form, -1);
-    std::cout << (terminal ? inPlace(lines) : lines);
+    const std::string notes = notesOf(report, form);
+    std::cout << (terminal ? inPlace(lines, notes) : lines);
     flushOutput();
-    printNotes(report, form);
+    std::cerr << notes;
 }
 
 } // namespace

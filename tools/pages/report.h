@@ -10,11 +10,17 @@
 
 namespace pages {
 
+// A line of a chart: what is drawn, in ASCII, and whose it is.
+struct ChartLine {
+    std::string drawing;
+    std::string name = {}; // any bytes
+};
+
 struct Report {
     Value json = {};
     Table table = {};
-    std::string chart = {};              // lines for people, instead of the table; any bytes in the names
-    std::string raw = {};                // for scripts, byte for byte; instead of the table where not empty
+    std::vector<ChartLine> chart = {}; // for people, instead of the table
+    std::string raw = {}; // byte for byte; instead of the table where not empty, but not of its rows for scripts
     std::vector<std::string> notes = {}; // words for people, beside the data
 };
 

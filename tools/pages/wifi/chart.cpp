@@ -76,7 +76,7 @@ std::string nameOf(const ChartedNetwork &network) {
     return result;
 }
 
-std::string lineOf(const Axis &axis, const ChartedNetwork &network) {
+ChartLine lineOf(const Axis &axis, const ChartedNetwork &network) {
     const ChannelSpan span = spanOf(network);
     const bool own = network.dbm.isNull();
     std::string line = padded(own ? "own" : std::to_string(network.dbm.whole()) + " dBm", kLabelWidth);
@@ -84,7 +84,7 @@ std::string lineOf(const Axis &axis, const ChartedNetwork &network) {
         const char fill = channel == network.channel ? '#' : own ? '-' : '=';
         line += std::string(axis.width, covers(span, channel) ? fill : ' ');
     }
-    return line + " " + nameOf(network);
+    return {line, nameOf(network)};
 }
 
 std::string useOf(const Axis &axis, const std::vector<ChartedNetwork> &networks) {
@@ -120,9 +120,9 @@ ChannelSpan spanOf(const ChartedNetwork &network) {
     return {first, first + (count - 1) * kStep};
 }
 
-std::string chartOf(std::vector<ChartedNetwork> networks) {
+std::vector<ChartLine> chartOf(std::vector<ChartedNetwork> networks) {
     std::stable_sort(networks.begin(), networks.end(), isBefore);
-    std::string result;
+    std::vector<ChartLine> result;
     for (const Axis *axis : {&axisOf(1), &axisOf(kLast24GHz + 1)}) {
         std::vector<ChartedNetwork> here;
         std::copy_if(networks.begin(), networks.end(), std::back_inserter(here),
@@ -130,11 +130,14 @@ std::string chartOf(std::vector<ChartedNetwork> networks) {
         if (here.empty()) {
             continue;
         }
-        result += (result.empty() ? "" : "\n") + headOf(*axis) + "\n";
-        for (const ChartedNetwork &network : here) {
-            result += lineOf(*axis, network) + "\n";
+        if (!result.empty()) {
+            result.emplace_back();
         }
-        result += useOf(*axis, here) + "\n";
+        result.push_back({headOf(*axis)});
+        for (const ChartedNetwork &network : here) {
+            result.push_back(lineOf(*axis, network));
+        }
+        result.push_back({useOf(*axis, here)});
     }
     return result;
 }

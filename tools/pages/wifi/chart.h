@@ -2,7 +2,7 @@
 // Channel use drawn with letters: readable on any terminal of 80 columns, without colour.
 #pragma once
 
-#include "pages/value.h"
+#include "pages/report.h"
 
 #include <string>
 #include <vector>
@@ -28,6 +28,6 @@ struct ChannelSpan {
 ChannelSpan spanOf(const ChartedNetwork &network);
 
 // A line for each network in its band, own radios first, then by strength; below, how many others use each channel.
-std::string chartOf(std::vector<ChartedNetwork> networks);
+std::vector<ChartLine> chartOf(std::vector<ChartedNetwork> networks);
 
 } // namespace pages::wifi
