@@ -3,6 +3,12 @@
 
 namespace pages {
 
+size_t explanationIn(std::string_view reason) {
+    constexpr std::string_view kAbsent = "no such object";
+    const size_t found = reason.find(std::string(kAbsent) + "; ");
+    return found == std::string_view::npos ? reason.size() : found + kAbsent.size();
+}
+
 Value errorValue(const Failure &failure) {
     return Value::object({{"error", Value::object({
                                         {"code", failure.code() == 0 ? Value() : Value(failure.code())},

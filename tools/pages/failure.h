@@ -6,6 +6,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace pages {
 
@@ -36,6 +37,10 @@ class Failure : public std::runtime_error {
     int code_;
     std::string object_;
 };
+
+// Where the explanation begins that a reason has behind "no such object", as "; ..." to its end; the reason's length
+// where it has none.
+size_t explanationIn(std::string_view reason);
 
 // What was asked for cannot be understood.
 class Usage : public Failure {

@@ -52,11 +52,16 @@ Section ipv6Section() {
             }};
 }
 
-// Both reasons, unless they are one.
+// Both reasons, unless they are one. What explains both stands behind the second alone.
 [[noreturn]] void lacksBoth(const Failure &first, const Failure &second) {
     const std::string reason = second.what();
-    throw Failure(first.category(), first.what() + (reason == first.what() ? "" : "; " + reason), first.object(),
-                  first.code());
+    std::string both = first.what();
+    if (reason != both) {
+        const size_t explained = explanationIn(both);
+        both.erase(reason.ends_with(both.substr(explained)) ? explained : both.size());
+        both += "; " + reason;
+    }
+    throw Failure(first.category(), both, first.object(), first.code());
 }
 
 // A half that the gateway does not have is told in a note.

@@ -17,7 +17,9 @@ namespace {
 constexpr const char *kRoots[] = {"Device", "InternetGatewayDevice"};
 
 Failure with(const Failure &failure, const std::string &hint) {
-    return {failure.category(), failure.what() + hint, failure.object(), failure.code()};
+    std::string message = failure.what();
+    message.insert(explanationIn(message), hint);
+    return {failure.category(), message, failure.object(), failure.code()};
 }
 
 // What stands directly below an object, without last dots; empty where there is no such object.
