@@ -407,6 +407,24 @@ class Lacking(unittest.TestCase):
         self.assertRegex(result.err, r"^caltofal: request on [^;]*: fault 1 hit Device\.DHCPv4\.Server\.Pool\.1; "
                                      r"request on [^;]*: fault 2 hit Device\.IPv6\n$")
 
+    def test_a_flag_in_other_words_is_not_taken_for_a_no(self):
+        states = {"True": True, "FALSE": False, "1": True, "enabled": None, "": None}
+        tool.imported("flags", [f"Device.Hosts.Host.{number}.Active={word}" for number, word in enumerate(states, 1)],
+                      self.folder)
+        hosts = json.loads(self.run_tool("-g", "flags", "hosts", "--json").out)["hosts"]
+        self.assertEqual([host["active"] for host in hosts], list(states.values()))
+
+    def test_a_missing_value_keeps_its_place_in_the_status(self):
+        self.assertEqual(self.run_tool("set", "Device.IP.Interface.3.IPv4Address.1.IPAddress=").code, 0)
+        self.assertRegex(self.run_tool("status").out.decode(), r"\nWAN +Up  pppoe  -  203\.0\.113\.1  Device\.")
+
+    def test_what_a_model_lacks_is_explained_once_behind_the_hint(self):
+        tool.imported("older", ["InternetGatewayDevice.DeviceInfo.Manufacturer=x"], self.folder)
+        both = self.run_tool("-g", "older", "lan").err
+        self.assertEqual((both.count("request on"), both.count("TR-098")), (2, 1), both)
+        self.assertIn("InternetGatewayDevice.DeviceInf: no such object (did you mean DeviceInfo?); this gateway",
+                      self.run_tool("-g", "older", "get", "InternetGatewayDevice.DeviceInf").err)
+
     def test_what_a_gateway_does_not_have_is_none_in_the_status(self):
         self.without("Device.DSL")
         self.assertRegex(self.run_tool("status").out.decode(), r"\nDSL +none\n")

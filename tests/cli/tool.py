@@ -54,10 +54,19 @@ class Tool:
         return subprocess.run([self.sandbox_executable, *words], env=self.environment(folder), stdout=subprocess.PIPE,
                               timeout=60, check=True).stdout
 
-    def on_terminal(self, *words, columns=200, folder=None, **variables):
-        """What the tool writes when its standard output is a terminal of that width; with `folder` words too."""
+    def imported(self, name, lines, folder):
+        """A gateway of these lines, "PATH=VALUE"."""
+        path = os.path.join(folder, name + ".txt")
+        with open(path, "w", encoding="ascii") as file:
+            file.write("\n".join(lines) + "\n")
+        subprocess.run([self.sandbox_executable, "import", name, path, "--replace"], env=self.environment(folder),
+                       stderr=subprocess.DEVNULL, timeout=60, check=True)
+
+    def on_terminal(self, *words, columns=200, rows=50, folder=None, until=None, **variables):
+        """What the tool writes when its standard output is a terminal of that size; with `folder` words too. The
+        interrupt key comes where it has written `until`."""
         ours, theirs = pty.openpty()
-        fcntl.ioctl(theirs, termios.TIOCSWINSZ, struct.pack("HHHH", 50, columns, 0, 0))
+        fcntl.ioctl(theirs, termios.TIOCSWINSZ, struct.pack("HHHH", rows, columns, 0, 0))
         with subprocess.Popen([self.executable, *words], env={**self.environment(folder), **variables}, stdout=theirs,
                               stderr=theirs if folder else subprocess.DEVNULL) as process:
             os.close(theirs)
@@ -65,6 +74,8 @@ class Tool:
             try:
                 while chunk := os.read(ours, 65536):
                     text += chunk
+                    if until and until in text:
+                        process.send_signal(signal.SIGINT)
             except OSError:  # how a terminal ends
                 pass
             process.wait()

@@ -51,6 +51,19 @@ TEST(Text, AnotherSpellingIsWrittenAsTheLayerDoes) {
     }
 }
 
+TEST(Text, OnlyTheWordsOfFlagsAreFlags) {
+    const struct {
+        const char *text;
+        Value flag;
+    } cases[] = {
+        {"true", true},   {"True", true}, {"1", true},   {"FALSE", false},   {"0", false},
+        {"yes", Value()}, {"2", Value()}, {"", Value()}, {"true ", Value()}, {"enabled", Value()},
+    };
+    for (const auto &row : cases) {
+        EXPECT_EQ(flagOf(row.text), row.flag) << row.text;
+    }
+}
+
 TEST(Text, CharactersEndWhereUtf8SaysSo) {
     const struct {
         std::string_view text;

@@ -111,12 +111,9 @@ Row rowOf(const Value &object, std::initializer_list<const char *> keys) {
     return row;
 }
 
-Value flagOf(const std::string &text) {
-    return text.empty() ? Value() : Value(ConvStrToBool(text.c_str()) != 0);
-}
-
 Value numberOf(const std::string &text) {
-    return text.empty() ? Value() : Value(ConvInt(text.c_str()));
+    const bool hasDigits = text.find_first_of("0123456789") != std::string::npos;
+    return hasDigits ? Value(ConvInt(text.c_str())) : Value();
 }
 
 Value decibels(const std::string &list) {

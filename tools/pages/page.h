@@ -67,8 +67,7 @@ inline Value flag(int32_t value) {
 inline Value flag(uint8_t value) {
     return value == kUntouchedFlag ? Value() : Value(value != 0);
 }
-// An answer's text as a flag or a number; null where there is none.
-Value flagOf(const std::string &text);
+// An answer's text as a number; null where it has none.
 Value numberOf(const std::string &text);
 
 // Units of 0.1.

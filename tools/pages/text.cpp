@@ -117,11 +117,17 @@ Value typed(std::string_view parameter, std::string_view value) {
     return readNumber(value, large) ? Value(large) : Value(value);
 }
 
+Value flagOf(std::string_view text) {
+    std::string lower(text);
+    std::transform(lower.begin(), lower.end(), lower.begin(), [](unsigned char c) { return tolower(c); });
+    const bool isTrue = lower == "true" || lower == "1";
+    return isTrue || lower == "false" || lower == "0" ? Value(isTrue) : Value();
+}
+
 std::string spelledLike(const Value &now, const std::string &value) {
     if (now.isFlag()) {
-        std::string lower = value;
-        std::transform(lower.begin(), lower.end(), lower.begin(), [](unsigned char c) { return tolower(c); });
-        return lower == "1" || lower == "true" ? "true" : lower == "0" || lower == "false" ? "false" : value;
+        const Value flag = flagOf(value);
+        return flag.isNull() ? value : flag.flag() ? "true" : "false";
     }
     const size_t sign = value.starts_with('+') ? 1 : 0;
     const bool digits = value.size() > sign && value.find_first_not_of("0123456789", sign) == std::string::npos;

@@ -44,6 +44,9 @@ std::string plainPaths(const std::string &text);
 // descriptions, SSIDs, keys) is always text.
 Value typed(std::string_view parameter, std::string_view value);
 
+// A text as a flag: true, false, 1 or 0 in any case; null where it is none of these, whatever else it may mean.
+Value flagOf(std::string_view text);
+
 // Another spelling of a flag or a number (TRUE, 1, +07) as the layer writes it, where the present value is one.
 std::string spelledLike(const Value &now, const std::string &value);
 

@@ -23,7 +23,7 @@ std::vector<Object> satellites() {
 }
 
 Row rowOf(const Value &satellite) {
-    const bool active = satellite["active"].flag();
+    const bool active = satellite["active"] != false;
     return {{satellite["name"].text()},
             {satellite["mac"].text() + "  " + satellite["ip"].text() + (active ? "" : "  not connected"),
              active ? Style::Plain : Style::Bad}};
@@ -51,7 +51,7 @@ Report status() {
         const Value satellite = Value::object({{"name", valueOf(object, "Name")},
                                                {"mac", valueOf(object, "PhysAddress")},
                                                {"ip", valueOf(object, "IPAddress")},
-                                               {"active", valueOf(object, "Active") == "true"}});
+                                               {"active", flagOf(valueOf(object, "Active"))}});
         result.table.rows.push_back(rowOf(satellite));
         addFacts(result.table, satellite, ++number);
         result.json["satellites"].push(satellite);

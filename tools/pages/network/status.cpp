@@ -46,13 +46,13 @@ std::string summary(const Page &page, const Glance &glance) {
         return "off";
     }
     std::string result;
+    bool known = false;
     for (const char *field : glance.fields) {
         const std::string value = readable(page.value(field));
-        if (value != "-") {
-            result += (result.empty() ? "" : "  ") + value;
-        }
+        known = known || value != "-";
+        result += (result.empty() ? "" : "  ") + value; // each in its place
     }
-    return result.empty() ? "-" : result;
+    return known ? result : "-";
 }
 
 // Whether the gateway lacks all that a failed page asked for.

@@ -45,17 +45,19 @@ struct Current {
 };
 
 // The side of the secondary channel, as a survey names it: upper, lower or auto. At 20 MHz there is none. At 5 GHz the
-// number of the channel tells, at 2.4 GHz the library, by the country and the setting.
+// number of the channel tells, at 2.4 GHz the library, by the country and the setting. Null where what it hangs on is
+// not known.
 Value sideOf(const Current &current) {
-    if (current.channel == kUntouched || current.width == "20MHz") {
+    if (current.channel <= 0 || current.width.empty() || current.width == "20MHz") {
         return {};
     }
     if (current.channel > kLast24GHz) {
         const ChannelSpan pair = spanOf({.channel = current.channel, .width = 40});
         return pair.first == current.channel ? "upper" : "lower";
     }
-    const char *side = GetSideChannel(current.channel, current.country.c_str(), current.extension.c_str());
-    return FapiToUi_Str(side, SideBand_FapiToUi_Table, std::size(SideBand_FapiToUi_Table));
+    const std::string side = GetSideChannel(current.channel, current.country.c_str(), current.extension.c_str());
+    return side.empty() ? Value()
+                        : FapiToUi_Str(side.c_str(), SideBand_FapiToUi_Table, std::size(SideBand_FapiToUi_Table));
 }
 
 // The library's answer is always 0.
@@ -100,11 +102,10 @@ Report channels(const InterfaceName &name) {
 Report currentChannel(const InterfaceName &name) {
     const Interface interface = findInterface(name);
     const std::string radioPath = "Device.WiFi.Radio." + std::to_string(interface.radio);
-    const Object radio =
-        get({{radioPath,
-              {{"RegulatoryDomain"}, {"ExtensionChannel"}, {"OperatingChannelBandwidth"}, {"AutoChannelEnable"}}}},
-            Reading::Leaf)
-            .front();
+    const std::vector<Parameter> wanted = {
+        {"RegulatoryDomain"}, {"ExtensionChannel"}, {"OperatingChannelBandwidth"}, {"AutoChannelEnable"}};
+    const std::vector<Object> found = get({{radioPath, wanted}}, Reading::Leaf);
+    const Object radio = found.empty() ? Object() : found.front();
     Current current{kUntouched, valueOf(radio, "RegulatoryDomain"), valueOf(radio, "ExtensionChannel"),
                     valueOf(radio, "OperatingChannelBandwidth")};
     ShellOutput output;
@@ -116,8 +117,8 @@ Report currentChannel(const InterfaceName &name) {
     Page page = pageOf({
         {"interface", "Interface", name.text()},
         {"radio", "Radio", interface.radio},
-        {"channel", "Channel", number(current.channel)},
-        {"auto_channel", "Chosen automatically", valueOf(radio, "AutoChannelEnable") == "true"},
+        {"channel", "Channel", current.channel > 0 ? Value(current.channel) : Value()},
+        {"auto_channel", "Chosen automatically", flagOf(valueOf(radio, "AutoChannelEnable"))},
         {"secondary_side", "Secondary channel", sideOf(current)},
         {"dfs_channel", "DFS channel", radarChannelOf(current)},
     });

@@ -14,8 +14,9 @@ namespace {
 
 constexpr int kFapiToUi = 1; // direction of the library's converters
 
+// Unless the gateway says that it is off.
 bool isOn(const std::string &flag) {
-    return flag.empty() || ConvStrToBool(flag.c_str()) != 0;
+    return flagOf(flag) != Value(false);
 }
 
 // On gateways of other makers, whose SSIDs have other numbers and no X_ZINTU_Active. Null where no access point of the
