@@ -100,6 +100,33 @@ class Box(unittest.TestCase):
                                                       "wider terminal"])
         self.assertEqual(shown("--columns", "ssid,bssid,2nd", columns=40)[1][:5], "  2ND")
 
+        charted = [line for line in shown("--chart", columns=66) if line.startswith("-")]
+        self.assertEqual([(len(line) <= 66, line[60:]) for line in charted[:2]], [(True, "VOL..."), (True, "Ups...")])
+        seen = tool.on_terminal("wifi", "survey", "--watch", "60", folder=self.folder, columns=80, rows=9,
+                                until=b"wider terminal\r\n", NO_COLOR="1").decode()
+        lines = seen.rpartition("\x1b[H")[2].split("\r\n")
+        self.assertEqual(sum(-(-len(line) // 80) for line in lines[4:-1]), 4, "one line of notes takes two rows")
+        self.assertEqual(lines[4], "(2 more lines)\x1b[K")
+
+    def test_a_radio_that_says_little_has_no_invented_channel(self):
+        unknown = {"interface": "ra0", "radio": 1, "channel": None, "auto_channel": None, "secondary_side": None,
+                   "dfs_channel": None}
+        for lines, said in (([], {}), (["OperatingChannelBandwidth=40MHz"], {}),
+                            (["AutoChannelEnable=TRUE"], {"auto_channel": True}),
+                            (["AutoChannelEnable=yes", "Channel=6", "OperatingChannelBandwidth=40MHz"], {"channel": 6}),
+                            (["Channel=3", "OperatingChannelBandwidth=40MHz"],
+                             {"channel": 3, "secondary_side": "upper"})):
+            tool.imported("few", ["Device.WiFi.SSID.1.Name=ra0", "Device.WiFi.SSID.1.LowerLayers=Device.WiFi.Radio.1",
+                                  *(f"Device.WiFi.Radio.1.{line}" for line in ["Name=ra0", *lines])], self.folder)
+            result = self.run_tool("-g", "few", "wifi", "channel", "ra0", "--json")
+            self.assertEqual((result.code, json.loads(result.out or "null")), (0, {**unknown, **said}), lines)
+
+    def test_cells_for_scripts_hold_one_fact(self):
+        self.assertIn(b"52\t5260\t20,40,80\t-\t56\tyes\n", self.run_tool("wifi", "channels", "wlan2", "--terse").out)
+        self.run_tool("wifi", "scan", "wlan2", "--pace", "10", **QUICK)
+        self.assertIn(b"yes  60 (DFS)\n", self.run_tool("wifi", "survey", "--columns", "dfs,channel").out)
+        self.assertEqual(self.run_tool("wifi", "survey", "--chart", "--terse").code, 2)
+
     def test_a_stale_result_is_not_taken_for_a_new_one(self):
         self.assertEqual(self.run_tool("wifi", "scan", "wlan0", "--pace", "10", **QUICK).code, 0)
         stale = self.run_tool("wifi", "scan", "wlan0", "--pace", "1", CALTOFAL_BOX_SCAN_MS="5000")

@@ -531,7 +531,9 @@ class Words(unittest.TestCase):
         self.assertEqual(tool.run("hosts", "--columns", "Mac").out.splitlines()[0], b"MAC")
         for words, line in (("wan", "ppp.interface\tDevice.PPP.Interface.1"), ("status", "wan.ip_address\t203.0.113.45"),
                             ("status", "multiwan.enabled\tno"), ("wifi radios", "1\twlan0\t2.4g\tUp\t6\t20\t"
-                                                                   "802.11b+g+n\t3")):
+                                                                   "802.11b+g+n\t3\tyes"),
+                            ("wifi acl 1", "mode\tDeny\nentry.1.index\t1"), ("dsl", "modes\tG.dmt,ADSL,ADSL2,ADSL2+,VDSL2"),
+                            ("wifi acl 1 --mac 00:00:5e:00:53:99", "admitted\tyes")):
             self.assertIn(line + "\n", tool.run(*words.split(), "--terse").out.decode())
         self.assertEqual(tool.run("wifi", "convert", "bandwidth", "--columns", "Ui").out.splitlines()[0], b"UI")
         for words, message in (("hosts --columns name,nope", '"nope" is not a column; there are HOST, NAME, ADDRESS, MAC,'),

@@ -36,10 +36,12 @@ size_t columnNamed(const std::vector<std::string> &headings, const std::string &
     return static_cast<size_t>(found - headings.begin());
 }
 
-pages::Table chosen(const pages::Table &table, const std::vector<size_t> &places) {
+// Of the columns with these headings.
+pages::Table chosen(const pages::Table &table, const std::vector<std::string> &headings,
+                    const std::vector<size_t> &places) {
     pages::Table result;
     for (const size_t place : places) {
-        result.headings.push_back(table.headings[place]);
+        result.headings.push_back(headings[place]);
     }
     for (const pages::Row &row : table.rows) {
         pages::Row &cells = result.rows.emplace_back();
@@ -56,10 +58,12 @@ pages::Table withColumns(const pages::Table &table, const std::vector<std::strin
     if (table.headings.empty()) {
         throw Usage("--columns: this page has no columns with headings");
     }
+    std::vector<std::string> headings = table.headings;
+    headings.insert(headings.end(), table.furtherHeadings.begin(), table.furtherHeadings.end());
     std::vector<size_t> places(names.size());
     std::transform(names.begin(), names.end(), places.begin(),
-                   [&](const std::string &name) { return columnNamed(table.headings, name); });
-    return chosen(table, places);
+                   [&](const std::string &name) { return columnNamed(headings, name); });
+    return chosen(table, headings, places);
 }
 
 pages::Table withoutColumns(const pages::Table &table, const std::vector<std::string> &headings) {
@@ -69,7 +73,7 @@ pages::Table withoutColumns(const pages::Table &table, const std::vector<std::st
             places.push_back(i);
         }
     }
-    return chosen(table, places);
+    return chosen(table, table.headings, places);
 }
 
 } // namespace cli

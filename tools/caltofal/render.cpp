@@ -41,9 +41,9 @@ const char *colourOf(Style style) {
 }
 
 // A backslash twice: what printable() makes of other bytes begins with one.
-std::string cellText(const Cell &cell) {
+std::string cellText(const std::string &text) {
     std::string result;
-    for (const char c : cell.text) {
+    for (const char c : text) {
         result += c == '\\' ? "\\\\" : std::string(1, c);
     }
     return printable(result);
@@ -68,7 +68,7 @@ Table drawn(const Table &table) {
     Table result = table;
     for (Row &row : result.rows) {
         for (Cell &cell : row) {
-            cell.text = cellText(cell) + cell.remark + (cell.bars < 0 ? "" : barsOf(cell.bars));
+            cell.text = cellText(cell.text) + cell.remark + (cell.bars < 0 ? "" : barsOf(cell.bars));
         }
     }
     return result;
@@ -179,7 +179,7 @@ std::string renderTerse(const Table &table) {
     std::string result;
     for (const Row &row : table.forScripts.empty() ? table.rows : table.forScripts) {
         for (size_t i = 0; i < row.size(); ++i) {
-            result += (i == 0 ? "" : "\t") + cellText(row[i]);
+            result += (i == 0 ? "" : "\t") + cellText(row[i].forScripts.empty() ? row[i].text : row[i].forScripts);
         }
         result += "\n";
     }

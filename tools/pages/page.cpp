@@ -19,7 +19,7 @@ std::string readableNumber(const Value &value) {
     return text;
 }
 
-std::string plain(const Value &value) {
+std::string plain(const Value &value, const char *comma = ", ") {
     if (value.isFlag()) {
         return value.flag() ? "yes" : "no";
     }
@@ -31,7 +31,7 @@ std::string plain(const Value &value) {
     }
     std::string list;
     for (const Value &item : value.items()) {
-        list += (list.empty() ? "" : ", ") + plain(item);
+        list += (list.empty() ? "" : comma) + plain(item);
     }
     return list;
 }
@@ -85,7 +85,7 @@ void addRows(Table &table, const Section &section) {
 void addFacts(Table &table, const Section &section) {
     for (const Field &field : section.fields) {
         const std::string key = section.key.empty() ? field.key : section.key + "." + field.key;
-        table.forScripts.push_back({{key}, {readable(shown(field))}});
+        table.forScripts.push_back({{key}, cellOf(shown(field))});
     }
 }
 
@@ -100,7 +100,8 @@ std::string readable(const Value &value, const std::string &unit) {
 }
 
 Cell cellOf(const Value &value, const std::string &unit) {
-    return {readable(value, unit), styleOf(value)};
+    return {
+        .text = readable(value, unit), .style = styleOf(value), .forScripts = value.isList() ? plain(value, ",") : ""};
 }
 
 Row rowOf(const Value &object, std::initializer_list<const char *> keys) {
@@ -130,6 +131,12 @@ Value decibels(const std::string &list) {
         at = behind + 1;
     }
     return numbers;
+}
+
+void addFacts(Table &table, const std::string &name, const Value &object) {
+    for (const Member &fact : object.members()) {
+        table.forScripts.push_back({{name + "." + fact.key}, cellOf(fact.value)});
+    }
 }
 
 Value Page::value(std::string_view path) const {

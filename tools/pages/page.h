@@ -49,6 +49,9 @@ Cell cellOf(const Value &value, const std::string &unit = {});
 // A table's row from members of an object.
 Row rowOf(const Value &object, std::initializer_list<const char *> keys);
 
+// For scripts: the members of one object of a list, "NAME.member" each.
+void addFacts(Table &table, const std::string &name, const Value &object);
+
 // What a number or a flag holds before the library is called: it stays where the gateway does not say.
 constexpr int32_t kUntouched = INT32_MIN;
 constexpr uint8_t kUntouchedFlag = 0xff;

@@ -29,13 +29,6 @@ Row rowOf(const Value &satellite) {
              active ? Style::Plain : Style::Bad}};
 }
 
-// For scripts: "satellite.1.mac" and so on.
-void addFacts(Table &table, const Value &satellite, int number) {
-    for (const Member &fact : satellite.members()) {
-        table.forScripts.push_back({{"satellite." + std::to_string(number) + "." + fact.key}, {readable(fact.value)}});
-    }
-}
-
 } // namespace
 
 Report status() {
@@ -53,7 +46,7 @@ Report status() {
                                                {"ip", valueOf(object, "IPAddress")},
                                                {"active", flagOf(valueOf(object, "Active"))}});
         result.table.rows.push_back(rowOf(satellite));
-        addFacts(result.table, satellite, ++number);
+        addFacts(result.table, "satellite." + std::to_string(++number), satellite);
         result.json["satellites"].push(satellite);
     }
     return result;

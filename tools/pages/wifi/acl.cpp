@@ -129,15 +129,22 @@ Report mayJoin(int ssid, const std::string &mac) {
                                             ": the gateway does not say whether its MAC filter allows or denies");
     }
     const bool admitted = isAdmitted(filter.mode, isListed(filter, mac));
-    return {.json = Value::object({{"ssid", ssid}, {"mode", filter.mode}, {"mac", mac}, {"admitted", admitted}}),
-            .raw = mac + (admitted ? " may join\n" : " may not join\n")};
+    Report result = pageOf({{"ssid", "SSID", ssid},
+                            {"mode", "Filter", filter.mode},
+                            {"mac", "MAC address", mac},
+                            {"admitted", "May join", admitted}});
+    result.raw = mac + (admitted ? " may join\n" : " may not join\n");
+    return result;
 }
 
 Report macFilter(int ssid) {
     const Filter filter = filterOf(ssid);
     Report result{.json = Value::object({{"ssid", ssid}, {"mode", filter.mode}, {"entries", filter.entries}})};
     result.table.rows.push_back({{"Filter"}, {readable(filter.mode)}, {}});
+    result.table.forScripts = {{{"ssid"}, cellOf(ssid)}, {{"mode"}, cellOf(filter.mode)}};
+    int number = 0;
     for (const Value &entry : filter.entries.items()) {
+        addFacts(result.table, "entry." + std::to_string(++number), entry);
         result.table.rows.push_back({{readable(entry["index"])}, {entry["mac"].text()}, {entry["name"].text()}});
     }
     if (filter.full) {

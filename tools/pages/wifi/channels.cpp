@@ -36,6 +36,7 @@ Value jsonOf(const WifiChannelEntry &entry) {
 Row rowOf(const Value &entry, int channel) {
     Row row = pages::rowOf(entry, {"channel", "frequency_mhz", "bandwidths_mhz", "secondary_below", "secondary_above"});
     row.front() = markedChannel(channel);
+    row.push_back(cellOf(entry["dfs"]));
     return row;
 }
 
@@ -84,6 +85,7 @@ Report channels(const InterfaceName &name) {
                                          {"phy", phy < 0 ? Value() : Value(phy)},
                                          {"channels", Value::list()}})};
     result.table.headings = {"CHANNEL", "FREQUENCY MHZ", "WIDTHS MHZ", "2ND LOWER", "2ND UPPER"};
+    result.table.furtherHeadings = {"DFS"};
     const std::span entries(list.entries, static_cast<size_t>(count));
     for (const WifiChannelEntry &entry : entries) {
         result.json["channels"].push(jsonOf(entry));

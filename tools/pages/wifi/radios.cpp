@@ -82,6 +82,7 @@ Row radioRow(const Value &radio) {
         row[3].text = "off";
     }
     row[4].remark = radio["auto_channel"].flag() ? " (auto)" : "";
+    row.push_back(cellOf(radio["auto_channel"]));
     return row;
 }
 
@@ -90,6 +91,7 @@ Row radioRow(const Value &radio) {
 Report radios() {
     Report result{.json = Value::object({{"radios", Value::list()}})};
     result.table.headings = {"RADIO", "INTERFACE", "BAND", "STATUS", "CHANNEL", "WIDTH MHZ", "STANDARDS", "CLIENTS"};
+    result.table.furtherHeadings = {"AUTO"};
     const std::vector<Parameter> wanted = {{"Name"},
                                            {"OperatingFrequencyBand"},
                                            {"Enable"},

@@ -75,7 +75,8 @@ Row rowOf(const SiteSurveyEntry &entry) {
             {text(entry.macaddr)},
             {std::to_string(entry.bandwidth)},
             {text(entry.phymode)},
-            {text(entry.sideband)}};
+            {text(entry.sideband)},
+            cellOf(isRadarChannel(entry.channel))};
 }
 
 bool exists(const std::string &file) {
@@ -154,6 +155,7 @@ Report surveyReport(const std::string &file, const std::string &ssid) {
     Report result{.json = Value::object({{"networks", Value::list()}})};
     result.table.headings = {"SSID",  "CHANNEL",   "SIGNAL DBM", "SECURITY", "ENCRYPTION",
                              "BSSID", "WIDTH MHZ", "STANDARDS",  "2ND"};
+    result.table.furtherHeadings = {"DFS"};
     result.table.leastNeeded = {"2ND", "STANDARDS", "ENCRYPTION", "WIDTH MHZ", "BSSID"};
     const std::span entries(survey.list.entries, static_cast<size_t>(count));
     for (const SiteSurveyEntry &entry : entries) {
