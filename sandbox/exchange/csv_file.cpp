@@ -26,7 +26,7 @@ struct Column {
 
 void readAccess(Entry &entry, const std::string &field) {
     if (field != "ro" && field != "rw") {
-        throw std::invalid_argument("access " + quotedShort(field) + " is neither ro nor rw");
+        throw std::invalid_argument("the access is neither ro nor rw");
     }
     entry.writable = field == "rw";
 }

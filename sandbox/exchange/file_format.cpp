@@ -73,6 +73,7 @@ FileContent readAnyGatewayFile(const Source &source) {
     if (!isCapture(source.text)) {
         return {std::move(entries), std::nullopt};
     }
+    refuseDuplicates(entries, source.file);
     FileContent content = takenIn(captureDump(entries), source.file);
     std::copy_if(entries.begin(), entries.end(), std::back_inserter(content.entries),
                  [](const Entry &entry) { return entry.kind == Entry::Kind::Recording; });

@@ -3,6 +3,7 @@
 
 #include "store/schema.h"
 #include "value/escape.h"
+#include "value/path.h"
 #include "value/secret.h"
 
 #include <algorithm>
@@ -58,7 +59,7 @@ std::string unquote(std::string_view text) {
     const bool quotes = text.size() >= 2 && text.front() == '"' && text.back() == '"';
     std::optional<std::string> result = quotes ? unescape(text.substr(1, text.size() - 2)) : std::nullopt;
     if (!result) {
-        refuse(quotedShort(text) + " is no text in double quotes, or has an unknown escape");
+        refuse("expected a text in double quotes, without unknown escapes");
     }
     return std::move(*result);
 }
@@ -67,7 +68,7 @@ uint32_t numberOf(std::string_view text) {
     uint32_t value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size()) {
-        refuse(quotedShort(text) + " is no number");
+        refuse("expected a number");
     }
     return value;
 }
@@ -99,9 +100,12 @@ class LineReader {
         if (rest_.starts_with(kFileMark) || rest_.starts_with(kAnswerMark)) {
             return readRecording();
         }
-        const size_t end = std::min(rest_.find_first_of(kBlanks), rest_.size());
-        entry_ = entryOf(rest_.substr(0, end));
-        rest_.remove_prefix(end);
+        const std::string_view path = rest_.substr(0, rest_.find_first_of(kBlanks));
+        if (const std::string_view front = pathAtFront(path); !front.empty() && front != path) {
+            refuseBehind(front);
+        }
+        entry_ = entryOf(path);
+        rest_.remove_prefix(path.size());
         bool separated = skipBlanks(rest_);
         if (takePrefix(rest_, "[")) {
             readAnnotations();
@@ -110,7 +114,7 @@ class LineReader {
         if (separated && takePrefix(rest_, "=")) {
             readValue();
         } else if (!rest_.empty()) {
-            refuse("expected \" = \" before " + quotedValue(entry_.name, rest_));
+            refuseBehind(entry_.fullPath());
         }
         if (entry_.kind == Entry::Kind::Object && table_) {
             entry_.writable = entry_.writable.value_or(false);
@@ -120,6 +124,11 @@ class LineReader {
     }
 
   private:
+    // Messages show no more of a line than its path: the rest may be a secret.
+    [[noreturn]] static void refuseBehind(std::string_view path) {
+        refuse("expected \" = \" behind " + std::string(path));
+    }
+
     // @file "PATH" = CONTENT, or @answer "COMMAND" EXITCODE = OUTPUT
     Entry readRecording() {
         entry_.kind = Entry::Kind::Recording;
@@ -168,10 +177,21 @@ class LineReader {
         } else if (takePrefix(text, "last=")) {
             entry_.last = numberOf(text);
         } else if (entry_.type) {
-            refuse(quotedShort(text) + " is a second type, or an unknown annotation");
+            refuse(quotedValue(entry_.name, text) + " is a second type, or an unknown annotation");
         } else {
-            entry_.type = ValueType::parse(list_ ? "list " + std::string(text) : std::string(text));
+            readType(list_ ? "list " + std::string(text) : std::string(text));
+        }
+    }
+
+    void readType(const std::string &text) {
+        try {
+            entry_.type = ValueType::parse(text);
             list_ = false;
+        } catch (const std::invalid_argument &) {
+            if (isSecretName(entry_.name)) {
+                refuse("an unknown type or annotation");
+            }
+            throw;
         }
     }
 

@@ -41,7 +41,7 @@ class Import {
 
     void run(const Entries &entries) {
         if (!report_) {
-            refuseDuplicates(entries);
+            refuseDuplicates(entries, file_);
         }
         each(entries, &Import::declare);
         templates_ = Templates(database_, "");
@@ -60,17 +60,11 @@ class Import {
                 (this->*step)(entry);
             } catch (const Refusal &refusal) {
                 throw FileError(file_, entry.line, refusal.what());
-            }
-        }
-    }
-
-    void refuseDuplicates(const Entries &entries) const {
-        std::unordered_map<std::string, size_t> lines;
-        for (const Entry &entry : entries) {
-            const auto [first, added] = lines.emplace(entry.fullPath(), entry.line);
-            if (!added) {
-                throw FileError(file_, entry.line,
-                                entry.fullPath() + " was already given in line " + std::to_string(first->second));
+            } catch (const DatabaseError &error) {
+                if (!error.conflict()) {
+                    throw;
+                }
+                throw FileError(file_, entry.line, entry.fullPath() + " does not go with the rest of the gateway");
             }
         }
     }
@@ -145,6 +139,9 @@ class Import {
         if (entry.path != path_ || entry.presence) {
             path_ = entry.path;
             key_ = *keyOf(path_);
+            if (const std::string_view holder = parentKey(key_); entry.presence && !holder.empty()) {
+                model_.ensureObject(holder, kEverywhere); // the file says so where it is not
+            }
             object_ = model_.ensureObject(key_, entry.presence.value_or(kEverywhere));
         }
     }

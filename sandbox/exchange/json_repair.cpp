@@ -5,6 +5,7 @@
 #include "value/escape.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdint>
 #include <cstdio>
 
@@ -65,7 +66,17 @@ class Repair {
             return 0;
         }
         const std::string_view word = rest_.substr(0, rest_.find_first_of(" \t\r\n,]}"));
+        if (isTooLarge(word)) {
+            return word.size();
+        }
         return std::find(std::begin(kNoNumbers), std::end(kNoNumbers), word) == std::end(kNoNumbers) ? 0 : word.size();
+    }
+
+    static bool isTooLarge(std::string_view word) {
+        double number = 0;
+        const char *const end = word.data() + word.size();
+        const auto [parsed, error] = std::from_chars(word.data(), end, number);
+        return error == std::errc::result_out_of_range && parsed == end;
     }
 
     void textCharacter(char c) {

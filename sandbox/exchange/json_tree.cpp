@@ -3,7 +3,6 @@
 
 #include "exchange/json_repair.h"
 #include "value/entry.h"
-#include "value/escape.h"
 
 #include <algorithm>
 #include <cctype>
@@ -25,19 +24,18 @@ struct Place {
     bool atEnd() const { return at == text.data() + text.size(); }
 };
 
-// The word before the place, where the parser gave up.
-std::string_view wordBefore(const Place &place) {
-    const auto *begin = place.text.data();
-    const char *end = place.at;
-    while (end > begin + 1 && std::isspace(static_cast<unsigned char>(end[-1])) != 0) {
-        --end;
-    }
-    const char *word = end;
-    while (word > begin && std::string_view(" \t\r\n,:[]{}").find(word[-1]) == std::string_view::npos) {
-        --word;
-    }
-    word -= word == end && word > begin ? 1 : 0;
-    return {word, static_cast<size_t>(end - word)};
+// The character at which the parser gave up. What stands there is not for messages: it may be a secret.
+struct Fault {
+    size_t line = 1;
+    size_t column = 1;
+};
+
+Fault faultAt(const Place &place) {
+    const std::string_view before = place.text.substr(0, static_cast<size_t>(place.at - place.text.data()));
+    const std::string_view shown = before.substr(0, before.find_last_not_of(" \t\r\n") + 1);
+    const size_t lineStart = shown.rfind('\n') + 1;
+    const auto later = std::count(before.begin() + static_cast<ptrdiff_t>(shown.size()), before.end(), '\n');
+    return {place.line - static_cast<size_t>(later), std::max<size_t>(shown.size() - lineStart, 1)};
 }
 
 // Walks the text and tells where the parser is.
@@ -100,10 +98,9 @@ class Builder : public nlohmann::json_sax<json> {
         return true;
     }
     bool parse_error(size_t /*position*/, const std::string & /*token*/, const json::exception & /*error*/) override {
-        const std::string_view word = wordBefore(place_);
-        const auto later = std::count(word.data() + word.size(), place_.at, '\n');
-        throw FileError(file_, place_.line - static_cast<size_t>(later),
-                        !place_.atEnd() ? "not JSON at " + quotedShort(word)
+        const Fault fault = faultAt(place_);
+        throw FileError(file_, fault.line,
+                        !place_.atEnd() ? "not JSON at character " + std::to_string(fault.column)
                         : isBlank()     ? "the file is empty"
                                         : "the JSON ends in the middle");
     }

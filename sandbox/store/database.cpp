@@ -33,6 +33,10 @@ bool DatabaseError::noMemory() const {
     return code_ == SQLITE_NOMEM;
 }
 
+bool DatabaseError::conflict() const {
+    return code_ == SQLITE_CONSTRAINT;
+}
+
 Database::Database(const std::string &file, Open how, std::chrono::milliseconds patience)
     : file_(file), writable_(how == Open::Existing || how == Open::New), patience_(patience) {
     const int flags = SQLITE_OPEN_NOMUTEX | (writable_ ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY) |

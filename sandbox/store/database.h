@@ -25,6 +25,8 @@ class DatabaseError : public std::runtime_error {
     // The database stayed locked.
     bool busy() const;
     bool noMemory() const;
+    // A row that contradicts another one.
+    bool conflict() const;
 
   private:
     int code_;

@@ -100,6 +100,9 @@ Model::Made Model::create(std::string_view key, int presence) {
     std::optional<int64_t> parent;
     if (!holder.empty()) {
         const Made made = ensure(holder, presence);
+        if (const std::optional<ObjectRow> row = findObject(database_, key)) {
+            return {row->id, row->presence}; // the holder's templates made it
+        }
         parent = made.id;
         presence &= made.presence;
     }

@@ -57,6 +57,9 @@ class FileError : public std::runtime_error {
     FileError(const std::string &file, const std::string &message) : std::runtime_error(file + ": " + message) {}
 };
 
+// Throws FileError for the first entry whose path stands in the file already.
+void refuseDuplicates(const Entries &entries, const std::string &file);
+
 // Sorts a parameter's or an object's path (with a final dot) into kind, path and name. Throws std::invalid_argument
 // saying what is wrong with it.
 Entry entryOf(std::string_view path);

@@ -47,6 +47,13 @@ std::vector<std::string_view> components(std::string_view path) {
     return result;
 }
 
+std::string_view pathAtFront(std::string_view text) {
+    const bool root = text.starts_with("Device.") || text.starts_with("InternetGatewayDevice.");
+    const auto *end = std::find_if_not(text.begin(), text.end(),
+                                       [](char c) { return isNameRest(c) || c == '.' || c == '{' || c == '}'; });
+    return root ? text.substr(0, static_cast<size_t>(end - text.begin())) : "";
+}
+
 bool isName(std::string_view text) {
     return !text.empty() && text.size() <= kPathMax && isNameStart(text.front()) &&
            std::all_of(text.begin(), text.end(), isNameRest) && !std::all_of(text.begin(), text.end(), isDigit);

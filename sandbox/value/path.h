@@ -56,6 +56,10 @@ std::string patternOf(std::string_view key);
 // Whether the text is a pattern: at least one "{i}", and a final dot.
 bool isPattern(std::string_view text);
 
+// What of a text that should be a path a message may show: the characters of paths at its front, where it begins as the
+// paths of gateways do. The rest may be a value, and a secret.
+std::string_view pathAtFront(std::string_view text);
+
 // Whether `component` of a pattern stands for `actual` of a path or key.
 bool componentMatches(std::string_view component, std::string_view actual);
 
