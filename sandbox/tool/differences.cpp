@@ -11,8 +11,9 @@ namespace sandbox {
 void printDifferences(const std::vector<Difference> &differences, bool secrets, std::ostream &out) {
     for (const auto &[kind, path, before, after] : differences) {
         const bool hides = !secrets && isSecretName(path);
-        const auto shown = [hides](const std::string &value) {
-            return hides && !value.empty() ? std::string(kHidden) : inQuotes(value);
+        const auto shown = [hides, secrets](const std::string &value) {
+            return hides && !value.empty() ? std::string(kHidden)
+                                           : inQuotes(secrets ? value : withoutUrlPasswords(value));
         };
         const auto whole = [&](const std::optional<std::string> &value) { return value ? " = " + shown(*value) : ""; };
         switch (kind) {

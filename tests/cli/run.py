@@ -244,21 +244,30 @@ class Secrets(unittest.TestCase):
 
     def test_the_tool_and_the_sandbox_hide_the_same(self):
         """One shows values, the other quotes filters; arrows keep them from sharing the list of names."""
-        names = {"Channel", "KeyIndex", "Passphrases"}
-        for file in ("tools/pages/secret.cpp", "sandbox/value/secret.cpp"):
-            with open(os.path.join(HERE, "../..", file), encoding="ascii") as source:
-                names |= set(re.findall(r'"(\w+)"', source.read().split("kEndings", 1)[1].split("}")[0]))
-        self.assertGreater(len(names), 10)
+        secret = ("Password2 AdminPassword1 KeyPassphrase2 PassWd2 PreSharedKey1 PrivateKey1 Secret1 PSKValue WEPKey1 "
+                  "WEPKey64 WPAKey SharedKey RadiusKey APIKey X_ACME_Key Key1 Pass1 AdminPass AdminPW ReadCommunity "
+                  "WPAPSKText WebPwd UserPIN AuthToken KeyValue wpa_psk X_Credentials").split()
+        harmless = ("Channel Key KeyIndex WEPKeyIndex KeyTable KeyUpdateInterval ParameterKey CommandKey SSHPublicKey "
+                    "PublicCredential Passphrases PassthroughEnable Bypass Upskill TokenCount PasswordRequired").split()
         path = os.path.join(self.folder, "names.tr181")
         with open(path, "w", encoding="ascii") as file:
-            file.writelines(f"Device.X_Test.A{name} [string rw] = open sesame\n" for name in names)
+            file.writelines(f"Device.X_Test.{name} [string rw] = open sesame\n" for name in secret + harmless)
+            file.write("Device.X_Test.Urls [string rw] = http://me:open sesame@a/,http://b:80/x@y,ftp://me:sesame@c\n")
         subprocess.run([tool.sandbox_executable, "import", "names", path], stderr=subprocess.DEVNULL, check=True,
                        env=tool.environment(self.folder))
         shown = self.run_tool("-g", "names", "get", "Device.X_Test").out.decode()
-        for name in names:
-            reason = self.run_tool("-g", "names", "get", "Device.X_Test", "--where", f"A{name}=guess").err
-            self.assertEqual("(hidden)" in reason, bool(re.search(rf"\.A{name} +\(hidden\)\n", shown)), name)
-            self.assertEqual("guess" in reason, "hidden" not in reason)
+        captured = self.run_tool("-g", "names", "capture", "Device.X_Test.").out.decode()
+        for name in secret + harmless:
+            hides = name in secret
+            reason = self.run_tool("-g", "names", "get", "Device.X_Test", "--where", f"{name}=guess").err
+            self.assertEqual(("(hidden)" in reason, "guess" in reason), (hides, not hides), name)
+            self.assertRegex(shown, rf"\.{name} +{re.escape('(hidden)' if hides else 'open sesame')}\n")
+            self.assertRegex(captured, rf"\.{name} .*= {re.escape('(hidden)' if hides else 'open sesame')}\n")
+        urls = "http://me:open sesame@a/,http://b:80/x@y,ftp://me:(hidden)@c"  # a blank ends a URL
+        for text in (shown, captured):
+            self.assertIn(urls, text)
+        again = self.run_tool("-g", "names", "set", "Device.X_Test", "Urls=" + urls)
+        self.assertEqual(again.code, 2, "what was hidden is not written")
 
     def test_a_trace_hides_them(self):
         words = ("wifi", "set", "ssid", "1", "KeyPassphrase=correct-horse", "--trace")

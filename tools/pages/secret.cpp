@@ -5,20 +5,29 @@
 #include "pages/text.h"
 
 #include <algorithm>
+#include <cctype>
 #include <iterator>
 #include <mutex>
 #include <set>
-#include <strings.h>
 
 namespace pages {
 namespace {
 
-// Endings of names, in any case, as makers and mistakes have it; a key that only names an entry ends otherwise.
-// sandbox/value/secret.cpp has the same.
-constexpr std::string_view kEndings[] = {"authkey",      "passphrase", "passwd", "password", "pin",
-                                         "presharedkey", "privatekey", "psk",    "pwd",      "secret",
-                                         "token",        "userpass",   "wepkey"};
+// Endings of names, in any case, as makers and mistakes have it, with or without a number behind them. A key that only
+// names an entry ends otherwise. sandbox/value/secret.cpp has the same.
+constexpr std::string_view kEndings[] = {"community", "credential", "credentials", "key", "passphrase",
+                                         "passwd",    "password",   "pin",         "psk", "pwd",
+                                         "secret",    "token",      "userpass"};
+constexpr std::string_view kWords[] = {"pass", "pw"}; // likewise, but words of their own: no Bypass
+constexpr std::string_view kAnywhere = "psk";         // a word of its own too
+// Of these "Key" is the whole name.
+constexpr std::string_view kHarmless[] = {"commandkey", "parameterkey", "publiccredential", "publickey"};
+constexpr std::string_view kKey = "key";
 
+constexpr std::string_view kUrlMark = "://";
+constexpr std::string_view kUrlEnds = "/?# \t\r\n\"";
+
+constexpr std::string_view kHiddenInUrl = ":(hidden)@";
 constexpr std::string_view kArrow = "=>";
 constexpr size_t kNotedLeast = 5; // bytes: what is shorter stands in other words as well
 
@@ -26,6 +35,30 @@ thread_local bool showing = false;
 
 std::mutex access;
 std::set<std::string, std::less<>> noted;
+
+std::string lowered(std::string_view text) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(), [](unsigned char c) { return std::tolower(c); });
+    return result;
+}
+
+// Without a number behind it, and without "Value": Password2, PSKValue.
+std::string_view withoutNumber(std::string_view name) {
+    return name.substr(0, name.find_last_not_of("0123456789") + 1);
+}
+
+std::string_view stemOf(std::string_view name) {
+    constexpr std::string_view kValue = "value";
+    name = withoutNumber(name);
+    const bool value = lowered(name).ends_with(kValue);
+    return value ? withoutNumber(name.substr(0, name.size() - kValue.size())) : name;
+}
+
+// Whether a word of the name begins there.
+bool beginsWord(std::string_view name, size_t at) {
+    return at == 0 || std::isalpha(static_cast<unsigned char>(name[at - 1])) == 0 ||
+           std::isupper(static_cast<unsigned char>(name[at])) != 0;
+}
 
 void replaceAll(std::string &text, std::string_view part, std::string_view by) {
     for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + by.size())) {
@@ -53,10 +86,41 @@ void hideRow(std::string &line) {
 } // namespace
 
 bool isSecret(std::string_view parameter) {
-    return std::any_of(std::begin(kEndings), std::end(kEndings), [&](std::string_view ending) {
-        return parameter.size() >= ending.size() &&
-               strncasecmp(parameter.data() + parameter.size() - ending.size(), ending.data(), ending.size()) == 0;
-    });
+    const std::string_view own = parameter.substr(parameter.rfind('.') + 1);
+    const std::string_view stem = stemOf(own);
+    const std::string name = lowered(stem);
+    const auto ends = [&name](std::string_view ending) { return name.ends_with(ending); };
+    if (lowered(own) == kKey || std::any_of(std::begin(kHarmless), std::end(kHarmless), ends)) {
+        return false;
+    }
+    const size_t anywhere = name.find(kAnywhere);
+    return std::any_of(std::begin(kEndings), std::end(kEndings), ends) ||
+           std::any_of(
+               std::begin(kWords), std::end(kWords),
+               [&](std::string_view word) { return ends(word) && beginsWord(stem, stem.size() - word.size()); }) ||
+           (anywhere != std::string::npos && beginsWord(stem, anywhere));
+}
+
+std::string withoutUrlPasswords(std::string text) {
+    for (size_t at = text.find(kUrlMark); at != std::string::npos; at = text.find(kUrlMark, at)) {
+        at += kUrlMark.size();
+        const std::string_view authority = std::string_view(text).substr(at, text.find_first_of(kUrlEnds, at) - at);
+        const size_t host = authority.rfind('@');
+        const size_t colon = authority.find(':') + 1;
+        if (host != std::string_view::npos && colon != 0 && colon < host) {
+            text.replace(at + colon, host - colon, kHidden);
+        }
+    }
+    return text;
+}
+
+bool isHidden(std::string_view parameter, std::string_view value) {
+    return (value == kHidden && isSecret(parameter)) ||
+           (value.find(kUrlMark) != std::string_view::npos && value.find(kHiddenInUrl) != std::string_view::npos);
+}
+
+std::string hiddenText(std::string_view parameter, std::string_view value) {
+    return isSecret(parameter) && !value.empty() ? std::string(kHidden) : withoutUrlPasswords(std::string(value));
 }
 
 ShowSecrets::ShowSecrets(bool show) : before_(showing) {
@@ -68,7 +132,7 @@ ShowSecrets::~ShowSecrets() {
 }
 
 std::string shownText(std::string_view parameter, std::string_view value) {
-    return std::string(!showing && !value.empty() && isSecret(parameter) ? kHidden : value);
+    return showing ? std::string(value) : hiddenText(parameter, value);
 }
 
 Value shownValue(std::string_view parameter, std::string_view value) {
@@ -79,7 +143,7 @@ std::string shownDefinition(std::string_view parameter, const std::string &defin
     constexpr std::string_view kDefault = " default=";
     const size_t found = definition.find(kDefault);
     if (showing || found == std::string::npos || !isSecret(parameter)) {
-        return definition;
+        return showing ? definition : withoutUrlPasswords(definition);
     }
     return definition.substr(0, found + kDefault.size()) + std::string(kHidden);
 }
@@ -93,6 +157,7 @@ void noteSecret(std::string_view parameter, std::string_view value) {
 
 std::string withoutSecrets(std::string line) {
     hideRow(line);
+    line = withoutUrlPasswords(std::move(line));
     const std::lock_guard lock(access);
     for (const std::string &secret : noted) {
         replaceAll(line, secret, kHidden);
@@ -101,7 +166,7 @@ std::string withoutSecrets(std::string line) {
 }
 
 void refuseHidden(std::string_view parameter, std::string_view value) {
-    if (value == kHidden && isSecret(parameter)) {
+    if (isHidden(parameter, value)) {
         throw Usage(std::string(parameter) + ": " + inQuotes(kHidden) + " stands in place of a secret and is none");
     }
 }

@@ -76,7 +76,7 @@ class Conversion {
         const std::optional<Reason> trouble = troubleOf(path);
         report_.values += row.object || trouble == Reason::AcsRow ? 0 : 1;
         if (trouble) {
-            report_.count(*trouble, path);
+            report_.count(*trouble, exampleOf(row));
             return;
         }
         try {
@@ -88,7 +88,7 @@ class Conversion {
                 takeValue(row, std::move(entry));
             }
         } catch (const std::invalid_argument &error) {
-            report_.count(Reason::BadPath, path + ": " + error.what());
+            report_.count(Reason::BadPath, error.what());
         }
     }
 
@@ -132,7 +132,7 @@ class Conversion {
             report_.count(Reason::NoValue, path);
             row.value = "";
         }
-        if (*row.value == kMasked && isSecretName(entry.name)) {
+        if (isHidden(entry.name, *row.value)) {
             report_.count(Reason::Hidden, path);
             row.value = "";
             entry.hidden = true;

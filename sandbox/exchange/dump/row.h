@@ -27,6 +27,9 @@ struct DumpRow {
     size_t line = 0;
 };
 
+// What a report names the row by: its path, or its line where more than a path may stand in its place.
+std::string exampleOf(const DumpRow &row);
+
 struct Dump {
     std::vector<DumpRow> rows;
     ImportReport report;

@@ -47,7 +47,7 @@ std::string withoutSecrets(const std::string &text) {
     for (std::string line; std::getline(lines, line);) {
         const size_t equals = line.find('=');
         const bool secret = equals != std::string::npos && isSecretSetting(line.substr(0, equals));
-        result += (secret ? line.substr(0, equals + 1) + std::string(kHidden) : line) + "\n";
+        result += (secret ? line.substr(0, equals + 1) + std::string(kHidden) : withoutUrlPasswords(line)) + "\n";
     }
     return text.ends_with('\n') || result.empty() ? result : result.substr(0, result.size() - 1);
 }
