@@ -6,12 +6,28 @@
 #include <algorithm>
 
 namespace sandbox {
+namespace {
+
+// Whether rows of a dump stand in a field, behind its first line.
+bool holdsRows(std::string_view field) {
+    for (size_t end = field.find('\n'); end != std::string_view::npos; end = field.find('\n', end + 1)) {
+        std::string_view line = field.substr(end + 1);
+        line.remove_prefix(line.starts_with('"') ? 1 : 0);
+        if (line.starts_with("Device.") || line.starts_with("InternetGatewayDevice.")) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 bool CsvReader::next(CsvRecord &record) {
     while (rest_.starts_with('\n') || rest_.starts_with("\r\n")) {
         endLine();
     }
     line_ = nextLine_;
+    openQuoteLine_ = 0;
     record.clear();
     if (rest_.empty()) {
         return false;
@@ -48,6 +64,8 @@ CsvField CsvReader::plainField() {
 std::string CsvReader::quotedField() {
     std::string field;
     rest_.remove_prefix(1);
+    const std::string_view whole = rest_;
+    bool torn = false; // a quote in another line than the first, where no field ends
     for (;;) {
         const size_t quote = std::min(rest_.find('"'), rest_.size());
         field += rest_.substr(0, quote);
@@ -58,12 +76,27 @@ std::string CsvReader::quotedField() {
         rest_.remove_prefix(open ? quote : quote + 1);
         const bool doubled = rest_.starts_with('"');
         if (open || (!doubled && (!dialect_.lenient || atFieldEnd()))) {
+            if (open || (torn && holdsRows(field))) {
+                return openField(whole, std::move(field));
+            }
             nextLine_ += static_cast<size_t>(std::count(field.begin(), field.end(), '\n'));
             return field;
         }
+        torn = torn || (!doubled && field.find('\n') != std::string::npos);
         field += '"';
         rest_.remove_prefix(doubled ? 1 : 0);
     }
+}
+
+// A field whose quote does not end: `whole` is the text behind it, `field` what was taken for its content.
+std::string CsvReader::openField(std::string_view whole, std::string field) {
+    openQuoteLine_ = openQuoteLine_ == 0 ? nextLine_ : openQuoteLine_;
+    if (holdsRows(field)) {
+        rest_ = whole;
+        return plainField().value_or("");
+    }
+    nextLine_ += static_cast<size_t>(std::count(field.begin(), field.end(), '\n'));
+    return field;
 }
 
 bool CsvReader::atFieldEnd() const {

@@ -34,12 +34,17 @@ class CsvReader {
     // Of the record, from 1.
     size_t line() const { return line_; }
 
+    // Where in it the first quote stands that does not end, from 1; 0 for none. Of the lenient form alone: where rows
+    // would be swallowed, the field is what stands up to its separator.
+    size_t openQuoteLine() const { return openQuoteLine_; }
+
     [[noreturn]] void refuse(const std::string &message) const;
 
   private:
     void skipBlanksBeforeQuote();
     CsvField plainField();
     std::string quotedField();
+    std::string openField(std::string_view whole, std::string field);
     bool takeSeparator();
     void endLine();
     bool atFieldEnd() const;
@@ -49,6 +54,7 @@ class CsvReader {
     CsvDialect dialect_;
     size_t line_ = 1;
     size_t nextLine_ = 1;
+    size_t openQuoteLine_ = 0;
 };
 
 // The field as it stands in a record.

@@ -19,6 +19,7 @@ constexpr const char *kReasonWords[] = {
     "left out, a placeholder for instances",
     "left out, a value where an object has the path",
     "left out, a line or row that lacks fields or has too many",
+    "a quote that does not end, the file may be cut off or damaged there",
     "left out, an entry of a list without a usable name",
     "left out, below neither Device. nor InternetGatewayDevice.",
     "passed over, rows of the ACS itself",

@@ -24,7 +24,8 @@ enum class Reason {
     Placeholder,
     ValueOfObject,
     TornRow,
-    NoName, // of an entry in a list
+    OpenQuote, // of CSV; taken in all the same
+    NoName,    // of an entry in a list
     ForeignRoot,
     AcsRow,
     OtherDevice,

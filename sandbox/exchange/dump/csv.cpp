@@ -94,6 +94,9 @@ class CsvDump {
     }
 
     void take(CsvRecord &record) {
+        if (const size_t line = reader_.openQuoteLine(); line != 0) {
+            dump_.report.count(Reason::OpenQuote, "line " + std::to_string(line));
+        }
         DumpRow row;
         row.path = field(record, kPathColumn);
         row.type = field(record, kTypeColumn);
@@ -103,7 +106,7 @@ class CsvDump {
         const bool torn = record.size() > header_.fields || *header_.at[kValueColumn] >= record.size();
         if (row.path.empty() || (torn && !row.object)) {
             dump_.report.values += row.object ? 0 : 1;
-            dump_.report.count(Reason::TornRow, row.path.empty() ? "line " + std::to_string(row.line) : row.path);
+            dump_.report.count(Reason::TornRow, exampleOf(row));
             return;
         }
         std::string value = field(record, kValueColumn);

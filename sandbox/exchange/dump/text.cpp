@@ -70,7 +70,7 @@ bool isTextDump(std::string_view text) {
         ++lines;
         pairs += parts ? 1 : 0;
     });
-    return below && !own && (pairs == lines || (close && 2 * pairs > lines));
+    return below && !own && (pairs == lines || close);
 }
 
 Dump readTextDump(std::string_view text) {
