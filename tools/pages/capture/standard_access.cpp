@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "pages/capture/standard_access.h"
 
+#include "pages/capture/line.h"
 #include "pages/text.h"
 
 #include <algorithm>
@@ -107,10 +108,6 @@ constexpr std::string_view kPaths[] = {"Device.ATM.Link.{i}.Name",
 template <size_t size>
 bool has(const std::string_view (&sorted)[size], std::string_view text) {
     return std::binary_search(std::begin(sorted), std::end(sorted), text);
-}
-
-bool isNumber(std::string_view part) {
-    return !part.empty() && std::all_of(part.begin(), part.end(), [](unsigned char c) { return std::isdigit(c) != 0; });
 }
 
 // With "{i}" in place of instance numbers.

@@ -8,8 +8,7 @@
 #include "pages/secret.h"
 #include "pages/text.h"
 
-#include <algorithm>
-#include <cctype>
+#include <set>
 
 namespace pages::capture {
 namespace {
@@ -40,19 +39,13 @@ std::vector<Object> readModel(const std::vector<std::string> &paths) {
     }
 }
 
-// Keys in hexadecimal digits stay such, so that they fit their type.
-std::string replacedSecret(const std::string &value) {
-    if (value.empty()) {
-        return value;
-    }
-    const bool digits = value.size() > 8 &&
-                        std::all_of(value.begin(), value.end(), [](unsigned char c) { return std::isxdigit(c) != 0; });
-    return digits ? std::string(value.size(), '0') : std::string(kHidden);
+// The default of a secret is one as well.
+std::string withoutSecrets(const std::string &parameter, const std::string &definition) {
+    return isSecret(parameter) ? definition.substr(0, definition.find(" default=")) : withoutUrlPasswords(definition);
 }
 
-// The default of a secret is one as well.
-std::string withoutDefault(const std::string &definition) {
-    return definition.substr(0, definition.find(" default="));
+std::string counted(size_t number, const std::string &what) {
+    return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
 
 } // namespace
@@ -61,18 +54,25 @@ Report take(const Wanted &wanted) {
     const std::vector<Object> model = readModel(wanted.objects);
     Report result;
     result.raw = kHead;
+    std::set<std::string> told; // objects that were asked for may overlap, and no path stands in a file twice
     size_t values = 0;
     size_t replaced = 0;
     for (const Object &object : model) {
         const std::string path = std::string(withoutDot(object.name)) + ".";
-        result.raw += object.parameters.empty() ? path + "\n" : "";
+        if (object.parameters.empty() && told.insert(path).second) {
+            result.raw += path + "\n";
+        }
         for (const Parameter &parameter : object.parameters) {
-            const bool secret = !wanted.secrets && isSecret(parameter.name);
+            if (!told.insert(path + parameter.name).second) {
+                continue;
+            }
             const std::string definition = definitionOf(path + parameter.name);
-            result.raw += parameterLine({path, parameter.name, secret ? withoutDefault(definition) : definition,
-                                         secret ? replacedSecret(parameter.value) : parameter.value});
+            const std::string value = wanted.secrets ? parameter.value : hiddenText(parameter.name, parameter.value);
+            result.raw +=
+                parameterLine({path, parameter.name,
+                               wanted.secrets ? definition : withoutSecrets(parameter.name, definition), value});
             ++values;
-            replaced += secret && !parameter.value.empty() ? 1 : 0;
+            replaced += value != parameter.value ? 1 : 0;
         }
     }
     Recordings recordings;
@@ -85,9 +85,9 @@ Report take(const Wanted &wanted) {
                                  {"files", recordings.files},
                                  {"answers", recordings.answers},
                                  {"capture", result.raw}});
-    std::string note = "captured " + std::to_string(values) + " values";
-    note += wanted.driver ? ", " + std::to_string(recordings.files) + " files and " +
-                                std::to_string(recordings.answers) + " answers of tools"
+    std::string note = "captured " + counted(values, "value");
+    note += wanted.driver ? ", " + counted(recordings.files, "file") + " and " + counted(recordings.answers, "answer") +
+                                " of tools"
                           : "";
     note += replaced != 0 ? "; secrets replaced: " + std::to_string(replaced) : "";
     result.notes.push_back(note);
