@@ -39,6 +39,7 @@ class Refusals(unittest.TestCase):
             ("GET", "/api/v1/nonsense", {"Authorization": None}, 401),
             ("GET", "/api/v1", {"Host": "gateway.example"}, 200),
             ("GET", "/api/v1", {"Host": "Gateway.Example:443"}, 200),
+            ("GET", "/api/v1", {"Host": f"127.0.0.1:{port} \t", "Authorization": f"Bearer   {self.server.token} "}, 200),
             ("GET", "/api/v1", {"Host": "evil.example"}, 421),
             ("GET", "/api/v1", {"Host": "gateway.example.evil.example"}, 421),
             ("GET", "/api/v1", {"Host": f"127.0.0.1:{port + 1}"}, 421),
@@ -163,6 +164,12 @@ class Refusals(unittest.TestCase):
             (head + "Content-Length: 99999999999999999999\r\n\r\n", "413", False),
             (head + "Content-Length: -1\r\n\r\n", "400", False),
             (head + "X : y\r\n\r\n", "400", True),
+            *((head + line + "\r\n" + head + "\r\n", "400", True)  # one request, which has no second reading
+              for line in (": x\r\n", ":\r\n", ": \r\n", ":\t\r\n", ": x\n", "X: y\n: \n", "X: y\r\n z\r\n", "X: y\r\n : z\r\n",
+                           "X: y\0z\r\n", "Cookie: a=b\0\r\n")),
+            (head.replace("/v1", "/v1\0x") + "\r\n", "400", True),
+            (head.replace("\r", "") + "X:\nY: \nConnection: close\n\n", "200", True),
+            (head + "".join(f"X{i}: {'y' * 120}\r\n" for i in range(100)) + "Connection: close\r\n\r\n", "200", True),
             (head + "no colon\r\n\r\n", "400", False),
             (head + chunked + "1\r\n{\r\n0\r\n\r\n", "411", True),
             (head + chunked + "x\r\n", "411", True),
@@ -176,12 +183,13 @@ class Refusals(unittest.TestCase):
         ]
         for data, status, own in cases:
             with self.subTest(data=data[:40] + data[-40:]):
-                data += "" if "\r\n\r\n" in data else "\r\n"
+                data += "" if "\n\n" in data.replace("\r", "") else "\r\n"
                 answer = self.server.raw(data.encode(), timeout=3).decode()
                 start, _, body = answer.partition("\r\n\r\n")
                 self.assertEqual(answer.count("Content-Security-Policy:"), 1 if own else 0, answer)
                 self.assertTrue(start.startswith(f"HTTP/1.1 {status} "), start)
                 self.assertEqual(POLICY in start and "no-store" in start and body.startswith("{"), own, start)
+                self.assertEqual(answer.count("HTTP/1.1 "), 1 if own else answer.count("HTTP/1.1 "), answer)
         self.assertEqual(self.server.raw(b"\x16\x03\x01\r\n\r\n", timeout=3), b"")
         self.assertEqual(self.server.get("").status, 200)
 
@@ -223,6 +231,23 @@ class Sessions(unittest.TestCase):
                 self.assertEqual(written.read(), server.token + "\n")
             self.assertEqual(stat.S_IMODE(os.stat(file).st_mode), 0o600)
 
+    def test_a_token_file_takes_no_other_files_place(self):
+        folder = tempfile.mkdtemp()
+        fifo, link, target, directory, end = (os.path.join(folder, name) for name in ("fifo", "link", "target", "directory", "end"))
+        os.mkfifo(fifo)
+        with socket.socket(socket.AF_UNIX) as bound:
+            bound.bind(end)
+        os.symlink(target, link)
+        os.mkdir(directory)
+        before = sorted(os.listdir(folder))
+        for file, what in ((fifo, "FIFO"), (link, "symbolic link"), (end, "socket"), (directory, "directory")):
+            done = subprocess.run([WEB, "--listen", "127.0.0.1:0", "--token-file", file], env=environment(tempfile.mkdtemp()),
+                                  capture_output=True, text=True, timeout=10, check=False)
+            self.assertEqual((done.returncode, done.stdout), (1, ""))
+            self.assertRegex(done.stderr, f"{file}: .*{what}")
+        self.assertTrue(stat.S_ISFIFO(os.stat(fifo).st_mode) and stat.S_ISSOCK(os.stat(end).st_mode))
+        self.assertEqual(sorted(os.listdir(folder)), before)
+
     def test_read_only_refuses_every_change(self):
         with Server("--read-only", words=True) as server, Server() as other:
             for method, resource in (("PATCH", "/objects"), ("PATCH", "/objects?dry_run=0"), ("PATCH", "/wifi/ssids/1"),
@@ -236,6 +261,11 @@ class Sessions(unittest.TestCase):
             self.assertEqual(server.stored("Device.WiFi.Radio.1.Channel"), "6")
             self.assertEqual([one.get(resource).headers["Caltofal-Read-Only"] for one in (server, other)
                               for resource in ("/wan", "/nope")], ["1", "1", None, None])
+            for head in ("HEAD /nope HTTP/1.1\r\n", "GET /api/v1 HTTP/1.1\r\nX : y\r\n", "PUT / HTTP/1.1\r\n", "GET /api/v1 HTTP/1.1\r\n",
+                         "GET /" + "?&" * 80 + " HTTP/1.1\r\n", "GET / HTTP/1.1\r\n" + "X: y\r\n" * 200):
+                host = "" if head.startswith("HEAD") else f"Host: {server.host}\r\n"
+                answer = server.raw(f"{head}{host}Connection: close\r\n\r\n".encode())
+                self.assertRegex(answer, rb"^HTTP/1.1 4(.|\r\n)*\r\nCaltofal-Read-Only: 1\r\n")
 
     def test_command_line(self):
         cases = [  # options, exit code, what it says

@@ -13,8 +13,8 @@ namespace {
 using std::chrono::steady_clock;
 
 // To a connection that the server gives up; what does not go out at once is lost.
-void sayGoodbye(int descriptor, const Refusal &refusal) {
-    const std::string bytes = closingBytes(errorResponse(refusal));
+void sayGoodbye(int descriptor, const Refusal &refusal, const std::vector<Header> &common) {
+    const std::string bytes = closingBytes(errorResponse(refusal), common);
     static_cast<void>(send(descriptor, bytes.data(), bytes.size(), MSG_DONTWAIT | MSG_NOSIGNAL));
 }
 
@@ -26,7 +26,7 @@ bool hasBytes(int descriptor) {
 
 // A connection that was silent since its last answer is closed without a word: a client could take it for the answer
 // to what it is about to ask. Where bytes wait to be read, the server is late and not the client.
-void expire(Connections::Entry &entry) {
+void expire(Connections::Entry &entry, const std::vector<Header> &common) {
     using State = Connections::State;
     const bool isAwaited = entry.state == State::Receiving || entry.state == State::Idle;
     if (isAwaited && hasBytes(entry.descriptor)) {
@@ -36,7 +36,8 @@ void expire(Connections::Entry &entry) {
     if (isAwaited && (entry.state == State::Receiving || entry.fresh)) {
         sayGoodbye(entry.descriptor,
                    Refusal(Status::RequestTimeout, "the request did not come whole within " +
-                                                       std::to_string(Connections::kRequestTime.count()) + " seconds"));
+                                                       std::to_string(Connections::kRequestTime.count()) + " seconds"),
+                   common);
     }
     shutdown(entry.descriptor, SHUT_RDWR);
     entry.deadline = steady_clock::time_point::max();
@@ -44,7 +45,8 @@ void expire(Connections::Entry &entry) {
 
 } // namespace
 
-Connections::Connections(Limits limits) : limits_(limits), watcher_([this] { watch(); }) {}
+Connections::Connections(Limits limits, const std::vector<Header> &common)
+    : limits_(limits), common_(common), watcher_([this] { watch(); }) {}
 
 Connections::~Connections() {
     {
@@ -94,10 +96,10 @@ void Connections::refuse(Handle entry, const Refusal &refusal) {
     }
 }
 
-void Connections::dismiss(Entry &entry, const Refusal &refusal) {
+void Connections::dismiss(Entry &entry, const Refusal &refusal) const {
     entry.state = State::Refused;
     entry.deadline = steady_clock::now() + std::chrono::seconds(1);
-    sayGoodbye(entry.descriptor, refusal);
+    sayGoodbye(entry.descriptor, refusal, common_);
     shutdown(entry.descriptor, SHUT_WR); // what the client still sends is read, so that it sees the answer
 }
 
@@ -155,7 +157,7 @@ steady_clock::time_point Connections::expireAll(steady_clock::time_point now) {
     steady_clock::time_point next = steady_clock::time_point::max();
     for (Entry &entry : entries_) {
         if (entry.deadline <= now) {
-            expire(entry);
+            expire(entry, common_);
         }
         next = std::min(next, entry.deadline);
     }

@@ -11,6 +11,7 @@
 #include <mutex>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace web {
 
@@ -38,7 +39,8 @@ class Connections {
     };
     using Handle = std::list<Entry>::iterator;
 
-    explicit Connections(Limits limits);
+    // `common` are the headers of every answer, which outlive the object.
+    Connections(Limits limits, const std::vector<Header> &common);
     Connections(const Connections &) = delete;
     Connections &operator=(const Connections &) = delete;
     ~Connections();
@@ -58,12 +60,13 @@ class Connections {
   private:
     void watch();
     // All with the mutex held.
-    static void dismiss(Entry &entry, const Refusal &refusal);
+    void dismiss(Entry &entry, const Refusal &refusal) const;
     void giveUp(const Entry &entry);
     void wakeBefore(std::chrono::steady_clock::time_point deadline);
     std::chrono::steady_clock::time_point expireAll(std::chrono::steady_clock::time_point now);
 
     const Limits limits_;
+    const std::vector<Header> &common_;
     std::mutex mutex_;
     std::condition_variable changed_;
     std::list<Entry> entries_;

@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "etag.h"
 
+#include "request.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
 
 namespace web {
 namespace {
-
-constexpr std::string_view kBlanks = " \t";
-
-std::string_view trimmed(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
 
 // The length of the tag with its quotes, and "W/" where it is a weak one, at the beginning of a text; 0 where none is.
 size_t tagLength(std::string_view text) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "exchange.h"
 
+#include "header_trail.h"
+
 #include <charconv>
 #include <cstring>
 #include <microhttpd.h>
@@ -28,6 +30,7 @@ constexpr const char *kTwice = "a header stands twice in the request";
 
 struct Headers {
     Request &request;
+    HeaderTrail trail;
     size_t bytes = 0;
     const char *wrong = nullptr; // what is, where something is
     bool awaitsContinue = false;
@@ -58,6 +61,7 @@ void takeOther(Headers &headers, const char *name, const char *value) {
 MHD_Result takeHeader(void *context, MHD_ValueKind /*kind*/, const char *name, const char *text) {
     Headers &headers = *static_cast<Headers *>(context);
     const char *value = text ? text : "";
+    headers.trail.follow(name, text ? text : name);
     headers.bytes += strlen(name) + strlen(value) + strlen(": \r\n");
     if (*name == '\0' || strpbrk(name, " \t")) { // the server in front may take it for another header
         headers.wrong = "the name of a header is empty or has a blank";
@@ -68,7 +72,7 @@ MHD_Result takeHeader(void *context, MHD_ValueKind /*kind*/, const char *name, c
             if (!member.empty()) {
                 headers.wrong = kTwice;
             }
-            member = value;
+            member = trimmed(value);
         }
     }
     takeOther(headers, name, value);
@@ -77,10 +81,15 @@ MHD_Result takeHeader(void *context, MHD_ValueKind /*kind*/, const char *name, c
 
 } // namespace
 
-void Exchange::takeHeaders(MHD_Connection *from, const char *method) {
-    Headers headers{request};
+void Exchange::takeHeaders(MHD_Connection *from, const char *method, const char *version) {
+    Headers headers{request, HeaderTrail(targetEnd, version)};
     request.method = method;
     MHD_get_connection_values(from, MHD_HEADER_KIND, takeHeader, &headers);
+    const size_t size = MHD_get_connection_info(from, MHD_CONNECTION_INFO_REQUEST_HEADER_SIZE)->header_size;
+    if (!headers.trail.endsAt(method + size)) {
+        headers.wrong =
+            "a line of the request has no name, goes on in the next line, or holds a NUL or a blank too many";
+    }
     awaitsContinue_ = headers.awaitsContinue;
     isMalformed_ = headers.wrong != nullptr;
     constexpr auto kItems = static_cast<MHD_ValueKind>(MHD_HEADER_KIND | MHD_COOKIE_KIND);

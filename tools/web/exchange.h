@@ -19,12 +19,13 @@ struct Exchange {
 
     Connections::Handle connection;
     Request request;
+    const char *targetEnd = nullptr; // where the HTTP library's text of the target ends
     std::optional<Response> response;
     bool headersTaken = false;
 
-    // Fills the request with what the HTTP library has read, all but the body. Throws Refusal for headers that are too
-    // large.
-    void takeHeaders(MHD_Connection *from, const char *method);
+    // Fills the request with what the HTTP library has read, all but the body; `method` and `version` are texts of that
+    // library. Throws Refusal for headers that are too large, or have more than one reading.
+    void takeHeaders(MHD_Connection *from, const char *method, const char *version);
 
     // Bytes of the body. A refused one is dropped.
     void takeBody(std::string_view bytes);

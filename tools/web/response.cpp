@@ -75,22 +75,12 @@ Response fileResponse(const PageFile &file, std::string_view ifNoneMatch) {
             {{"ETag", file.etag}}};
 }
 
-const std::vector<Header> &safetyHeaders() {
-    static const std::vector<Header> headers = {
-        {"Content-Security-Policy", "default-src 'self'; frame-ancestors 'none'; base-uri 'none'; form-action 'self'"},
-        {"X-Content-Type-Options", "nosniff"},
-        {"Referrer-Policy", "no-referrer"},
-        {"Cross-Origin-Resource-Policy", "same-origin"},
-    };
-    return headers;
-}
-
-std::string closingBytes(const Response &response) {
+std::string closingBytes(const Response &response, const std::vector<Header> &common) {
     std::string text = "HTTP/1.1 " + std::to_string(static_cast<unsigned>(response.status)) + " " +
                        phraseOf(response.status) +
                        "\r\nConnection: close\r\nContent-Type: " + std::string(response.type) +
                        "\r\nCache-Control: " + std::string(response.caching) + "\r\n";
-    for (const std::vector<Header> *headers : {&safetyHeaders(), &response.headers}) {
+    for (const std::vector<Header> *headers : {&common, &response.headers}) {
         for (const Header &header : *headers) {
             text += header.name + ": " + header.value + "\r\n";
         }

@@ -37,10 +37,8 @@ Response tagged(Response response, std::string_view ifNoneMatch);
 
 Response fileResponse(const PageFile &file, std::string_view ifNoneMatch);
 
-// What every answer carries.
-const std::vector<Header> &safetyHeaders();
-
-// A whole answer as bytes, after which the connection ends: for connections that are not served.
-std::string closingBytes(const Response &response);
+// A whole answer as bytes, with the headers that every answer carries, after which the connection ends: for connections
+// that are not served.
+std::string closingBytes(const Response &response, const std::vector<Header> &common);
 
 } // namespace web

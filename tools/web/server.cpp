@@ -19,7 +19,21 @@ constexpr unsigned kSpareConnections = 32;  // to tell those beyond the limit so
 constexpr size_t kConnectionMemory = 32768; // kHeadersMax, some 70 bytes for each item of it, and the answer's headers
 constexpr unsigned kSilenceMax = 75;        // seconds; the connections' own deadlines come first
 
-MHD_Response *makeResponse(const Response &response) {
+// What every answer carries.
+std::vector<Header> commonHeaders(bool readOnly) {
+    std::vector<Header> headers = {
+        {"Content-Security-Policy", "default-src 'self'; frame-ancestors 'none'; base-uri 'none'; form-action 'self'"},
+        {"X-Content-Type-Options", "nosniff"},
+        {"Referrer-Policy", "no-referrer"},
+        {"Cross-Origin-Resource-Policy", "same-origin"},
+    };
+    if (readOnly) { // a page need not offer changes
+        headers.push_back({"Caltofal-Read-Only", "1"});
+    }
+    return headers;
+}
+
+MHD_Response *makeResponse(const Response &response, const std::vector<Header> &common) {
     const std::string_view content = response.file.empty() ? std::string_view(response.body) : response.file;
     const MHD_ResponseMemoryMode mode = response.file.empty() ? MHD_RESPMEM_MUST_COPY : MHD_RESPMEM_PERSISTENT;
     // The library only reads it.
@@ -35,7 +49,7 @@ MHD_Response *makeResponse(const Response &response) {
         add(MHD_HTTP_HEADER_CONTENT_TYPE, response.type);
     }
     add(MHD_HTTP_HEADER_CACHE_CONTROL, response.caching);
-    for (const std::vector<Header> *headers : {&safetyHeaders(), &response.headers}) {
+    for (const std::vector<Header> *headers : {&common, &response.headers}) {
         for (const Header &header : *headers) {
             add(header.name, header.value);
         }
@@ -43,8 +57,8 @@ MHD_Response *makeResponse(const Response &response) {
     return made;
 }
 
-MHD_Result send(MHD_Connection *connection, const Response &response) {
-    MHD_Response *made = makeResponse(response);
+MHD_Result send(MHD_Connection *connection, const Response &response, const std::vector<Header> &common) {
+    MHD_Response *made = makeResponse(response, common);
     const MHD_Result queued = MHD_queue_response(connection, static_cast<unsigned>(response.status), made);
     MHD_destroy_response(made);
     return queued;
@@ -76,6 +90,7 @@ struct Callbacks {
         auto exchange = std::make_unique<Exchange>();
         exchange->connection = handleOf(connection);
         exchange->request.target = target;
+        exchange->targetEnd = target + exchange->request.target.size();
         exchange->request.address = exchange->connection->address;
         Connections &connections = static_cast<Server *>(self)->connections_;
         connections.become(exchange->connection, Connections::State::Receiving);
@@ -94,7 +109,7 @@ struct Callbacks {
     }
 
     static MHD_Result handle(void *self, MHD_Connection *connection, const char * /*url*/, const char *method,
-                             const char * /*version*/, const char *data, size_t *size, void **context) {
+                             const char *version, const char *data, size_t *size, void **context) {
         Server &server = *static_cast<Server *>(self);
         Exchange &exchange = *static_cast<Exchange *>(*context);
         if (server.connections_.isRefused(exchange.connection)) {
@@ -102,7 +117,7 @@ struct Callbacks {
         }
         if (!exchange.headersTaken) {
             exchange.headersTaken = true;
-            takeHeaders(server, connection, exchange, method);
+            takeHeaders(server, connection, exchange, method, version);
             if (server.connections_.isRefused(exchange.connection)) {
                 return MHD_NO;
             }
@@ -116,9 +131,10 @@ struct Callbacks {
         return exchange.response ? finish(server, connection, exchange) : work(server, connection, exchange);
     }
 
-    static void takeHeaders(Server &server, MHD_Connection *connection, Exchange &exchange, const char *method) {
+    static void takeHeaders(Server &server, MHD_Connection *connection, Exchange &exchange, const char *method,
+                            const char *version) {
         try {
-            exchange.takeHeaders(connection, method);
+            exchange.takeHeaders(connection, method, version);
             server.gate_.check(exchange.request);
         } catch (const Refusal &refusal) {
             exchange.response = errorResponse(refusal);
@@ -130,10 +146,7 @@ struct Callbacks {
 
     static MHD_Result finish(Server &server, MHD_Connection *connection, Exchange &exchange) {
         server.connections_.become(exchange.connection, Connections::State::Answering);
-        if (server.gate_.readOnly()) { // a page need not offer changes
-            exchange.response->headers.push_back({"Caltofal-Read-Only", "1"});
-        }
-        return send(connection, *exchange.response);
+        return send(connection, *exchange.response, server.commonHeaders_);
     }
 
     // The request is whole. After a wait the HTTP library comes back with the answer in place.
@@ -163,7 +176,8 @@ struct Callbacks {
 };
 
 Server::Server(int listener, Limits limits, const Gate &gate, Api &api)
-    : gate_(gate), api_(api), connections_(limits), workers_(std::in_place),
+    : gate_(gate), api_(api), commonHeaders_(commonHeaders(gate.readOnly())), connections_(limits, commonHeaders_),
+      workers_(std::in_place),
       daemon_(MHD_start_daemon(MHD_USE_EPOLL_INTERNAL_THREAD | MHD_ALLOW_SUSPEND_RESUME | MHD_USE_ERROR_LOG, 0, nullptr,
                                nullptr, &Callbacks::handle, this, MHD_OPTION_EXTERNAL_LOGGER, &Callbacks::log, this,
                                MHD_OPTION_LISTEN_SOCKET, listener, MHD_OPTION_THREAD_POOL_SIZE, kThreads,

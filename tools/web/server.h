@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <optional>
+#include <vector>
 
 struct MHD_Daemon;
 
@@ -30,6 +31,7 @@ class Server {
 
     const Gate &gate_;
     Api &api_;
+    const std::vector<Header> commonHeaders_;
     Connections connections_;
     std::optional<Workers> workers_;
     MHD_Daemon *daemon_;

@@ -33,7 +33,7 @@ Session::Session(int port)
 void Session::check(const Request &request) {
     const std::string &given = request.authorization;
     if (given.size() >= kBearer.size() && strncasecmp(given.data(), kBearer.data(), kBearer.size()) == 0) {
-        checkToken(given.substr(kBearer.size()), request);
+        checkToken(std::string(trimmed(std::string_view(given).substr(kBearer.size()))), request);
         return;
     }
     // A cookie from another start is no try: a page that stayed open asks with it for hours.

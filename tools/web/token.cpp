@@ -5,7 +5,10 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <stdexcept>
+#include <stdlib.h>
 #include <sys/random.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -14,6 +17,29 @@ namespace {
 
 [[noreturn]] void failOn(const std::string &what) {
     throw std::system_error(errno, std::generic_category(), what);
+}
+
+const char *kindOf(mode_t mode) {
+    switch (mode & S_IFMT) {
+    case S_IFLNK:
+        return "symbolic link";
+    case S_IFDIR:
+        return "directory";
+    case S_IFIFO:
+        return "FIFO";
+    case S_IFSOCK:
+        return "socket";
+    default:
+        return "device";
+    }
+}
+
+// A file that takes the place of a device, or of what others write to, breaks more than it helps.
+void checkReplaceable(const std::string &file) {
+    struct stat found {};
+    if (lstat(file.c_str(), &found) == 0 && !S_ISREG(found.st_mode)) {
+        throw std::runtime_error(file + ": is a " + kindOf(found.st_mode) + ", and only a file is replaced");
+    }
 }
 
 } // namespace
@@ -42,16 +68,19 @@ bool isSameSecret(std::string_view given, std::string_view secret) {
 }
 
 void writeSecret(const std::string &file, std::string_view secret) {
+    checkReplaceable(file);
     // Under another name first: a file that is there already may be readable to others, and nobody sees half a secret.
-    const std::string fresh = file + ".new";
-    unlink(fresh.c_str());
-    const int descriptor = open(fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600);
+    std::string fresh = file + ".XXXXXX";
+    const int descriptor = mkostemp(fresh.data(), O_CLOEXEC); // for the owner alone
     if (descriptor < 0) {
-        failOn(fresh);
+        failOn(file);
     }
     const std::string line = std::string(secret) + "\n";
     const bool written = write(descriptor, line.data(), line.size()) == static_cast<ssize_t>(line.size());
     if (close(descriptor) != 0 || !written || rename(fresh.c_str(), file.c_str()) != 0) {
+        const int error = errno;
+        unlink(fresh.c_str());
+        errno = error;
         failOn(file);
     }
 }

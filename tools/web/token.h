@@ -13,7 +13,8 @@ std::string randomToken();
 // Takes the same time wherever the two differ.
 bool isSameSecret(std::string_view given, std::string_view secret);
 
-// Makes or replaces a file that the owner alone may read, with the secret as its one line. Throws std::system_error.
+// Makes or replaces a file that the owner alone may read, with the secret as its one line. What is no regular file, a
+// symbolic link included, stays as it is. Throws std::runtime_error.
 void writeSecret(const std::string &file, std::string_view secret);
 
 } // namespace web
