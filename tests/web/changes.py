@@ -100,7 +100,8 @@ class Changes(unittest.TestCase):
             ("/objects?dry_run", {"Device.WiFi.Radio.1.": {"Channel": 11}}, 400, None, "dry_run"),
             ("/objects?dry_run=1&dry_run=0", {"Device.WiFi.Radio.1.": {"Channel": 11}}, 400, None, "once"),
             ("/wifi/ssids/1?db_only=", {"SSID": "y"}, 400, None, "db_only"),
-            ("/wifi/ssids/1?db_only=true", {"SSID": "y" * 33}, 422, None, ""),
+            ("/wifi/ssids/1?db_only=true", {"SSID": "y"}, 400, None, "1 or 0"),
+            ("/wifi/ssids/1?dry_run=false", {"SSID": "y"}, 400, None, "1 or 0"),
         ]
         for resource, body, status, code, word in cases:
             with self.subTest(resource=resource, body=body):
@@ -167,7 +168,10 @@ class Changes(unittest.TestCase):
         self.server.patch("/wifi/ssids/1", {"KeyPassphrase": "a-secret-of-mine"})
         self.server.patch("/objects", {"Device.WiFi.Radio.1.": {"Channel": 11, "Name\n2026": 1}})
         self.server.patch("/objects?dry_run=1", {"Device.WiFi.Radio.1.": {"Channel": 9}})
+        self.server.patch("/objects", {"Device.WiFi.Radio.1.": {f"Name{number}": 1 for number in range(3000)}})
         lines = self.server.end().splitlines()
+        self.assertRegex(lines[-1], r"Radio\.1\.Name0,.*,Device\.WiFi\.Radio\.1\.Name\d+ and 29\d\d more -> 404$")
+        self.assertLess(len(lines.pop()), 1200)
         pattern = r"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ 127\.0\.0\.1 PATCH (/api/v1/\S+) (\S+) -> (\d+)"
         self.assertEqual([re.fullmatch(pattern, line).groups() for line in lines],
                          [("/api/v1/wifi/ssids/1", "KeyPassphrase", "200"),

@@ -22,6 +22,8 @@ PLAIN = {  # resource: words of the command line
     "/objects?path=Device.Hosts.Host&where=Active%3Dtrue": "get Device.Hosts.Host --where Active=true",
     "/objects?path=Device.WiFi.Radio.1&path=Device.WiFi.SSID.1": "get Device.WiFi.Radio.1 Device.WiFi.SSID.1",
     "/objects?path=Device.Nope": "get Device.Nope",
+    "/objects?path=*": "get *",
+    "/objects?path=*.*": "get *.*",
     "/objects?path=Device.Hosts.Host&where=Active%3Dmaybe": "get Device.Hosts.Host --where Active=maybe",
     "/objects?path=Device.Hosts.Host&where=Active": "get Device.Hosts.Host --where Active",
 }
@@ -104,7 +106,7 @@ class Resources(unittest.TestCase):
                     self.assertEqual(server.get("/wan").status, 200 if verb == "remove" else 503)
                     subprocess.run([SANDBOX, verb, "nosuch", *(["--from", "home"] if verb == "new" else [])],
                                    env=environment(server.folder), capture_output=True, check=True)
-                answers = [server.get(resource) for resource in PLAIN if not resource.endswith(("=Active", "/x", "/0"))]
+                answers = [server.get(resource) for resource in PLAIN if not resource.endswith(("=Active", "/x", "/0", "*"))]
                 answers.append(server.patch("/wifi/ssids/1", {"SSID": "x"}))
                 for answer in answers:
                     self.assertEqual((answer.status, answer.json["error"]["exit"]), (503, 4), answer.body)

@@ -42,12 +42,10 @@ bool Call::flag(std::string_view name) const {
     if (found == query.end()) {
         return false;
     }
-    const bool isTrue = found->value == "1" || found->value == "true";
-    if ((!isTrue && found->value != "0" && found->value != "false") ||
-        std::count_if(query.begin(), query.end(), isWanted) > 1) {
+    if ((found->value != "1" && found->value != "0") || std::count_if(query.begin(), query.end(), isWanted) > 1) {
         throw Refusal(Status::BadRequest, std::string(name) + " is 1 or 0, given once");
     }
-    return isTrue;
+    return found->value == "1";
 }
 
 Call parseCall(std::string_view method, const Target &target) {

@@ -22,8 +22,8 @@ struct Call {
 
     // The query's last value of that name; "" where it is not there.
     [[nodiscard]] std::string text(std::string_view name) const;
-    // Whether a flag of the query is set. Throws Refusal (400) for a value other than 1, true, 0 and false, and for one
-    // that is given twice.
+    // Whether a flag of the query is set. Throws Refusal (400) for a value other than 1 and 0, and for one that is
+    // given twice.
     [[nodiscard]] bool flag(std::string_view name) const;
 };
 

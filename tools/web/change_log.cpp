@@ -10,6 +10,8 @@
 namespace web {
 namespace {
 
+constexpr size_t kNamesMax = 1000; // bytes of a line that names take
+
 std::vector<std::string> namesOf(const pages::Value &body) {
     std::vector<std::string> names;
     for (const auto &[name, value] : body.members()) {
@@ -23,16 +25,23 @@ std::vector<std::string> namesOf(const pages::Value &body) {
     return names;
 }
 
+// " NAME,NAME and 3 more", "" for none.
+std::string listed(const std::vector<std::string> &names) {
+    std::string text;
+    for (size_t i = 0; i < names.size(); ++i) {
+        const std::string name = plain(names[i]);
+        if (i > 0 && text.size() + name.size() > kNamesMax) {
+            return text + " and " + std::to_string(names.size() - i) + " more";
+        }
+        text += (i == 0 ? " " : ",") + name;
+    }
+    return text;
+}
+
 } // namespace
 
 void logChange(const Call &call, const Request &request, Status status) {
-    std::string text = request.method + " " + plain(request.target);
-    const char *before = " ";
-    for (const std::string &name : namesOf(call.body)) {
-        text += before + plain(name);
-        before = ",";
-    }
-    logLine(request.address, text, status);
+    logLine(request.address, request.method + " " + plain(request.target) + listed(namesOf(call.body)), status);
 }
 
 } // namespace web

@@ -180,6 +180,10 @@ Report reportOf(const Query &query) {
     return result;
 }
 
+bool beginsWithPattern(const Object &asked) {
+    return asked.name.starts_with('*') && isPattern(asked);
+}
+
 } // namespace
 
 void check(const Query &query) {
@@ -199,6 +203,9 @@ void check(const Query &query) {
                                         [](const Object &object) { return !object.parameters.empty(); });
     if (query.names && parameters) {
         throw Usage("--names tells what stands below objects: a parameter has nothing below it");
+    }
+    if (std::any_of(query.objects.begin(), query.objects.end(), beginsWithPattern)) {
+        throw Usage("a path begins with an object's name, not with \"*\"");
     }
     const bool pattern = std::any_of(query.objects.begin(), query.objects.end(), isPattern);
     if (pattern && (query.defaults || query.names || !query.where.empty())) {
