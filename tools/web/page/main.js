@@ -128,8 +128,8 @@ export const bandName = band => band?.replace("g", " GHz");
 
 // A state in words; `kind` (good, bad, off) adds a mark of its own shape and colour.
 export const state = (word, kind) => el(`span.state.${kind}`, word);
-export const onOff = on => on ? state("On", "good") : state("Off", "off");
-export const connected = (is, otherwise, kind = "off") => is ? state("Connected", "good") : state(otherwise, kind);
+export const onOff = on => on == null ? on : on ? state("On", "good") : state("Off", "off");
+export const connected = (is, otherwise, kind = "off") => is == null ? is : is ? state("Connected", "good") : state(otherwise, kind);
 
 // How much of a whole there is.
 export function bar(label, part, whole, weak) {

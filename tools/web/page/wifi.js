@@ -41,7 +41,7 @@ function ssidTable(label, ssids, radios) {
     ["Name", ssid => name(ssid.ssid)],
     ["Radio", ssid => bandName(radios.find(({radio}) => radio === ssid.radio)?.band)],
     ["For", "network"],
-    ["State", ssid => ssid.enabled && !ssid.active ? state("Not on the air", "bad") : onOff(ssid.enabled)],
+    ["State", ssid => ssid.enabled && ssid.active === false ? state("Not on the air", "bad") : onOff(ssid.enabled)],
     ["BSSID", "bssid"],
     ["Change", ssid => ssid.network !== "uplink" &&
       button("Change", () => editSsid(ssid), `network ${ssid.number}, ${ssid.ssid}`), "act"],
