@@ -4,6 +4,7 @@ import concurrent.futures
 import json
 import re
 import subprocess
+import time
 import unittest
 
 from server import SANDBOX, Server, environment
@@ -176,6 +177,25 @@ class Changes(unittest.TestCase):
         self.assertEqual([re.fullmatch(pattern, line).groups() for line in lines],
                          [("/api/v1/wifi/ssids/1", "KeyPassphrase", "200"),
                           ("/api/v1/objects", "Device.WiFi.Radio.1.Channel,Device.WiFi.Radio.1.Name?2026", "404")])
+
+    def test_a_change_cut_at_the_end_is_logged(self):
+        """Those that wait for it are not begun."""
+        subprocess.run([SANDBOX, "fault", "add", "Device.WiFi.SSID.", "--late", "3000", "--on", "set"], check=True,
+                       env=environment(self.server.folder), capture_output=True)
+        connections = [self.server.connect() for _ in range(6)]
+        for connection in connections:
+            connection.request("PATCH", "/api/v1/objects", json.dumps({"Device.WiFi.SSID.1.": {"SSID": "late"}}),
+                               {"Authorization": f"Bearer {self.server.token}", "Origin": f"http://{self.server.host}",
+                                "Content-Type": "application/json"})
+        time.sleep(0.4)
+        start = time.monotonic()
+        lines = self.server.end().splitlines()
+        self.assertLess(time.monotonic() - start, 1.2)
+        self.assertTrue(1 <= len(lines) <= 4, lines)
+        for line in lines:
+            self.assertRegex(line, r" PATCH /api/v1/objects Device\.WiFi\.SSID\.1\.SSID -> unknown: ended while the gateway was asked$")
+        for connection in connections:
+            connection.close()
 
     def test_a_change_killed_in_the_middle_is_whole_or_not_there(self):
         pair = ("Device.WiFi.SSID.1.SSID", "Device.WiFi.SSID.2.SSID")

@@ -1,11 +1,12 @@
 # SPDX-License-Identifier: MIT
 """Many clients, and for long. CALTOFAL_WEB_REQUESTS: how many requests the memory is watched over (2,000)."""
 import os
+import subprocess
 import threading
 import time
 import unittest
 
-from server import SANITIZED, Server, has_box, memory
+from server import SANDBOX, SANITIZED, Server, environment, has_box, memory
 
 REQUESTS = int(os.environ.get("CALTOFAL_WEB_REQUESTS", "2000"))
 PAGES = ("/wan", "/status", "/lan", "/wifi/radios", "/wifi/ssids/1", "/mode", "/objects?path=Device.WiFi.Radio.1.", "/nonsense")
@@ -35,6 +36,27 @@ class Load(unittest.TestCase):
             for thread in clients:
                 thread.join()
             self.assertEqual(wrong, [])
+
+    def test_a_slow_gateway_keeps_nobody_waiting_who_does_not_ask_it(self):
+        with Server() as server:
+            server.get("/dsl")  # which is quick until now
+            server.get("/dsl")
+            subprocess.run([SANDBOX, "fault", "add", "Device.DSL.", "--late", "200", "--on", "get"], check=True,
+                           env=environment(server.folder), capture_output=True)
+            server.get("/dsl")
+            start = time.monotonic()
+            slow = [threading.Thread(target=server.get, args=("/dsl",)) for _ in range(8)]
+            for thread in slow:
+                thread.start()
+            time.sleep(0.1)
+            for target in ("/main.js", "/api/v1", "/api/v1/jobs", "/api/v1/jobs/1", "/api/v1/nonsense") * 4:
+                begun = time.monotonic()
+                server.ask("GET", target)
+                self.assertLess(time.monotonic() - begun, 0.3, target)
+            self.assertTrue(any(thread.is_alive() for thread in slow))
+            self.assertLess(time.monotonic() - start, 2)
+            for thread in slow:
+                thread.join()
 
     def test_reading_while_others_change(self):
         """Two SSIDs are always changed together: no answer may show one without the other."""

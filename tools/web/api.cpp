@@ -2,7 +2,6 @@
 #include "api.h"
 
 #include "answers.h"
-#include "change_log.h"
 #include "errors.h"
 #include "page_file.h"
 #include "pages/failure.h"
@@ -37,16 +36,20 @@ pages::Value found(pages::Value job, const Call &call) {
 
 } // namespace
 
-bool Api::isSlow(const Request &request) {
+Api::Needs Api::needsOf(const Request &request) {
     try {
         const Target target = parseTarget(request.target);
         if (!isApi(target.path)) {
-            return false;
+            return Needs::Nothing;
         }
         const Call call = parseCall(request.method, target);
-        return call.resource->slow || call.method == kPatch;
+        const Subject subject = call.resource->subject;
+        if (subject == Subject::Index || subject == Subject::Jobs || subject == Subject::Job) {
+            return Needs::Nothing;
+        }
+        return call.method == kGet && !call.resource->slow ? Needs::Page : Needs::Long;
     } catch (const Refusal &) {
-        return false;
+        return Needs::Nothing;
     }
 }
 
@@ -63,10 +66,12 @@ Response Api::answerCall(const Request &request, const Target &target) {
     if (call.method == kGet) {
         return tagged(answerRead(call), request.ifNoneMatch);
     }
-    Response response = answered([&] { return answerChange(call, request); });
-    if (!call.flag("dry_run")) {
-        logChange(call, request, response.status);
+    if (call.flag("dry_run")) {
+        return answerChange(call, request);
     }
+    const ChangeLog::Handle entry = log_.begin(call, request);
+    Response response = answered([&] { return answerChange(call, request); });
+    log_.end(entry, response.status);
     return response;
 }
 

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "call.h"
+#include "change_log.h"
 #include "gate.h"
 #include "jobs.h"
 #include "response.h"
 
+#include <cstdint>
 #include <mutex>
 
 namespace web {
@@ -16,11 +18,16 @@ class Api {
   public:
     explicit Api(const Gate &gate) : gate_(gate) {}
 
-    // Whether an answer takes long: see Resource::slow; changes wait for each other.
-    [[nodiscard]] static bool isSlow(const Request &request);
+    // What an answer needs: the server alone; a page of the gateway; or what may take long even with a quick gateway: a
+    // change, the device's tools.
+    enum class Needs : uint8_t { Nothing, Page, Long };
+    [[nodiscard]] static Needs needsOf(const Request &request);
 
     // Asks what runs to end.
     void cancelJobs() { jobs_.cancelAll(); }
+
+    // Begins no change any more. Whether some were under way; the log says of these that nobody knows how they ended.
+    bool abandonChanges() { return log_.close(); }
 
     // Throws nothing: what goes wrong is an answer too.
     Response answer(const Request &request);
@@ -36,6 +43,7 @@ class Api {
 
     const Gate &gate_;
     Jobs jobs_;
+    ChangeLog log_;
     std::mutex changes_; // which read, compare and write, one at a time
 };
 

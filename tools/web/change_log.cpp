@@ -3,8 +3,8 @@
 
 #include "log_line.h"
 #include "pages/text.h"
+#include "refusal.h"
 
-#include <string>
 #include <vector>
 
 namespace web {
@@ -40,8 +40,30 @@ std::string listed(const std::vector<std::string> &names) {
 
 } // namespace
 
-void logChange(const Call &call, const Request &request, Status status) {
-    logLine(request.address, request.method + " " + plain(request.target) + listed(namesOf(call.body)), status);
+ChangeLog::Handle ChangeLog::begin(const Call &call, const Request &request) {
+    const std::string text = request.method + " " + plain(request.target) + listed(namesOf(call.body));
+    const std::lock_guard lock(mutex_);
+    if (closed_) {
+        throw Refusal(Status::Unavailable, "the server ends: nothing is changed any more");
+    }
+    return underWay_.insert(underWay_.end(), {request.address, text});
+}
+
+void ChangeLog::end(Handle change, Status status) {
+    const std::lock_guard lock(mutex_);
+    if (!closed_) {
+        logLine(change->address, change->text, status);
+    }
+    underWay_.erase(change);
+}
+
+bool ChangeLog::close() {
+    const std::lock_guard lock(mutex_);
+    closed_ = true;
+    for (const Change &change : underWay_) {
+        logLine(change.address, change.text, "unknown: ended while the gateway was asked");
+    }
+    return !underWay_.empty();
 }
 
 } // namespace web

@@ -29,8 +29,11 @@ std::string plain(std::string_view text) {
 }
 
 void logLine(const std::string &address, const std::string &text, Status status) {
-    const std::string line =
-        now() + " " + address + " " + text + " -> " + std::to_string(static_cast<unsigned>(status)) + "\n";
+    logLine(address, text, std::to_string(static_cast<unsigned>(status)));
+}
+
+void logLine(const std::string &address, const std::string &text, const std::string &outcome) {
+    const std::string line = now() + " " + address + " " + text + " -> " + outcome + "\n";
     static_cast<void>(!write(STDERR_FILENO, line.data(), line.size()));
 }
 

@@ -91,6 +91,9 @@ void serve(const Options &options, const sigset_t &endSignals) {
     endSoon();
     api.cancelJobs();
     server.drain(std::chrono::steady_clock::now() + kEndTime);
+    if (api.abandonChanges()) {
+        _exit(0); // they end with the program, as the log has said
+    }
 }
 
 } // namespace

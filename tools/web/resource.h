@@ -47,7 +47,7 @@ struct Resource {
     std::string_view path; // below kApi; a last component in braces stands for any text
     unsigned methods;      // of Method
     Subject subject;
-    // Runs the device's tools, or waits for others that do: kept away from the threads that serve the connections.
+    // Runs the device's tools, or waits for others that do: never made by the threads that serve the connections.
     bool slow = false;
     std::string_view queries = {}; // the names that its query may have, each with a blank after it
 };

@@ -149,23 +149,34 @@ struct Callbacks {
         return send(connection, *exchange.response, server.commonHeaders_);
     }
 
+    static void answerPage(Server &server, Exchange &exchange, bool claimed) {
+        const auto start = std::chrono::steady_clock::now();
+        exchange.response = server.api_.answer(exchange.request);
+        server.quickPages_.made(exchange.request.target, std::chrono::steady_clock::now() - start, claimed);
+    }
+
     // The request is whole. After a wait the HTTP library comes back with the answer in place.
     static MHD_Result work(Server &server, MHD_Connection *connection, Exchange &exchange) {
         server.connections_.become(exchange.connection, Connections::State::Working);
-        if (!Api::isSlow(exchange.request)) {
+        const Api::Needs needs = Api::needsOf(exchange.request);
+        if (needs == Api::Needs::Nothing) {
             exchange.response = server.api_.answer(exchange.request);
             return finish(server, connection, exchange);
         }
-        MHD_suspend_connection(connection);
-        const bool taken = server.workers_->add([&server, connection, &exchange] {
-            exchange.response = server.api_.answer(exchange.request);
+        const bool isPage = needs == Api::Needs::Page;
+        if (isPage && server.workers_->areIdle() && server.quickPages_.claim(exchange.request.target)) {
+            answerPage(server, exchange, true);
+            return finish(server, connection, exchange);
+        }
+        MHD_suspend_connection(connection); // which has no other request: so many can wait as there are connections
+        server.workers_->add([&server, connection, &exchange, isPage] {
+            if (isPage) {
+                answerPage(server, exchange, false);
+            } else {
+                exchange.response = server.api_.answer(exchange.request);
+            }
             MHD_resume_connection(connection);
         });
-        if (!taken) {
-            exchange.response = errorResponse(
-                Refusal(Status::Unavailable, "too many requests wait for the device", {{"Retry-After", "1"}}));
-            MHD_resume_connection(connection);
-        }
         return MHD_YES;
     }
 

@@ -5,6 +5,7 @@
 #include "api.h"
 #include "connections.h"
 #include "gate.h"
+#include "quick_pages.h"
 #include "workers.h"
 
 #include <chrono>
@@ -33,6 +34,7 @@ class Server {
     Api &api_;
     const std::vector<Header> commonHeaders_;
     Connections connections_;
+    QuickPages quickPages_;
     std::optional<Workers> workers_;
     MHD_Daemon *daemon_;
 };

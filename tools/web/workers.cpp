@@ -22,16 +22,17 @@ Workers::~Workers() {
     }
 }
 
-bool Workers::add(std::function<void()> work) {
+void Workers::add(std::function<void()> work) {
     {
         const std::lock_guard lock(mutex_);
-        if (waiting_.size() >= kWaitingMax) {
-            return false;
-        }
         waiting_.push_back(std::move(work));
     }
     changed_.notify_one();
-    return true;
+}
+
+bool Workers::areIdle() {
+    const std::lock_guard lock(mutex_);
+    return busy_ == 0 && waiting_.empty();
 }
 
 void Workers::run() {
@@ -43,9 +44,11 @@ void Workers::run() {
         }
         const std::function<void()> work = std::move(waiting_.front());
         waiting_.pop_front();
+        ++busy_;
         lock.unlock();
         work();
         lock.lock();
+        --busy_;
     }
 }
 

@@ -14,15 +14,17 @@ namespace web {
 class Workers {
   public:
     static constexpr size_t kThreads = 4;
-    static constexpr size_t kWaitingMax = 64;
 
     Workers();
     Workers(const Workers &) = delete;
     Workers &operator=(const Workers &) = delete;
     ~Workers(); // does what still waits
 
-    // False when too much waits already. Safe for many threads; `work` throws nothing.
-    bool add(std::function<void()> work);
+    // Safe for many threads. `work` throws nothing. Its caller sees to it that not too much waits.
+    void add(std::function<void()> work);
+
+    // Whether there is nothing that one of them does.
+    bool areIdle();
 
   private:
     void run();
@@ -30,6 +32,7 @@ class Workers {
     std::mutex mutex_;
     std::condition_variable changed_;
     std::deque<std::function<void()>> waiting_;
+    size_t busy_ = 0;
     bool ending_ = false;
     std::vector<std::thread> threads_;
 };
