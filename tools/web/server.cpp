@@ -64,9 +64,16 @@ MHD_Result send(MHD_Connection *connection, const Response &response, const std:
     return queued;
 }
 
-Connections::Handle &handleOf(MHD_Connection *connection) {
+// What the server keeps of a connection. The exchange is here, as the HTTP library does not tell of the end of each
+// request that it has told the beginning of.
+struct Client {
+    Connections::Handle handle;
+    std::unique_ptr<Exchange> exchange = nullptr;
+};
+
+Client &clientOf(MHD_Connection *connection) {
     const MHD_ConnectionInfo *info = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_SOCKET_CONTEXT);
-    return *static_cast<Connections::Handle *>(info->socket_context);
+    return *static_cast<Client *>(info->socket_context);
 }
 
 } // namespace
@@ -76,19 +83,21 @@ struct Callbacks {
                            MHD_ConnectionNotificationCode code) {
         Server &server = *static_cast<Server *>(self);
         if (code == MHD_CONNECTION_NOTIFY_CLOSED) {
-            const std::unique_ptr<Connections::Handle> handle(static_cast<Connections::Handle *>(*context));
-            server.connections_.closed(*handle);
+            const std::unique_ptr<Client> client(static_cast<Client *>(*context));
+            server.connections_.closed(client->handle);
             return;
         }
         const int descriptor = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CONNECTION_FD)->connect_fd;
         const sockaddr *address = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CLIENT_ADDRESS)->client_addr;
-        *context = new Connections::Handle(server.connections_.opened(descriptor, addressText(address)));
+        *context = new Client{server.connections_.opened(descriptor, addressText(address))};
     }
 
     // The request line has come.
     static void *begin(void *self, const char *target, MHD_Connection *connection) {
-        auto exchange = std::make_unique<Exchange>();
-        exchange->connection = handleOf(connection);
+        Client &client = clientOf(connection);
+        client.exchange = std::make_unique<Exchange>();
+        Exchange *exchange = client.exchange.get();
+        exchange->connection = client.handle;
         exchange->request.target = target;
         exchange->targetEnd = target + exchange->request.target.size();
         exchange->request.address = exchange->connection->address;
@@ -99,13 +108,14 @@ struct Callbacks {
         } catch (const Refusal &refusal) {
             connections.refuse(exchange->connection, refusal);
         }
-        return exchange.release();
+        return exchange;
     }
 
-    static void end(void *self, MHD_Connection * /*connection*/, void **context, MHD_RequestTerminationCode /*code*/) {
-        const std::unique_ptr<Exchange> exchange(static_cast<Exchange *>(*context));
+    static void end(void *self, MHD_Connection *connection, void **context, MHD_RequestTerminationCode /*code*/) {
+        Client &client = clientOf(connection);
         *context = nullptr;
-        static_cast<Server *>(self)->connections_.become(exchange->connection, Connections::State::Idle);
+        client.exchange.reset();
+        static_cast<Server *>(self)->connections_.become(client.handle, Connections::State::Idle);
     }
 
     static MHD_Result handle(void *self, MHD_Connection *connection, const char * /*url*/, const char *method,
