@@ -69,7 +69,7 @@ Response Api::answerCall(const Request &request, const Target &target) {
     if (call.flag("dry_run")) {
         return answerChange(call, request);
     }
-    const ChangeLog::Handle entry = log_.begin(call, request);
+    const auto entry = log_.begin(call, request);
     Response response = answered([&] { return answerChange(call, request); });
     log_.end(entry, response.status);
     return response;

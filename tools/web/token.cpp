@@ -4,9 +4,9 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <stdexcept>
-#include <stdlib.h>
 #include <sys/random.h>
 #include <sys/stat.h>
 #include <system_error>
