@@ -166,7 +166,7 @@ class Refusals(unittest.TestCase):
             (head + "X : y\r\n\r\n", "400", True),
             *((head + line + "\r\n" + head + "\r\n", "400", True)  # one request, which has no second reading
               for line in (": x\r\n", ":\r\n", ": \r\n", ":\t\r\n", ": x\n", "X: y\n: \n", "X: y\r\n z\r\n", "X: y\r\n : z\r\n",
-                           "X: y\0z\r\n", "Cookie: a=b\0\r\n")),
+                           "X: y\0z\r\n", "Cookie: a=b\0\r\n", "\rX: y\r\n", "X\r: y\r\n", "X\x0b: y\r\n", "X: a\rHost: evil\r\n")),
             (head.replace("/v1", "/v1\0x") + "\r\n", "400", True),
             (head.replace("\r", "") + "X:\nY: \nConnection: close\n\n", "200", True),
             (head + "".join(f"X{i}: {'y' * 120}\r\n" for i in range(100)) + "Connection: close\r\n\r\n", "200", True),

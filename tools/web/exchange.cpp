@@ -3,6 +3,7 @@
 
 #include "header_trail.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 #include <microhttpd.h>
@@ -58,13 +59,24 @@ void takeOther(Headers &headers, const char *name, const char *value) {
     }
 }
 
+bool isPlainName(std::string_view name) {
+    return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) { return c > ' ' && c < 0x7f; });
+}
+
+bool hasControl(std::string_view value) {
+    return std::any_of(value.begin(), value.end(), [](unsigned char c) { return (c < ' ' && c != '\t') || c == 0x7f; });
+}
+
 MHD_Result takeHeader(void *context, MHD_ValueKind /*kind*/, const char *name, const char *text) {
     Headers &headers = *static_cast<Headers *>(context);
     const char *value = text ? text : "";
     headers.trail.follow(name, text ? text : name);
     headers.bytes += strlen(name) + strlen(value) + strlen(": \r\n");
-    if (*name == '\0' || strpbrk(name, " \t")) { // the server in front may take it for another header
-        headers.wrong = "the name of a header is empty or has a blank";
+    if (!isPlainName(name)) { // the server in front may take it for another header
+        headers.wrong = "the name of a header is empty, or has a blank or a control character";
+    }
+    if (hasControl(value)) { // such as a CR, which some take for the end of the line
+        headers.wrong = "a header's value has a control character";
     }
     for (const Wanted &wanted : kWanted) {
         if (is(name, wanted.name)) {
