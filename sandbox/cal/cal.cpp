@@ -13,6 +13,7 @@
 #include "store/schema.h"
 #include "value/path.h"
 #include "value/refusal.h"
+#include "value/secret.h"
 
 #include <cstdio>
 #include <thread>
@@ -108,7 +109,7 @@ void undergoFaults(const Location &location, const char *operation, const std::v
 // "not answered: Device.WiFi.Radio.1.Chanel, ...": a get leaves out what the gateway lacks, which is often a slip.
 void remarkMissing(std::string &remark, const GetRequest &request, const std::vector<std::string> &names) {
     for (const std::string &name : names) {
-        remark += (remark.empty() ? "not answered: " : ", ") + shownPath(request.path) + "." + name;
+        remark += (remark.empty() ? "not answered: " : ", ") + shownPath(request.path) + "." + shownName(name);
     }
 }
 

@@ -5,6 +5,7 @@
 #include "libhelper.h"
 #include "value/path.h"
 #include "value/refusal.h"
+#include "value/secret.h"
 
 #include <new>
 
@@ -58,8 +59,8 @@ void eachParam(const ObjectNode &object, Visit visit) {
             throw Refusal(CALTOFAL_UNKNOWN_PARAMETER, shownPath(object.name) + ": no parameter has a name this long");
         }
         if ((cut & kCutValue) != 0) {
-            throw Refusal(CALTOFAL_OUT_OF_RANGE,
-                          shownPath(object.name) + "." + param->name + ": the value is too long for a message");
+            throw Refusal(CALTOFAL_OUT_OF_RANGE, shownPath(object.name) + "." + shownName(param->name) +
+                                                     ": the value is too long for a message");
         }
         visit(*param);
     }

@@ -116,9 +116,9 @@ std::string ownerRemark(const MsgHeader *message) {
 std::vector<Trace::Object> Trace::objectsOf(const MsgHeader *message) {
     std::vector<Object> objects;
     for (ObjectNode *node = nullptr; hasObjects(message) && (node = caltofal_nextObject(message, node)) != nullptr;) {
-        Object &object = objects.emplace_back(Object{verbOf(*node), node->name, {}});
+        Object &object = objects.emplace_back(Object{verbOf(*node), shownName(node->name), {}});
         for (ParamNode *param = nullptr; (param = caltofal_nextParam(node, param)) != nullptr;) {
-            object.parameters.push_back({param->name, valueText(*message, *param)});
+            object.parameters.push_back({shownName(param->name), valueText(*message, *param)});
         }
     }
     return objects;

@@ -5,7 +5,6 @@
 #include "store/known_parameter.h"
 #include "store/model.h"
 #include "store/nature.h"
-#include "value/escape.h"
 #include "value/path.h"
 #include "value/refusal.h"
 #include "value/secret.h"
@@ -147,7 +146,7 @@ class Reader {
     [[noreturn]] void refuseFilters(const ObjectRow &object) const {
         for (const auto &[name, value] : request_.filters) {
             if (!isEmptyTable(object) && !isParameterOf(object, name)) {
-                throw Refusal(CALTOFAL_NO_MATCH, path_ + ": no instance has a parameter " + quotedShort(name));
+                throw Refusal(CALTOFAL_NO_MATCH, path_ + ": no instance has a parameter " + quotedName(name));
             }
         }
         throw Refusal(CALTOFAL_NO_MATCH, path_ + ": no instance has " + filterText());
@@ -187,7 +186,7 @@ class Reader {
         std::string text;
         for (const auto &[name, value] : request_.filters) {
             const bool known = isKnownParameter(database_, request_.path, name); // a slip may be a secret's
-            text += (text.empty() ? "" : " and ") + name + " = " +
+            text += (text.empty() ? "" : " and ") + shownName(name) + " = " +
                     (known ? quotedValue(name, value) : std::string(kHidden));
         }
         return text;
@@ -206,7 +205,7 @@ std::string shownPath(std::string_view path) {
     if (path.ends_with('.')) {
         path.remove_suffix(1);
     }
-    return keyOf(path) ? std::string(path) : quotedShort(path);
+    return keyOf(path) ? std::string(path) : quotedName(path);
 }
 
 std::vector<std::string> readParameters(Database &database, const GetRequest &request, const Emit &emit) {

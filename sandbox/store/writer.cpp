@@ -7,9 +7,9 @@
 #include "store/possible.h"
 #include "store/reader.h"
 #include "value/accepted_value.h"
-#include "value/escape.h"
 #include "value/path.h"
 #include "value/refusal.h"
+#include "value/secret.h"
 
 #include <algorithm>
 #include <limits>
@@ -111,7 +111,7 @@ class Writer {
         for (const auto &[name, value] : request.values) {
             const std::optional<ParameterRow> row = findParameter(database_, object, name);
             if (!row) {
-                throw Refusal(CALTOFAL_UNKNOWN_PARAMETER, path_ + ": no parameter " + quotedShort(name));
+                throw Refusal(CALTOFAL_UNKNOWN_PARAMETER, path_ + ": no parameter " + quotedName(name));
             }
             const Definition &definition = definitions_.get(row->definition);
             if (!definition.writable || isKeptCount(database_, key, name)) {

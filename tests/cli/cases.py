@@ -59,6 +59,29 @@ CONVERSIONS = [
     ("band", "5g", "fapi", "5GHz"),
 ]
 
+# Command, the begin of a last word that ends in a value, what standard error says.
+_ELSEWHERE = '"KeyPassphrase" takes no value here (did you mean caltofal set '
+_PATH = "Device.WiFi.AccessPoint.1.Security"
+_AFTER_OBJECT = f"expected NAME=VALUE after {_PATH}, or PATH=VALUE where that is a parameter"
+VALUES_NOT_SHOWN = [
+    *((command, f"{_PATH}.KeyPassphrase=", _ELSEWHERE + _PATH + ".KeyPassphrase=...?)")
+      for command in ("get", "del", "capture", "lower-layers", "dns", "host", "wifi stations")),
+    *((f"{command} {_PATH}", "KeyPassphrase=", f"{_ELSEWHERE}{_PATH} KeyPassphrase=...?)")
+      for command in ("get", "del", "capture")),
+    ("status", "KeyPassphrase=", _ELSEWHERE + "OBJECT KeyPassphrase=...?)"),
+    ("wifi ssid 1", "KeyPassphrase=", '"KeyPassphrase" takes no value here (did you mean caltofal wifi set ssid NUMBER '
+     "KeyPassphrase=...?)"),
+    ("", "KeyPassphrase=", _ELSEWHERE + "OBJECT KeyPassphrase=...?); see caltofal --help"),
+    ("mode", "--KeyPassphrase=", 'mode: "--KeyPassphrase=..." is not an option of it; see caltofal mode --help'),
+    ("set " + _PATH, "KeyPassphrase:", _AFTER_OBJECT), ("set " + _PATH, "=", _AFTER_OBJECT),
+    ("set " + _PATH, "ModeEnabled=None ", "expected NAME=VALUE after ModeEnabled=..."),
+    ("set", _PATH + " ", _AFTER_OBJECT),
+    ("set", _PATH + ".KeyPassphrase:", f'expected "=" after {_PATH}.KeyPassphrase, not ":"'),
+    ("set", "KeyPassphrase=", '"KeyPassphrase=..." stands before any object'),
+    ("wifi set ssid 1", "KeyPassphrase:", "expected NAME=VALUE after ssid 1"),
+    (f"get {_PATH} --where", "KeyPassphrase:", "expected NAME=VALUE after --where"),
+]
+
 # Gateway, command (a list where a word holds blanks), exit code, the layer's code, what standard error says.
 FAILURES = [
     ("home", "get Device.Nope", 10, -202, "Device.Nope: no such object"),
@@ -143,15 +166,14 @@ FAILURES = [
     ("home", "mode a b", 2, None, 'mode: "a" is one argument too many; see caltofal mode --help'),
     ("home", "mode --trace=x", 2, None, "mode: --trace takes no value; see caltofal mode --help"),
     ("home", "get", 2, None, "get: OBJECT is missing; see caltofal get --help"),
-    ("home", "get Device.Hosts.Host --where Active", 2, None, '"Active" is not of the form NAME=VALUE'),
+    ("home", "get Device.Hosts.Host --where Active", 2, None, "expected NAME=VALUE after --where"),
     ("home", "get Device.WiFi Device.IP --where A=b", 2, None, "--where goes with one object"),
     ("home", "get Device.WiFi --leaf --defaults", 2, None, "--defaults goes with neither --leaf nor --where"),
     ("home", "set Device.WiFi.Radio.1", 2, None, "Device.WiFi.Radio.1: nothing to set"),
-    ("home", "set Device.WiFi.Radio.1 Channel", 2, None, '"Channel" is not of the form NAME=VALUE'),
-    ("home", "set Device.WiFi.Radio.1 =6", 2, None, '"=6" names no parameter'),
-    ("home", "set Channel=3", 2, None, '"Channel=3" stands before any object'),
-    ("home", ["set", "Device.WiFi.SSID.1", "SSID=" + "x" * 1024], 2, None, 'value "' + "x" * 40 +
-     '..." has 1024 bytes: the most is 1023'),
+    *(("home", f"{command} {word}hunter2", 2, None, message)  # what it is not to show is tested too
+      for command, word, message in VALUES_NOT_SHOWN),
+    ("home", ["set", "Device.WiFi.SSID.1", "SSID=" + "x" * 1024], 2, None,
+     "SSID: the value has 1024 bytes: the most is 1023"),
     ("home", ["get", "Device." + "x" * 249], 2, None, 'object path "Device.' + "x" * 33 +
      '..." has 256 bytes: the most is 255'),
     ("home", ["get", "Device.\x1b[31m"], 10, -202, None),  # its escape must not reach the terminal

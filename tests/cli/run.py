@@ -64,6 +64,7 @@ class Failures(unittest.TestCase):
                 plain = tool.run(*words)
                 self.assertEqual((plain.code, plain.out), (code, b""), plain.err)
                 self.assertRegex(plain.err, r"^caltofal: [^\n\x1b]+\n$")
+                self.assertNotIn("hunter2", plain.err)
                 if message and code == 2 and not message.endswith("--help"):
                     typed = " ".join(words[2:])
                     noun = next(noun for noun in re.findall(r"^caltofal: ([a-z-]+(?: [a-z-]+)?): ", plain.err)

@@ -106,6 +106,20 @@ TEST_F(TraceTest, TellsWhatASuccessLeftOut) {
                            "lab set 0 ok Device.Info(Text=NULL,Text=\"\") : owner 7 is none of CaltofalOwner\n");
 }
 
+TEST_F(TraceTest, ShowsNoValueBehindAName) {
+    cal_getValue(&Message::get(kPlainGet, "Device.Info.", {"Text=secret"})->header);
+    cal_getValue(&Message::get(kPlainGet, "Device.Info.Text=secret")->header);
+    cal_setValue(&Message::set()->with("Device.Info", kSet, {{"Text:secret", "x"}}).header);
+    cal_getValue(&Message::filter("Device.Net.Host.", {{"Name=secret", "two"}})->header);
+    EXPECT_EQ(takeTrace(), "lab get 0 ok Device.Info.(Text...) : not answered: Device.Info.Text...\n"
+                           "lab get -202 absent-object Device.Info.Text... : \"Device.Info.Text...\": no such object\n"
+                           "lab set -203 unknown-parameter Device.Info(Text...=(hidden)) : "
+                           "Device.Info: no parameter \"Text...\"\n"
+                           "lab get -208 no-match Device.Net.Host.(Name...=(hidden)) : "
+                           "Device.Net.Host: no instance has a parameter \"Name...\"\n");
+    EXPECT_EQ(readFile(location("lab").logFile()).find("secret"), std::string::npos);
+}
+
 TEST_F(TraceTest, FailsNoMessage) {
     setenv("CALTOFAL_SANDBOX_TRACE", (directory + "/none/trace").c_str(), 1);
     EXPECT_EQ(valueOf("Device.Info", "Name"), "lab");

@@ -14,15 +14,18 @@
 
 namespace cli {
 
+// What "any text" is not said of has no "=" in it: a command that reads refuses what was meant for `set`.
 enum class Take {
-    Word,      // an argument
-    Optional,  // one that may be left out, but not be empty
-    MayBeAny,  // one that may be left out, and may be empty
-    Words,     // one or more
-    AnyWords,  // none or more
-    Flag,      // an option without a value
-    Option,    // with one, not empty
-    Repeatable // several times, one value each
+    Word,        // an argument
+    Text,        // one of any text
+    Optional,    // one that may be left out, but not be empty
+    MayBeAny,    // one of any text that may be left out, and may be empty
+    Words,       // one or more
+    Assignments, // one or more, NAME=VALUE among them
+    AnyWords,    // none or more
+    Flag,        // an option without a value
+    Option,      // with one, any text that is not empty
+    Repeatable   // several times, one value each
 };
 
 struct Argument {

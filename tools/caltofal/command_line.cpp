@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/command_line.h"
 
+#include "caltofal/assigned_words.h"
 #include "caltofal/print.h"
 #include "caltofal/typed_words.h"
 #include "pages/checked.h"
@@ -150,7 +151,10 @@ std::string nothingToDo(const CLI::App &command, const std::vector<std::string> 
     if (rest.empty()) {
         return "what to do is missing";
     }
-    const std::string &word = rest.front();
+    if (!isOption(rest.front()) && rest.front().find('=') != std::string::npos) {
+        return takesNoValue("", rest.front());
+    }
+    const std::string word = withoutValue(rest.front());
     const char *const ofNoun = isOption(word) ? "not an option of it" : "not a verb of it";
     return "\"" + word + "\" is " + (verb ? ofNoun : "neither a noun nor an option") +
            pages::didYouMean(word, knownTo(command, isOption(word)));
@@ -166,7 +170,10 @@ std::string faultOf(const CLI::App &app, const std::string &words, const CLI::Pa
     }
     if (dynamic_cast<const CLI::ExtrasError *>(&error) && !rest.empty()) {
         const std::string culprit = culpritOf(rest);
-        return "\"" + culprit +
+        if (!isOption(culprit) && culprit.find('=') != std::string::npos) {
+            return takesNoValue(words, culprit);
+        }
+        return "\"" + withoutValue(culprit) +
                (isOption(culprit) ? "\" is not an option of it" + pages::didYouMean(culprit, knownTo(chosen(app), true))
                                   : "\" is one argument too many");
     }
@@ -210,6 +217,7 @@ using Words = std::vector<std::string>;
 // The commands as the parser takes them, and which one was found.
 struct Parser {
     const Command *command = nullptr;
+    const CLI::App *top = nullptr;
     const CLI::App *app = nullptr;
     std::deque<Words> words; // of the arguments that take several
 
@@ -219,6 +227,7 @@ struct Parser {
             to.add_flag(argument.name, argument.what);
             break;
         case Take::Word:
+        case Take::Text:
             to.add_option(argument.name, argument.what)->required()->option_text(argument.type);
             break;
         case Take::Optional:
@@ -228,6 +237,7 @@ struct Parser {
             to.add_option(argument.name, argument.what)->option_text(argument.type);
             break;
         case Take::Words:
+        case Take::Assignments:
             to.add_option(argument.name, words.emplace_back(), argument.what)->required()->option_text(argument.type);
             break;
         case Take::AnyWords:
@@ -265,11 +275,23 @@ struct Parser {
         }
     }
 
+    // What is read is named: a word with "=" was meant for a command that writes, and must not reach the gateway.
+    void refuseValues(Take take, const Words &typed) const {
+        const bool names =
+            take == Take::Word || take == Take::Optional || take == Take::Words || take == Take::AnyWords;
+        const auto slip = std::find_if(typed.begin(), typed.end(),
+                                       [](const std::string &word) { return word.find('=') != std::string::npos; });
+        if (names && slip != typed.end()) {
+            throw Usage(takesNoValue(chosenWords(*top), *slip, {typed.begin(), slip}));
+        }
+    }
+
     [[nodiscard]] Arguments arguments() const {
         Arguments result;
         for (const Argument &argument : command->arguments) {
             const CLI::Option *option = app->get_option(argument.name);
             if (option->count() > 0) {
+                refuseValues(argument.take, option->results());
                 result.set(argument.name, option->results());
             }
         }
@@ -295,6 +317,7 @@ Task parse(const std::vector<std::string> &words, Options &options) {
     app.footer(kExitCodes);
     app.get_formatter()->column_width(26);
     Parser parser;
+    parser.top = &app;
     for (const std::span<const Command> group : commands()) {
         parser.addCommands(app, "caltofal", group);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/object_words.h"
 
+#include "caltofal/assigned_words.h"
 #include "pages/checked.h"
 #include "pages/failure.h"
 #include "pages/text.h"
@@ -11,10 +12,6 @@ using namespace pages;
 
 namespace {
 
-bool beginsObject(const std::string &word) {
-    return word.starts_with("Device.") || word.starts_with("InternetGatewayDevice.");
-}
-
 // "Device.WiFi.Radio.1.Channel=6": the object of it and the rest.
 std::pair<std::string, std::string> splitPath(const std::string &word) {
     const size_t dot = word.rfind('.', word.find('='));
@@ -23,6 +20,21 @@ std::pair<std::string, std::string> splitPath(const std::string &word) {
 
 Object &startObject(std::vector<Object> &objects, const std::string &path) {
     return objects.emplace_back(Object{checkedPath(path)});
+}
+
+// Throws Usage for "Device.WiFi.SSID.1.SSID: attic": a value behind the name, without showing it. The name of an
+// instance, in brackets, may hold any byte.
+void refuseColon(const std::string &path) {
+    const size_t end = path.find_first_of(": [");
+    if (end != std::string::npos && path[end] != '[') {
+        throw Usage("expected \"=\" after " + path.substr(0, end) + ", not " + inQuotes(path.substr(end, 1)));
+    }
+}
+
+// What stands before the next word of a change: "SSID=...", or an object, which may be meant for a parameter's path.
+std::string lastWord(const Object &object) {
+    return object.parameters.empty() ? object.name + ", or PATH=VALUE where that is a parameter"
+                                     : withoutValue(object.parameters.back().name + "=");
 }
 
 } // namespace
@@ -55,13 +67,14 @@ std::vector<Object> objectsToChange(const std::vector<std::string> &words) {
             if (objects.empty() || objects.back().name != path) {
                 startObject(objects, path);
             }
-            objects.back().parameters.push_back(assignment(rest));
+            objects.back().parameters.push_back(assigned(rest, path));
         } else if (beginsObject(word) || (objects.empty() && !assigns)) {
+            refuseColon(word);
             startObject(objects, word);
         } else if (objects.empty()) {
-            throw Usage("\"" + word + "\" stands before any object");
+            throw Usage(inQuotes(withoutValue(word)) + " stands before any object");
         } else {
-            objects.back().parameters.push_back(assignment(word));
+            objects.back().parameters.push_back(assigned(word, lastWord(objects.back())));
         }
     }
     for (const Object &object : objects) {

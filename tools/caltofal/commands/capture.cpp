@@ -67,7 +67,7 @@ const Command kCaptureCommands[] = {
      "- --dry-run\n"
      "-",
      prepareApply,
-     {{"FILE", Take::Word, "A capture, or another gateway file (no CSV or JSON); - for standard input"},
+     {{"FILE", Take::Text, "A capture, or another gateway file (no CSV or JSON); - for standard input"},
       {"--dry-run", Take::Flag, "Only tell what would be written"},
       {"--db-only", Take::Flag, "Store without applying: in force after the next start"}},
      kActs},

@@ -104,7 +104,7 @@ const Command kNetworkCommands[] = {
      "Tell what kind of address a text is",
      "192.168.1.1\nfe80::1",
      prepareAddress,
-     {{"ADDRESS", Take::Word, "The text to judge"}}},
+     {{"ADDRESS", Take::Text, "The text to judge"}}},
 };
 
 } // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "caltofal/assigned_words.h"
 #include "caltofal/commands/commands.h"
 #include "caltofal/object_words.h"
-#include "pages/checked.h"
 #include "pages/objects/pages.h"
 
 namespace cli {
@@ -17,7 +17,7 @@ Show prepareGet(const Arguments &given) {
                          .types = given.given("--types"),
                          .valuesOnly = given.given("--values")};
     for (const std::string &word : given.words("--where")) {
-        query.where.push_back(assignment(word));
+        query.where.push_back(assigned(word, "--where"));
     }
     check(query);
     return [query] { return objects::read(query); };
@@ -71,7 +71,7 @@ const Command kObjectsCommands[] = {
      "Device.WiFi.SSID.1 SSID=attic Device.WiFi.SSID.2 SSID=attic\n"
      "Device.X_ZINTU_CurrentNetwork OperationMode=4 --db-only",
      prepareChange<objects::set>,
-     {{"OBJECT", Take::Words, "An object and its new values, then more objects; also OBJECT.NAME=VALUE",
+     {{"OBJECT", Take::Assignments, "An object and its new values, then more objects; also OBJECT.NAME=VALUE",
        "NAME=VALUE..."},
       kDbOnly},
      kActs},
@@ -79,7 +79,8 @@ const Command kObjectsCommands[] = {
      "Add an instance to a table and print its name",
      "Device.DHCPv4.Server.Pool.1.StaticAddress Chaddr=02:00:00:00:00:01 Yiaddr=192.168.1.50",
      prepareChange<objects::add>,
-     {{"OBJECT", Take::Words, "A table and the new instance's values, then more tables", "[NAME=VALUE...]"}, kDbOnly},
+     {{"OBJECT", Take::Assignments, "A table and the new instance's values, then more tables", "[NAME=VALUE...]"},
+      kDbOnly},
      kActs},
     {"del",
      "Delete instances",
@@ -93,7 +94,7 @@ const Command kObjectsCommands[] = {
      prepareFind,
      {{"OBJECT", Take::Word, "A table"},
       {"FILTER", Take::Word, "The parameter to compare"},
-      {"VALUE", Take::Word, "What it must be"},
+      {"VALUE", Take::Text, "What it must be"},
       {"WANTED", Take::Word, "The parameter to read (127 characters at most are shown)"}}},
 };
 

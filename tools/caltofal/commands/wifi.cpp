@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "caltofal/assigned_words.h"
 #include "caltofal/commands/commands.h"
 #include "caltofal/terminal_wait.h"
 #include "pages/failure.h"
@@ -37,8 +38,10 @@ Show prepareSet(const Arguments &given) {
         .dryRun = given.given("--dry-run"),
         .storeOnly = given.given("--db-only"),
         .force = given.given("--force")};
+    std::string before = given.word("SUBJECT") + " " + given.word("NUMBER");
     for (const std::string &word : given.words("SETTING")) {
-        change.wanted.push_back(assignment(word));
+        change.wanted.push_back(assigned(word, before));
+        before = withoutValue(word);
     }
     return [change] { return wifi::changeSettings(change); };
 }
@@ -161,7 +164,7 @@ const Command kWifiVerbs[] = {
      prepareSet,
      {{"SUBJECT", Take::Word, "ssid or radio"},
       {"NUMBER", Take::Word, "Its instance number"},
-      {"SETTING", Take::Words, "New values, named as `wifi ssid` and `wifi radio` show them", "NAME=VALUE..."},
+      {"SETTING", Take::Assignments, "New values, named as `wifi ssid` and `wifi radio` show them", "NAME=VALUE..."},
       {"--ui", Take::Flag, "The values are in the user interface's words"},
       {"--dry-run", Take::Flag,
        "Only tell what would be written; the gateway is not asked whether it takes the values"},
@@ -232,12 +235,12 @@ const Command kWifiVerbs[] = {
      "The bytes of a text as hexadecimal digits, and back",
      "VOLA\n564f4c41 --decode",
      prepareHex,
-     {{"TEXT", Take::Word, "Any text"}, {"--decode", Take::Flag, "TEXT is hexadecimal: print its bytes"}}},
+     {{"TEXT", Take::Text, "Any text"}, {"--decode", Take::Flag, "TEXT is hexadecimal: print its bytes"}}},
     {"escape",
      "A text as it stands in a UCI command line of the shell",
      "O'Brien",
      prepareEscape,
-     {{"TEXT", Take::Word, "Any text"}}},
+     {{"TEXT", Take::Text, "Any text"}}},
     {"clear-confs",
      "Empty the directory of the generated Wi-Fi configuration",
      "",

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// "NAME=VALUE" as it is typed, and slips in it. The value may be a secret that the tool does not know for one, so that
+// no message shows what stands behind a name.
+#pragma once
+
+#include "pages/layer/query.h"
+
+#include <string>
+#include <vector>
+
+namespace cli {
+
+// Whether a word is an object's path, or begins with one.
+bool beginsObject(const std::string &word);
+
+// "KeyPassphrase=..." of a word with "=", any other word as it is.
+std::string withoutValue(const std::string &word);
+
+// A word of the form NAME=VALUE. `before` is what stands before it on the command line. Throws Usage.
+pages::Parameter assigned(const std::string &word, const std::string &before);
+
+// What is wrong with a word that has "=" where none is taken, and how to set the parameter. `command` is the noun, and
+// the verb where it has some, "" for none; `before` are the words before this one.
+std::string takesNoValue(const std::string &command, const std::string &word,
+                         const std::vector<std::string> &before = {});
+
+} // namespace cli
