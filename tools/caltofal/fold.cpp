@@ -104,6 +104,19 @@ size_t displayWidth(const std::string &text) {
     return width < 0 ? text.size() : static_cast<size_t>(width);
 }
 
+std::string foldedText(const std::string &text, size_t width) {
+    const size_t indent = displayWidth(kContinuation);
+    if (width <= indent || displayWidth(text) <= width) {
+        return text;
+    }
+    std::string result;
+    for (const std::string &piece : piecesOf(text, width - indent)) {
+        result += (result.empty() ? "" : "\n" + std::string(kContinuation)) +
+                  piece.substr(0, piece.find_last_not_of(' ') + 1);
+    }
+    return result;
+}
+
 size_t gapFor(const pages::Table &table, size_t width) {
     const std::vector<size_t> widths = widthsOf(table);
     return lineWidth(widths, kGap) > width && lineWidth(widths, 1) <= width ? 1 : kGap;

@@ -13,6 +13,9 @@ namespace cli {
 
 size_t displayWidth(const std::string &text);
 
+// A text broken at blanks and commas into lines of that width, 0 for any, the lines after the first one indented.
+std::string foldedText(const std::string &text, size_t width);
+
 // The blanks between two columns: one where the table is too wide with two.
 size_t gapFor(const pages::Table &table, size_t width);
 

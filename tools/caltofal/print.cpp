@@ -20,7 +20,8 @@ using namespace pages;
 
 namespace {
 
-constexpr int kNoteIndent = 2;
+constexpr int kJsonIndent = 2;
+constexpr const char *kProgram = "caltofal: ";
 
 bool colourWanted() {
     const char *noColour = getenv("NO_COLOR");
@@ -91,30 +92,31 @@ std::string linesOf(const Report &report, const Form &form, int indent) {
 }
 
 void print(const Report &report, const Form &form) {
-    std::cout << linesOf(report, form, kNoteIndent);
+    std::cout << linesOf(report, form, kJsonIndent);
     flushOutput();
     std::cerr << notesOf(report, form);
 }
 
 std::string notesOf(const Report &report, const Form &form) {
-    std::string lines;
-    for (const std::string &note : report.notes) {
-        lines += "caltofal: " + printable(note) + "\n";
-    }
+    std::vector<std::string> notes = report.notes;
     const bool chosen = form.json || form.terse || !form.columns.empty();
     if (const auto left = chosen ? std::vector<std::string>() : withoutRoom(report.table, {.width = screen().columns});
         !left.empty()) {
-        lines += "caltofal: no room for " + joined(left) + ": --columns shows them, and so does a wider terminal\n";
+        notes.push_back("no room for " + joined(left) + ": --columns shows them, and so does a wider terminal");
+    }
+    std::string lines;
+    for (const std::string &note : notes) {
+        lines += foldedText(kProgram + printable(note), screen(STDERR_FILENO).columns) + "\n";
     }
     return lines;
 }
 
+std::string errorLine(const Failure &failure, bool json) {
+    return (json ? toJson(errorValue(failure)) : kProgram + printable(failure.what())) + "\n";
+}
+
 void printError(const Failure &failure, bool json) {
-    if (json) {
-        std::cerr << toJson(errorValue(failure)) << '\n';
-    } else {
-        std::cerr << "caltofal: " << printable(failure.what()) << '\n';
-    }
+    std::cerr << errorLine(failure, json);
 }
 
 } // namespace cli

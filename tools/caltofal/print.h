@@ -29,6 +29,8 @@ void print(const pages::Report &report, const Form &form);
 // Lines for standard error, also of columns for which the terminal has no room.
 std::string notesOf(const pages::Report &report, const Form &form);
 
+// The line for standard error that says what failed.
+std::string errorLine(const pages::Failure &failure, bool json);
 void printError(const pages::Failure &failure, bool json);
 
 } // namespace cli

@@ -21,9 +21,9 @@ bool canMoveCursor() {
 
 } // namespace
 
-Screen screen() {
+Screen screen(int stream) {
     winsize size{};
-    const bool known = isatty(STDOUT_FILENO) == 1 && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0;
+    const bool known = isatty(stream) == 1 && ioctl(stream, TIOCGWINSZ, &size) == 0;
     return known ? Screen{size.ws_col, size.ws_row} : Screen();
 }
 

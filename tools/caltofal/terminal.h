@@ -7,11 +7,11 @@
 
 namespace cli {
 
-// Of the terminal that standard output is; 0 where it is none.
+// Of the terminal that a stream is; 0 where it is none.
 struct Screen {
     size_t columns = 0, rows = 0;
 };
-Screen screen();
+Screen screen(int stream = 1); // standard output
 
 // Writes all of it; what cannot be written is lost.
 void writeAll(int descriptor, std::string_view text);
