@@ -5,7 +5,6 @@ caltofal-sandbox, by which requests are made to fail."""
 import json
 import os
 import re
-import signal
 import subprocess
 import sys
 import tempfile
@@ -15,7 +14,7 @@ sys.dont_write_bytecode = True
 
 from cases import BOX_PAGES, BOX_VERBS, CONVERSIONS, FAILURES, PAGES
 from expect import check_examples, check_pages, every_page, write_pages
-from tool import HERE, Tool, expected_file, interrupted
+from tool import HERE, Tool, expected_file
 
 tool = Tool(sys.argv[1], sys.argv[2])
 
@@ -569,13 +568,6 @@ class Words(unittest.TestCase):
         self.assertTrue([line for line in lines if line.startswith("    ") and "WPA3-Personal-Transition" in line])
         lines = tool.on_terminal("wifi", "ssid", "1", NO_COLOR="1", columns=80).decode().splitlines()
         self.assertNotIn("", [line.strip() for line in lines], "an empty cell needs no line of its own")
-
-    def test_watch_shows_a_page_again_until_the_key(self):
-        folder = tool.folder()
-        shown = interrupted(tool, ["mode", "--json", "--watch", "1"], signal.SIGINT, 1.6, folder)
-        self.assertEqual((shown.code, shown.err), (0, ""))
-        self.assertEqual(shown.out, b'{"mode":4,"router":true,"wifi_wan":false}\n' * 2)
-        self.assertEqual(interrupted(tool, ["mode", "--watch"], signal.SIGTERM, 0.5, folder).code, 143)
 
     def test_common_options_stand_anywhere(self):
         self.assertEqual(tool.run("mode", "-g", "bridge", "--json").out, tool.run("--json", "-g", "bridge", "mode").out)

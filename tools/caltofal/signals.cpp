@@ -8,6 +8,7 @@
 #include <array>
 #include <csignal>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 namespace cli {
@@ -68,12 +69,27 @@ void watchSignals(bool json) {
     holdSignals(false);
 }
 
-void deferSignals(bool defer) {
+bool deferSignals(bool defer) {
+    const bool before = deferred != 0;
     deferred = defer ? 1 : 0;
+    return before;
 }
 
 int notedSignal() {
     return came;
+}
+
+// A signal between the look and the sleep waits for the sleep, and ends it.
+void sleepUntilSignal(std::chrono::nanoseconds time) {
+    constexpr std::chrono::seconds kSecond{1};
+    const sigset_t set = watched();
+    sigset_t before;
+    sigprocmask(SIG_BLOCK, &set, &before);
+    if (came == 0) {
+        const timespec span = {time / kSecond, static_cast<long>((time % kSecond).count())};
+        ppoll(nullptr, 0, &span, &before);
+    }
+    sigprocmask(SIG_SETMASK, &before, nullptr);
 }
 
 void holdSignals(bool hold) {

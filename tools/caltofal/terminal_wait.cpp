@@ -3,44 +3,36 @@
 
 #include "caltofal/signals.h"
 
-#include <algorithm>
-#include <ctime>
-
 namespace cli {
-namespace {
-
-using std::chrono::milliseconds;
-using std::chrono::steady_clock;
-
-constexpr milliseconds kTick{200};
-
-} // namespace
 
 TerminalWait::~TerminalWait() {
-    deferSignals(false);
+    if (begun_) {
+        deferSignals(deferredBefore_);
+    }
 }
 
 void TerminalWait::begin() {
-    deferSignals(true);
+    if (!begun_) {
+        deferredBefore_ = deferSignals(true);
+        begun_ = true;
+    }
 }
 
 bool TerminalWait::cancelled() {
     return notedSignal() != 0;
 }
 
-// In slices, as a signal may come just before one.
-bool TerminalWait::pause(milliseconds time) {
-    const steady_clock::time_point end = steady_clock::now() + time;
-    while (!cancelled() && steady_clock::now() < end) {
-        const auto left = std::min<steady_clock::duration>(kTick, end - steady_clock::now());
-        const auto nanoseconds = std::max<int64_t>(0, std::chrono::nanoseconds(left).count());
-        const timespec slice = {0, static_cast<long>(nanoseconds)};
-        nanosleep(&slice, nullptr);
+bool TerminalWait::pause(std::chrono::milliseconds time) {
+    using Clock = std::chrono::steady_clock;
+    const Clock::time_point end = Clock::now() + time;
+    for (Clock::time_point now = Clock::now(); !cancelled() && now < end; now = Clock::now()) {
+        sleepUntilSignal(end - now);
     }
     return !cancelled();
 }
 
-void TerminalWait::progress(const std::string &what, milliseconds gone, milliseconds /*most*/) {
+void TerminalWait::progress(const std::string &what, std::chrono::milliseconds gone,
+                            std::chrono::milliseconds /*most*/) {
     line_.show(what + ": " + std::to_string(gone / std::chrono::seconds(1)) + " s");
 }
 

@@ -19,6 +19,8 @@ class TerminalWait : public pages::Wait {
 
   private:
     Progress line_;
+    bool deferredBefore_ = false; // by another wait around this one
+    bool begun_ = false;
 };
 
 } // namespace cli

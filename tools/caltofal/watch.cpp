@@ -60,26 +60,45 @@ std::string inPlace(const std::string &lines, const std::string &notes) {
     return result + kClearBelow;
 }
 
-void show(const pages::Report &report, const Form &form) {
-    const bool terminal = !form.json && isatty(STDOUT_FILENO) == 1;
-    const std::string lines = linesOf(report, form, -1);
-    const std::string notes = notesOf(report, form);
-    std::cout << (terminal ? inPlace(lines, notes) : lines);
-    flushOutput();
-    std::cerr << notes;
-}
+// What was shown last: the page stays on the screen while it cannot be had.
+class Display {
+  public:
+    explicit Display(const Form &form) : form_(form), terminal_(!form.json && isatty(STDOUT_FILENO) == 1) {}
+
+    void show(const pages::Report &report) {
+        lines_ = linesOf(report, form_, -1);
+        write(lines_, notesOf(report, form_));
+    }
+
+    void show(const pages::Failure &failure) const { write(terminal_ ? lines_ : "", errorLine(failure, form_.json)); }
+
+  private:
+    void write(const std::string &lines, const std::string &notes) const {
+        std::cout << (terminal_ ? inPlace(lines, notes) : lines);
+        flushOutput();
+        std::cerr << notes;
+    }
+
+    const Form &form_;
+    bool terminal_;
+    std::string lines_;
+};
 
 } // namespace
 
 void watch(const std::function<pages::Report()> &page, const Form &form, std::chrono::seconds interval) {
-    show(page(), form);
+    const pages::Report first = page();
     TerminalWait wait;
-    wait.begin();
+    wait.begin(); // whoever sees the page may end it
+    Display display(form);
+    display.show(first);
     while (wait.pause(interval)) {
         try {
-            show(page(), form);
+            display.show(page());
         } catch (const pages::Failure &failure) {
-            printError(failure, form.json);
+            if (!wait.cancelled()) { // else the key has ended what the page waited for
+                display.show(failure);
+            }
         }
     }
     if (notedSignal() != SIGINT) {
