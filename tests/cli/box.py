@@ -72,6 +72,15 @@ class Box(unittest.TestCase):
         result = self.run_tool("-g", "nameless", "wifi", "endpoint")
         self.assertEqual((result.code, result.err), (10, "caltofal: end point 1 names no interface\n"))
 
+    def test_one_end_point_is_enough(self):
+        tool.less("repeater", ["Device.WiFi.EndPoint.2"], self.folder)
+        result = self.run_tool("-g", "less", "wifi", "endpoint")
+        self.assertEqual((result.code, result.err), (0, ""))
+        self.assertEqual(result.out, self.run_tool("-g", "repeater", "wifi", "endpoint").out)
+        tool.less("repeater", ["Device.WiFi.SSID.17"], self.folder)
+        self.assertRegex(self.run_tool("-g", "less", "wifi", "endpoint").err,
+                         r"end point 1 names no interface; the gateway lacks Device\.WiFi\.SSID\.17; ")
+
     def test_a_scan_ends_when_its_result_is_there(self):
         start = time.monotonic()
         self.assertEqual(self.run_tool("wifi", "scan", "wlan0", CALTOFAL_BOX_SCAN_MS="500").code, 0)

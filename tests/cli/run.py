@@ -12,7 +12,7 @@ import unittest
 
 sys.dont_write_bytecode = True
 
-from cases import BOX_PAGES, BOX_VERBS, CONVERSIONS, FAILURES, PAGES
+from cases import BOX_PAGES, BOX_VERBS, CONVERSIONS, FAILURES, LESS, PAGES
 from expect import check_examples, check_pages, every_page, write_pages
 from tool import HERE, Tool, expected_file
 
@@ -354,11 +354,6 @@ class FailedRequests(unittest.TestCase):
             self.assert_fails(page, 10, reason)
         self.assertEqual(tool.run("status", folder=self.folder).out.decode().count(f" ({reason})\n"), 2)
 
-    def test_status_tells_what_a_page_lacks_of_what_there_is(self):
-        self.make_fail("Device.DSL.Channel", "absent-object")
-        self.assertRegex(tool.run("status", folder=self.folder).out.decode(),
-                         r"\nDSL +\(request on Device.DSL.Channel.1 failed: ")
-
     def test_a_read_parameter_leaves_no_refusal(self):
         self.assertEqual(tool.run("get", "Device.WiFi.Radio.1.Channel", folder=self.folder).code, 0)
         self.assertFalse(os.path.exists(os.path.join(self.folder, "home.log")))
@@ -404,17 +399,39 @@ class Lacking(unittest.TestCase):
     def run_tool(self, *words):
         return tool.run(*words, folder=self.folder)
 
+    def test_pages_without_an_object_show_the_others_and_name_it(self):
+        for gateway, objects, page, lines, named in LESS:
+            with self.subTest(f"{page} of {gateway} without {objects}"):
+                tool.less(gateway, objects.split(), self.folder)
+                result = self.run_tool(*page.split(), "-g", "less")
+                text = re.sub(" +", " ", result.out.decode())
+                for line in lines:
+                    self.assertIn(f"\n{line}\n", "\n" + text)
+                kept = ("; what they tell" if ", " in named else "; what it tells") + " is missing here\n"
+                self.assertEqual((result.code, result.err), (0, named and f"caltofal: the gateway lacks {named}{kept}"))
+
+    def test_a_page_asks_for_nothing_twice_where_nothing_is_missing(self):
+        asked = re.findall(r"^\[request\] get (\S+) -> 0$", self.run_tool("wan", "--trace").err, re.M)
+        self.assertEqual((len(asked), len(set(asked))), (12, 11), "two of its pieces ask for the current network")
+
     def test_one_half_of_the_lan_is_shown_without_the_other(self):
-        self.without("Device.DHCPv4.Server.Pool.1")
+        self.without("Device.IP.Interface.1.IPv4Address", "Device.DHCPv4", "Device.Ethernet")
         result = self.run_tool("lan", "--json")
         self.assertEqual((result.code, list(json.loads(result.out))), (0, ["ipv6"]))
         self.assertIn("DHCPv4.Server.Pool.1", result.err)
         self.assertEqual(self.run_tool("lan", "--ipv4").code, 10)
-        self.without("Device.IPv6")
+        self.without("Device.IP", "Device.IPv6", "Device.RouterAdvertisement", "Device.DHCPv6")
         result = self.run_tool("lan")
         self.assertEqual((result.code, result.out), (10, b""))
-        self.assertRegex(result.err, r"^caltofal: request on [^;]*: fault 1 hit Device\.DHCPv4\.Server\.Pool\.1; "
-                                     r"request on [^;]*: fault 2 hit Device\.IPv6\n$")
+        self.assertRegex(result.err, r"^caltofal: request on [^;]*: fault 1 hit Device\.IP\.Interface\.1\.IPv4Address; "
+                                     r"request on [^;]*: fault 4 hit Device\.IP\n$")
+
+    def test_what_fails_beside_a_missing_object_is_still_told(self):
+        self.without("Device.DHCPv4")
+        tool.sandbox("fault", "add", "Device.Ethernet.Interface", "--code", "store-busy", folder=self.folder)
+        result = self.run_tool("lan", "--ipv4")
+        self.assertEqual((result.code, result.out), (4, b""))
+        self.assertIn("Device.Ethernet.Interface.1 failed: fault 2 hit", result.err)
 
     def test_a_flag_in_other_words_is_not_taken_for_a_no(self):
         states = {"True": True, "FALSE": False, "1": True, "enabled": None, "": None}
@@ -516,7 +533,9 @@ class Words(unittest.TestCase):
         self.assertEqual(lines[:2], ["[request] get Device.DSL.Line.1 -> -202 (Device.DSL.Line.1: no such object)",
                                      "[stderr] Get test failure"])
         self.assertRegex(lines[2], r"^\[console\] \[ZintuGet_LineInfo : \d+\] \(-1\)faltocal_SendMultiObj is Failure")
-        self.assertEqual(lines[3:], ["caltofal: request on Device.DSL.Line.1 failed: no such object"])
+        self.assertEqual(lines[3], lines[0], "once more, for what else there is")
+        self.assertIn("[request] get Device.DSL.Channel.1 -> -202 (Device.DSL.Channel.1: no such object)", lines)
+        self.assertEqual(lines[-1], "caltofal: request on Device.DSL.Line.1 failed: no such object")
 
     def test_colour_is_for_terminals_only(self):
         self.assertIn(b"\x1b[", tool.on_terminal("status"))

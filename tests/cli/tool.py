@@ -62,6 +62,18 @@ class Tool:
         subprocess.run([self.sandbox_executable, "import", name, path, "--replace"], env=self.environment(folder),
                        stderr=subprocess.DEVNULL, timeout=60, check=True)
 
+    def less(self, gateway, objects, folder):
+        """The gateway `less`: another one without these objects and all below them."""
+        lines = self.sandbox("export", "--format", "csv", gateway, folder=folder).splitlines(keepends=True)
+        path = os.path.join(folder, "less.csv")
+        with open(path, "wb") as file:
+            file.writelines(line for line in lines
+                            if not any(re.match(re.escape(one.encode()) + b"[.,]", line) for one in objects))
+        subprocess.run([self.sandbox_executable, "remove", "less"], env=self.environment(folder), check=False,
+                       stderr=subprocess.DEVNULL)
+        subprocess.run([self.sandbox_executable, "import", "less", path], env=self.environment(folder), check=True,
+                       stderr=subprocess.DEVNULL)
+
     def on_terminal(self, *words, columns=200, rows=50, folder=None, until=None, **variables):
         """What the tool writes when its standard output is a terminal of that size; with `folder` words too. The
         interrupt key comes where it has written `until`."""

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "pages/failure.h"
+#include "pages/layer/request_log.h"
 
 #include <functional>
 #include <initializer_list>
@@ -41,11 +42,18 @@ class HiddenFailures {
     std::vector<std::string> notes_;
 };
 
+// A refused request as the reason why a page cannot be shown.
+Failure failureOf(const Request &request);
+
 // What `call` answers; throws a Failure when it is negative and not tolerated, or when
 // no request was answered, for another reason than that the gateway lacks something.
 int ask(const std::function<int()> &call, const Expectation &expectation);
 
-// Likewise for a function that hides a failed request behind what it found until then: each of its requests counts.
+// For a function that hides a failed request behind what it found until then: a call that answers -1 where one of its
+// requests failed.
+std::function<int()> strictly(const std::function<int()> &call);
+
+// What such a call answers; throws as ask() does.
 int askEvery(const std::function<int()> &call);
 
 } // namespace pages

@@ -7,12 +7,16 @@
 #include "caltofal.h"
 #include "pages/layer/code.h"
 #include "pages/layer/left_messages.h"
+#include "pages/layer/message.h"
+#include "pages/layer/partial_answer.h"
 #include "pages/process/output.h"
 #include "pages/secret.h"
 #include "pages/text.h"
 
 #include <cstring>
 #include <dlfcn.h>
+
+extern "C" int cal_getValue(MsgHeader *message);
 
 namespace pages {
 namespace {
@@ -26,7 +30,7 @@ auto findReason() {
     return reinterpret_cast<const char *(*)()>(dlsym(RTLD_DEFAULT, "cal_sandboxReason"));
 }
 
-std::vector<std::string> objectsOf(const MsgHeader *message) {
+std::vector<std::string> namesOf(const MsgHeader *message) {
     std::vector<std::string> names;
     const bool ofValues = (message->listFlags & CALTOFAL_VALUE_KINDS) != 0;
     if (!ofValues) {
@@ -62,7 +66,9 @@ int passOn(const char *function, const char *verb, MsgHeader *message) {
     if (!call) {
         return CALTOFAL_NO_GATEWAY;
     }
-    Request request{verb, objectsOf(message), 0, {}};
+    Request request{verb, namesOf(message), 0, {}};
+    const bool inPart = PartialAnswers::areWanted() && message->mainOper == CALTOFAL_OPER_GET;
+    const std::vector<Object> asked = inPart ? objectsOf(*message) : std::vector<Object>();
     noteSecrets(message);
     request.code = call(message);
     noteSecrets(message);
@@ -73,6 +79,10 @@ int passOn(const char *function, const char *verb, MsgHeader *message) {
     }
     trace(request);
     RequestLog::note(request);
+    if (request.code == CALTOFAL_ABSENT_OBJECT && !asked.empty()) {
+        request.code = answerInPart(message, asked, cal_getValue);
+        LeftMessages::note(*message);
+    }
     return request.code;
 }
 

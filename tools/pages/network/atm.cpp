@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "caltofal.h"
-#include "pages/layer/call.h"
+#include "pages/layer/lacking.h"
 #include "pages/network/pages.h"
 
 namespace pages {
@@ -9,12 +9,15 @@ namespace pages {
 Page atm() {
     ZintuWanInfo info{};
     untouch(info.nAtmVpi, info.nAtmVci);
-    ask([&] { return ZintuGet_AtmInfo(&info); }, {"no ATM link"});
-    return pageOf({
+    Lacking lacking;
+    lacking.ask([&] { return ZintuGet_AtmInfo(&info); }, {"no ATM link"});
+    Page page = pageOf({
         {"vpi", "VPI", number(info.nAtmVpi)},
         {"vci", "VCI", number(info.nAtmVci)},
         {"qos_class", "QoS class", text(info.sAtmQoSClass)},
     });
+    lacking.tell(page.notes);
+    return page;
 }
 
 } // namespace pages

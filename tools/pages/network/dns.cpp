@@ -2,7 +2,7 @@
 
 #include "caltofal.h"
 #include "pages/checked.h"
-#include "pages/layer/call.h"
+#include "pages/layer/lacking.h"
 #include "pages/network/current.h"
 #include "pages/network/pages.h"
 
@@ -10,7 +10,6 @@ namespace pages {
 namespace {
 
 constexpr size_t kAddressSize = 16;
-constexpr const char *kServers = "Device.DNS.Client.Server";
 
 } // namespace
 
@@ -21,12 +20,17 @@ Page dns(const std::string &given) {
     }
     char used1[kAddressSize] = "";
     char used2[kAddressSize] = "";
-    ask([&] { return ZintuGet_WanDns(interface.c_str(), used1, used2); }, {interface + ": no DNS servers", {kServers}});
+    Lacking lacking;
+    lacking.ask([&] { return ZintuGet_WanDns(interface.c_str(), used1, used2); },
+                {interface + ": no DNS servers", {kNameServers}});
     int32_t automatic = kUntouched;
     char static1[kAddressSize] = "";
     char static2[kAddressSize] = "";
-    ask([&] { return ZintuGet_WanStaticDns(interface.c_str(), &automatic, static1, static2); },
-        {interface + ": no static DNS servers"});
+    lacking.ask([&] { return ZintuGet_WanStaticDns(interface.c_str(), &automatic, static1, static2); },
+                {interface + ": no static DNS servers"});
+    if (lacking.has(kNameServers)) {
+        untouch(automatic); // the library takes its absence for a table that is empty
+    }
     std::vector<std::string> notes;
     Page page{{
         {"",
@@ -42,7 +46,15 @@ Page dns(const std::string &given) {
          {{"dns1", "Server 1", server(text(static1), notes)}, {"dns2", "Server 2", server(text(static2), notes)}}},
     }};
     page.notes = notes;
+    needNoDhcpClient(lacking, text(used1));
+    lacking.tell(page.notes);
     return page;
+}
+
+void needNoDhcpClient(Lacking &lacking, const std::string &found) {
+    if (!found.empty() && found != "0.0.0.0") {
+        lacking.needNot("Device.DHCPv4.Client");
+    }
 }
 
 Value server(const std::string &text, std::vector<std::string> &notes) {

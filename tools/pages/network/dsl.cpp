@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 
 #include "caltofal.h"
-#include "pages/layer/call.h"
+#include "pages/layer/lacking.h"
 #include "pages/network/pages.h"
 
 namespace pages {
 namespace {
 
-Value dslModes() {
+Value dslModes(Lacking &lacking) {
     int32_t flags[10] = {};
-    ask([&] { return ZintuGet_DslMode(flags); }, {"no DSL modes"});
-    Value names = Value::list();
+    lacking.ask([&] { return ZintuGet_DslMode(flags); }, {"no DSL modes"});
+    Value names = lacking.has("Device.DSL.X_LANTIQ_COM_Config") ? Value() : Value::list();
     for (size_t i = 0; i < std::size(flags); ++i) {
         if (flags[i] != 0) {
             names.push(DEF_DSL_MODE[i]);
@@ -34,14 +34,15 @@ Page dsl() {
     ZintuDslLineInfo line{};
     untouch(line.nUpstreamCurrRate, line.nDownstreamCurrRate, line.nUpstreamMaxBitRate, line.nDownstreamMaxBitRate,
             line.nUpstreamNoiseMargin, line.nDownstreamNoiseMargin, line.nXTURCRCErrors, line.nXTUCCRCErrors);
-    ask([&] { return ZintuGet_LineInfo(&line); }, {"no DSL line"});
-    return {{
+    Lacking lacking;
+    lacking.ask([&] { return ZintuGet_LineInfo(&line); }, {"no DSL line"});
+    Page page{{
         {"",
          "",
          {
              {"status", "Status", text(line.sStatus)},
              {"profile", "Profile", text(line.sCurrentProfile)},
-             {"modes", "Modes enabled", dslModes()},
+             {"modes", "Modes enabled", dslModes(lacking)},
          }},
         {"downstream", "Downstream",
          direction(line.nDownstreamCurrRate, line.nDownstreamMaxBitRate, line.nDownstreamNoiseMargin,
@@ -55,6 +56,8 @@ Page dsl() {
              {"exchange", "Seen by the exchange", number(line.nXTUCCRCErrors)},
          }},
     }};
+    lacking.tell(page.notes);
+    return page;
 }
 
 } // namespace pages

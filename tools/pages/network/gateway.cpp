@@ -12,7 +12,6 @@ namespace pages {
 namespace {
 
 constexpr size_t kSectionSize = 128;
-constexpr const char *kConnections = "Device.X_LANTIQ_COM_NwHardware.WANConnection";
 
 ZintuWanInfo defaultGateway() {
     ZintuWanInfo info{};
@@ -40,7 +39,7 @@ Value sectionOfDefaultGateway(std::vector<std::string> &notes) {
 
 std::vector<std::string> modeWords() {
     std::vector<std::string> result;
-    for (const Object &connection : get({{kConnections, {{"ConnMode"}}}}, Reading::Whole)) {
+    for (const Object &connection : get({{kWanConnections, {{"ConnMode"}}}}, Reading::Whole)) {
         const std::string mode = valueOf(connection, "ConnMode");
         if (!mode.empty() && std::find(result.begin(), result.end(), mode) == result.end()) {
             result.push_back(mode);
@@ -65,7 +64,7 @@ Report uciSectionOfMode(const std::string &mode) {
     if (std::find(known.begin(), known.end(), mode) == known.end()) {
         throw Failure(Category::Absent,
                       "no WAN connection has the mode " + inQuotes(mode) + "; there are " + joined(known),
-                      kConnections);
+                      kWanConnections);
     }
     char section[kSectionSize] = "";
     ask([&] { return ZintuGet_UciSectionByConnMode(mode.c_str(), section); },

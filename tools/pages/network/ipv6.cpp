@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "caltofal.h"
-#include "pages/layer/call.h"
+#include "pages/layer/lacking.h"
 #include "pages/layer/left_messages.h"
 #include "pages/network/current.h"
 #include "pages/network/pages.h"
@@ -30,9 +30,9 @@ Page ipv6() {
     interface.copy(info.sWanIpInterface, sizeof(info.sWanIpInterface) - 1);
     info.nWanIpIfIndex = indexOf(interface);
     const LeftMessages left;
-    const int forwarding = ask([&] { return ZintuGet_WanIPv6(&info); },
-                               {"no IPv6 forwarding", {"Device.Routing."}, CALTOFAL_ABSENT_OBJECT});
-    const int delegation = ask(ZintuGet_IPv6PD, {"no prefix delegation"});
+    Lacking lacking;
+    lacking.ask([&] { return ZintuGet_WanIPv6(&info); }, {"no IPv6 forwarding", {"Device.Routing."}});
+    const int delegation = lacking.ask(ZintuGet_IPv6PD, {"no prefix delegation"});
     Page page = pageOf({
         {"interface", "Interface", interface},
         {"enabled", "Enabled", flag(info.bIpv6Enable)},
@@ -41,9 +41,7 @@ Page ipv6() {
         {"next_hop", "Next hop", text(info.sIpv6NextHop)},
         {"prefix_delegation", "Prefix delegation", flag(delegation)},
     });
-    if (forwarding != 0) {
-        page.notes.push_back("no IPv6 forwarding entry for " + interface);
-    }
+    lacking.tell(page.notes);
     return page;
 }
 

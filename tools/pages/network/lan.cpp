@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "caltofal.h"
-#include "pages/layer/call.h"
+#include "pages/layer/lacking.h"
 #include "pages/network/pages.h"
 
 #include <optional>
@@ -9,11 +9,15 @@
 namespace pages {
 namespace {
 
-Section ipv4Section() {
+constexpr const char *kIpv6Address = "Device.IP.Interface.1.IPv6Address.1";
+
+Section ipv4Section(std::vector<std::string> &notes) {
     LANv4Info lan{};
     lan.bDHCPv4Active = kUntouchedFlag;
     untouch(lan.nLeaseTimeSec);
-    ask([&] { return ZintuGet_LANv4Info(&lan); }, {"no LAN"});
+    Lacking lacking;
+    lacking.ask([&] { return ZintuGet_LANv4Info(&lan); }, {"no LAN"});
+    lacking.tell(notes);
     return {"ipv4",
             "IPv4",
             {
@@ -27,12 +31,24 @@ Section ipv4Section() {
             }};
 }
 
-Section ipv6Section() {
+// Where no address is told the library makes one of the manual prefix.
+void clearMadeAddress(LANv6Info &lan, const Lacking &lacking) {
+    const bool ofNothing = lan.sManualPrefix[0] == '\0' && text(lan.sIPv6Address) == "1";
+    if (lacking.has(kIpv6Address) || ofNothing) {
+        lan.sIPv6Address[0] = '\0';
+        untouch(lan.nPrefixLength);
+    }
+}
+
+Section ipv6Section(std::vector<std::string> &notes) {
     LANv6Info lan{};
     lan.bIPv6Active = kUntouchedFlag;
     lan.bPDActive = kUntouchedFlag;
     untouch(lan.nPrefixLength, lan.nLeaseTimeSec, lan.nManualPrefixLength);
-    ask([&] { return ZintuGet_LANv6Info(&lan); }, {"no LAN"});
+    Lacking lacking;
+    lacking.ask([&] { return ZintuGet_LANv6Info(&lan); }, {"no LAN"});
+    lacking.tell(notes);
+    clearMadeAddress(lan, lacking);
     return {"ipv6",
             "IPv6",
             {
@@ -65,9 +81,9 @@ Section ipv6Section() {
 }
 
 // A half that the gateway does not have is told in a note.
-void addHalf(Page &page, Section (*half)(), std::optional<Failure> &missing) {
+void addHalf(Page &page, Section (*half)(std::vector<std::string> &notes), std::optional<Failure> &missing) {
     try {
-        page.sections.push_back(half());
+        page.sections.push_back(half(page.notes));
     } catch (const Failure &failure) {
         if (failure.category() != Category::Absent) {
             throw;
@@ -83,10 +99,11 @@ void addHalf(Page &page, Section (*half)(), std::optional<Failure> &missing) {
 } // namespace
 
 Page lan(LanPart part) {
-    if (part != LanPart::Both) {
-        return {{part == LanPart::Ipv4 ? ipv4Section() : ipv6Section()}};
-    }
     Page page;
+    if (part != LanPart::Both) {
+        page.sections.push_back((part == LanPart::Ipv4 ? ipv4Section : ipv6Section)(page.notes));
+        return page;
+    }
     std::optional<Failure> missing;
     addHalf(page, ipv4Section, missing);
     addHalf(page, ipv6Section, missing);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "caltofal.h"
-#include "pages/layer/call.h"
+#include "pages/layer/lacking.h"
+#include "pages/network/current.h"
 #include "pages/network/pages.h"
 
 namespace pages {
@@ -13,9 +14,9 @@ Value kindOf(int32_t type) {
     switch (type) {
     case kUntouched:
         return {};
-    case 0:
+    case CALTOFAL_WAN_ETHERNET:
         return "ethernet";
-    case 2:
+    case CALTOFAL_WAN_TETHERED:
         return "tethered";
     default:
         return "other";
@@ -29,10 +30,12 @@ Value sharingOf(int32_t failOver) {
     return failOver != 0 ? "fail-over" : "load balancing";
 }
 
-std::vector<Field> connection(const char (&interface)[128], int32_t type) {
+// The library takes a connection whose mode it cannot look up for one of another kind.
+std::vector<Field> connection(const char (&interface)[128], int32_t type, const Lacking &lacking) {
+    const bool isOther = text(interface).starts_with("w901") || !lacking.has(kWanConnections);
     return {
         {"interface", "Interface", text(interface)},
-        {"kind", "Kind", kindOf(type)},
+        {"kind", "Kind", kindOf(type == CALTOFAL_WAN_OTHER && !isOther ? kUntouched : type)},
     };
 }
 
@@ -41,17 +44,20 @@ std::vector<Field> connection(const char (&interface)[128], int32_t type) {
 Page multiWan() {
     ZintuMultiWanInfo info{};
     untouch(info.nFailOver, info.nWan1Type, info.nWan2Type);
-    ask([&] { return ZintuGet_MultiWanInfo(&info); }, {"no multi-WAN"});
-    return {{
+    Lacking lacking;
+    lacking.ask([&] { return ZintuGet_MultiWanInfo(&info); }, {"no multi-WAN"});
+    Page page{{
         {"",
          "",
          {
              {"enabled", "Enabled", info.nEnabled == kUnknown ? Value() : flag(info.nEnabled)},
              {"sharing", "Sharing", sharingOf(info.nFailOver)},
          }},
-        {"wan1", "First WAN", connection(info.sWan1Interface, info.nWan1Type)},
-        {"wan2", "Second WAN", connection(info.sWan2Interface, info.nWan2Type)},
+        {"wan1", "First WAN", connection(info.sWan1Interface, info.nWan1Type, lacking)},
+        {"wan2", "Second WAN", connection(info.sWan2Interface, info.nWan2Type, lacking)},
     }};
+    lacking.tell(page.notes);
+    return page;
 }
 
 } // namespace pages

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 
 #include "caltofal.h"
-#include "pages/layer/call.h"
+#include "pages/layer/lacking.h"
 #include "pages/layer/left_messages.h"
-#include "pages/layer/request_log.h"
 #include "pages/network/current.h"
 #include "pages/network/pages.h"
 #include "pages/secret.h"
 
 namespace pages {
 namespace {
+
+constexpr const char *kForwarding = "Device.Routing.Router.1.IPv4Forwarding";
 
 ZintuWanInfo untouchedInfo() {
     ZintuWanInfo info{};
@@ -79,10 +80,12 @@ Page sectionsOf(const ZintuWanInfo &info, const char *dnsTitle) {
 }
 
 // The WAN being down is an answer, not a failure: no forwarding entry tells a gateway then.
-Page noted(const ZintuWanInfo &info, const char *dnsTitle) {
+Page noted(const ZintuWanInfo &info, const char *dnsTitle, Lacking &lacking) {
     Page page = sectionsOf(info, dnsTitle);
-    if (info.sGateway[0] == '\0') {
-        page.notes.push_back("no IPv4 forwarding entry tells the gateway of " + text(info.sWanIpInterface));
+    needNoDhcpClient(lacking, text(info.sDNS1));
+    lacking.tell(page.notes);
+    if (info.sGateway[0] == '\0' && !lacking.has(kForwarding)) {
+        page.notes.push_back("no IPv4 forwarding entry tells the gateway of " + plainPaths(text(info.sWanIpInterface)));
     }
     return page;
 }
@@ -92,27 +95,29 @@ Page noted(const ZintuWanInfo &info, const char *dnsTitle) {
 Page wan() {
     ZintuWanInfo info = untouchedInfo();
     const LeftMessages left;
-    const RequestLog log;
-    ask([&] { return ZintuGet_DefWanInfo(&info); },
-        {kNoDefaultWan,
-         {"Device.X_ZINTU_CurrentNetwork", "Device.Routing.Router.1.IPv4Forwarding", "Device.Ethernet.VLANTermination"},
-         CALTOFAL_NO_MATCH});
-    for (const Request &request : log.requests()) {
-        if (request.code == CALTOFAL_ABSENT_OBJECT && objectNames(request) == withoutDot(text(info.sWanIpInterface))) {
-            throw noSuchInterface(objectNames(request));
-        }
+    Lacking lacking;
+    lacking.ask([&] { return ZintuGet_DefWanInfo(&info); },
+                {kNoDefaultWan,
+                 {"Device.X_ZINTU_CurrentNetwork", kForwarding, "Device.Ethernet.VLANTermination"},
+                 CALTOFAL_NO_MATCH});
+    if (const std::string interface(withoutDot(text(info.sWanIpInterface))); lacking.has(interface)) {
+        throw noSuchInterface(interface);
     }
-    return noted(info, "DNS setting");
+    if (lacking.has(kNameServers) && text(info.sWanIpType) == "dynamic") {
+        untouch(info.bDnsAuto); // the library goes by the servers set by hand
+    }
+    return noted(info, "DNS setting", lacking);
 }
 
 // The operation mode's bits are the flags by which a router is refused and a Wi-Fi link is known.
 Page bridgeWan() {
     const int mode = operationMode();
     ZintuWanInfo info = untouchedInfo();
-    ask([&] { return ZintuGet_BrWanInfo(static_cast<uint32_t>(mode), &info); },
-        {"the gateway is not a bridge: its operation mode is " + std::to_string(mode),
-         {"Device.Routing."},
-         CALTOFAL_NO_MATCH});
+    Lacking lacking;
+    lacking.ask([&] { return ZintuGet_BrWanInfo(static_cast<uint32_t>(mode), &info); },
+                {"the gateway is not a bridge: its operation mode is " + std::to_string(mode),
+                 {"Device.Routing."},
+                 CALTOFAL_NO_MATCH});
     // The library gives these fixed values, and its "Down" means only that DHCP gave no address.
     info.bIpv6Enable = kUntouchedFlag;
     info.sIpv6Type[0] = '\0';
@@ -120,7 +125,7 @@ Page bridgeWan() {
     if (text(info.sStatus) == "Down") {
         info.sStatus[0] = '\0';
     }
-    return noted(info, "DNS in use");
+    return noted(info, "DNS in use", lacking);
 }
 
 Report wanInterfaceName() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal.h"
-#include "pages/layer/call.h"
+#include "pages/layer/lacking.h"
+#include "pages/layer/partial_answer.h"
 #include "pages/layer/request_log.h"
 #include "pages/page.h"
 #include "pages/process/shell_output.h"
@@ -68,16 +69,22 @@ void checkUplink(const Interface &interface) {
 
 // The enabled end point, with its interface's name where its reference leads to one. An empty reference is asked for
 // like any other; a layer that refuses that has said no more than that there is no name.
-int enabledEndPoint(char *interface) {
+int enabledEndPoint(char *interface, std::vector<std::string> &notes) {
     int number = kNoneEnabled;
     const RequestLog log;
+    Lacking lacking;
     try {
-        askEvery([&] { return (number = std::max(GetEPEnable(interface), kNoneEnabled)) + 1; });
+        lacking.ask(strictly([&] { return (number = std::max(GetEPEnable(interface), kNoneEnabled)) + 1; }),
+                    {"the library failed"});
     } catch (const Failure &) {
         if (log.requests().empty() || !log.requests().back().objects.front().empty()) {
             throw;
         }
     }
+    for (const char *object : {"Device.WiFi.EndPoint.1", "Device.WiFi.EndPoint.2", ""}) {
+        lacking.needNot(object); // one of the two is enough
+    }
+    lacking.tell(notes);
     return number;
 }
 
@@ -85,19 +92,22 @@ int enabledEndPoint(char *interface) {
 
 Report endPoint() {
     char interface[kTextSize] = "";
-    const int number = enabledEndPoint(interface);
+    std::vector<std::string> lacking;
+    const int number = enabledEndPoint(interface, lacking);
     if (number == kNoneEnabled) {
         throw Failure(Category::Absent, "no end point is enabled", "Device.WiFi.EndPoint");
     }
     const std::string name = text(interface);
     if (name.empty()) {
-        throw Failure(Category::Absent, "end point " + std::to_string(number) + " names no interface",
+        const std::string reason = lacking.empty() ? "" : "; " + lacking.front();
+        throw Failure(Category::Absent, "end point " + std::to_string(number) + " names no interface" + reason,
                       "Device.WiFi.EndPoint." + std::to_string(number));
     }
     const InterfaceName checked(name); // it is the store's, and goes to the shell
     Link link;
     const DeviceTurn turn;
     ShellOutput output;
+    const PartialAnswers partial;
     link.connected = GetEPConnectionStatus(link.peer) == 1;
     readChannel(name, link);
     return pageOf(number, name, link, output.end());
