@@ -23,7 +23,7 @@ std::string lastObject(const std::vector<std::string> &words) {
 }
 
 // The command that sets the parameter of that name or path.
-std::string setCommand(const std::string &command, const std::string &name, const std::vector<std::string> &before) {
+std::string setCommand(const std::string &name, const std::vector<std::string> &before, const std::string &command) {
     if (command == "wifi radio" || command == "wifi ssid") {
         return "caltofal wifi set" + command.substr(command.find(' ')) + " NUMBER " + name + kAnyValue;
     }
@@ -56,13 +56,13 @@ Parameter assigned(const std::string &word, const std::string &before) {
     return assignment(word);
 }
 
-std::string takesNoValue(const std::string &command, const std::string &word, const std::vector<std::string> &before) {
+std::string takesNoValue(const std::string &word, const std::vector<std::string> &before, const std::string &command) {
     const std::string name = word.substr(0, word.find('='));
     if (name.empty()) {
         return "a word that begins with \"=\" names nothing";
     }
     return inQuotes(name.substr(name.rfind('.') + 1)) + " takes no value here (did you mean " +
-           setCommand(command, name, before) + "?)";
+           setCommand(name, before, command) + "?)";
 }
 
 } // namespace cli

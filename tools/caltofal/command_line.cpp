@@ -152,7 +152,7 @@ std::string nothingToDo(const CLI::App &command, const std::vector<std::string> 
         return "what to do is missing";
     }
     if (!isOption(rest.front()) && rest.front().find('=') != std::string::npos) {
-        return takesNoValue("", rest.front());
+        return takesNoValue(rest.front(), {}, "");
     }
     const std::string word = withoutValue(rest.front());
     const char *const ofNoun = isOption(word) ? "not an option of it" : "not a verb of it";
@@ -171,7 +171,7 @@ std::string faultOf(const CLI::App &app, const std::string &words, const CLI::Pa
     if (dynamic_cast<const CLI::ExtrasError *>(&error) && !rest.empty()) {
         const std::string culprit = culpritOf(rest);
         if (!isOption(culprit) && culprit.find('=') != std::string::npos) {
-            return takesNoValue(words, culprit);
+            return takesNoValue(culprit, {}, words);
         }
         return "\"" + withoutValue(culprit) +
                (isOption(culprit) ? "\" is not an option of it" + pages::didYouMean(culprit, knownTo(chosen(app), true))
@@ -282,7 +282,7 @@ struct Parser {
         const auto slip = std::find_if(typed.begin(), typed.end(),
                                        [](const std::string &word) { return word.find('=') != std::string::npos; });
         if (names && slip != typed.end()) {
-            throw Usage(takesNoValue(chosenWords(*top), *slip, {typed.begin(), slip}));
+            throw Usage(takesNoValue(*slip, {typed.begin(), slip}, chosenWords(*top)));
         }
     }
 
