@@ -28,7 +28,7 @@ constexpr std::string_view kBlanksAndLineEnds = " \t\r\n";
 // Without anything in it that only these files have, a comment tells it from the dump of another program.
 void writeGatewayFile(const Entries &entries, std::ostream &out) {
     if (std::all_of(entries.begin(), entries.end(),
-                    [](const Entry &entry) { return isTextDump(gatewayLine(entry)); })) {
+                    [](const Entry &entry) { return textFormOf(gatewayLine(entry)) == TextForm::Dump; })) {
         out << "# A gateway file\n";
     }
     for (const Entry &entry : entries) {
@@ -80,6 +80,17 @@ FileContent readAnyGatewayFile(const Source &source) {
     return content;
 }
 
+FileContent readCommentedLines(const Source &source) {
+    try {
+        FileContent content = readAnyGatewayFile(source);
+        refuseDuplicates(content.entries, source.file); // the import does too, but does not know of the comments
+        return content;
+    } catch (const FileError &error) {
+        throw FileError(error,
+                        "; comments make a gateway file of these lines: without them they are taken in as a dump");
+    }
+}
+
 FileContent readAnyCsv(const Source &source) {
     return isCsvDump(source.text) ? takenIn(readCsvDump(source.text, source.file), source.file)
                                   : FileContent{readCsv(source.text, source.file), std::nullopt};
@@ -120,7 +131,15 @@ Read recognised(std::string_view text, const std::string &file) {
             return row.read;
         }
     }
-    return isTextDump(text) ? readTextLines : readAnyGatewayFile;
+    switch (textFormOf(text)) {
+    case TextForm::Dump:
+        return readTextLines;
+    case TextForm::Either:
+        return readCommentedLines;
+    case TextForm::Other:
+        break;
+    }
+    return readAnyGatewayFile;
 }
 
 std::string readWhole(const std::string &file) {

@@ -55,6 +55,7 @@ class FileError : public std::runtime_error {
     FileError(const std::string &file, size_t line, const std::string &message)
         : std::runtime_error(file + ":" + std::to_string(line) + ": " + message) {}
     FileError(const std::string &file, const std::string &message) : std::runtime_error(file + ": " + message) {}
+    FileError(const FileError &error, const std::string &advice) : std::runtime_error(error.what() + advice) {}
 };
 
 // Throws FileError for the first entry whose path stands in the file already.

@@ -135,7 +135,9 @@ TEST_F(DumpTest, KeepsGatewayFilesStrict) {
         const char *file, *text, *message;
     } cases[] = {
         {"x.tr181", "Device.A.B=1", "x.tr181:1: expected \" = \" behind Device.A.B"},
-        {"x", "# mine\nDevice.A.B = 1\nDevice.A.B = 2", "x:3: Device.A.B was already given in line 2"},
+        {"x", "# mine\nDevice.A.B = 1\nDevice.A.B = 2",
+         "x:3: Device.A.B was already given in line 2; comments make a gateway file of these lines: without them they "
+         "are taken in as a dump"},
         {"x", "Device.A.B [int] = x\nDevice.A.C = 2", "x:1: Device.A.B: \"x\" is not of type int"},
         {"x", "Device.A.B = 1\nDevice.A.C", "x:2: \"Device.A.C\" has no value: \" = \" is missing"},
         {"x", "Device.A.B=1\nDevice.A.C [int] = 2", "x:1: expected \" = \" behind Device.A.B"},

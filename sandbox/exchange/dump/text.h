@@ -7,11 +7,16 @@
 
 namespace sandbox {
 
-// Whether every line is of that form, or most are and none could be a gateway file's, the first one below a root.
-// Nothing is in it that makes a gateway file: comments, annotations, patterns.
-bool isTextDump(std::string_view text);
+// What a text without annotations is whose first line is below a root.
+enum class TextForm {
+    Dump, // a line is one that no gateway file has ("path=value" without blanks, a pattern with a value), or every line
+          // is of the form and none is a comment
+    Either, // every line could be either's: the comments are a gateway file's
+    Other,  // no dump
+};
+TextForm textFormOf(std::string_view text);
 
-// Values are taken byte for byte; where all of them are in quotes, without these.
+// Values are taken byte for byte, but for a blank that all have behind "="; where all are in quotes, without these.
 Dump readTextDump(std::string_view text);
 
 } // namespace sandbox
