@@ -9,6 +9,7 @@
 #include "value/path.h"
 #include "value/refusal.h"
 
+#include <strings.h>
 #include <unordered_map>
 
 namespace sandbox {
@@ -189,10 +190,19 @@ class Import {
         try {
             return isCountName(entry.name) ? value : fitting(definition, entry, value);
         } catch (const Refusal &refusal) {
-            report_->count(Reason::Misfit, refusal.what());
+            countMisfit(definition.type, value, refusal.what());
             definition.type = ValueType();
             definition.fallback.clear();
             return value;
+        }
+    }
+
+    // Pages take FALSE for off like any word but true, so that it tells nothing; most of them take TRUE for on.
+    void countMisfit(const ValueType &type, const std::string &value, const char *why) const {
+        const bool off = type.isFlag() && strcasecmp(value.c_str(), "false") == 0;
+        const bool on = type.isFlag() && strcasecmp(value.c_str(), "true") == 0;
+        if (!off) {
+            report_->count(on ? Reason::FlagSpelling : Reason::Misfit, why);
         }
     }
 

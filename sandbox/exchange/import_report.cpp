@@ -7,6 +7,7 @@ namespace {
 // In the order of Reason; each is followed by ": NUMBER, first EXAMPLE".
 constexpr const char *kReasonWords[] = {
     "kept as text, not of the parameter's type",
+    "kept as text, a flag in capitals, on to most pages, but off to IPv6, Wi-Fi clients and end points",
     "kept as empty, without a value in the file",
     "left as it was or empty, hidden in the file",
     "counters that differ from the instances in the file, the store counts these",
@@ -20,7 +21,7 @@ constexpr const char *kReasonWords[] = {
     "left out, a value where an object has the path",
     "left out, a line or row that lacks fields or has too many",
     "a quote that does not end, the file may be cut off or damaged there",
-    "left out, an entry of a list without a usable name",
+    "left out, an entry without a usable name",
     "left out, below neither Device. nor InternetGatewayDevice.",
     "passed over, rows of the ACS itself",
     "passed over, further devices in the file",

@@ -12,6 +12,7 @@ namespace sandbox {
 
 enum class Reason {
     Misfit,         // kept as text
+    FlagSpelling,   // likewise, "TRUE" of a flag
     NoValue,        // kept as empty
     Hidden,         // a secret that the file does not tell
     CounterDiffers, // the store counts
@@ -25,7 +26,7 @@ enum class Reason {
     ValueOfObject,
     TornRow,
     OpenQuote, // of CSV; taken in all the same
-    NoName,    // of an entry in a list
+    NoName,    // of an entry of JSON
     ForeignRoot,
     AcsRow,
     OtherDevice,

@@ -74,10 +74,14 @@ class Conversion {
             path += '.';
         }
         const std::optional<Reason> trouble = troubleOf(path);
-        report_.values += row.object || trouble == Reason::AcsRow ? 0 : 1;
+        const bool valueOfObject = row.object && row.value && !row.value->empty();
+        report_.values += (row.object && !valueOfObject) || trouble == Reason::AcsRow ? 0 : 1;
         if (trouble) {
             report_.count(*trouble, exampleOf(row));
             return;
+        }
+        if (valueOfObject) {
+            report_.count(Reason::ValueOfObject, path);
         }
         try {
             Entry entry = entryFor(path);

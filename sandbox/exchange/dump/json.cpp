@@ -249,22 +249,39 @@ class JsonDump {
         }
     }
 
-    // The object at `prefix`, "" for a wrapper, and what it holds.
+    // Whether all that an object holds is of instances that the file does not name: "{i}". It says nothing of the
+    // object either.
+    static bool isPlaceholder(const JsonNode &node) {
+        const auto says = [](const JsonMember &child) { return !child.name.starts_with('_'); };
+        return node.kind == JsonNode::Kind::Object && std::any_of(node.children.begin(), node.children.end(), says) &&
+               std::all_of(node.children.begin(), node.children.end(), [&](const JsonMember &child) {
+                   return !says(child) || child.name.find('{') != std::string::npos || isPlaceholder(child.node);
+               });
+    }
+
+    // The object at `prefix`, "" for a wrapper, and what it holds; a value is counted.
     void members(const JsonNode &node, const std::string &prefix) {
-        if (!prefix.empty()) {
+        if (!prefix.empty() && !isPlaceholder(node)) {
             DumpRow row = rowOf(prefix, node);
             row.object = true;
+            if (node.isScalar()) {
+                readLeaf(node, row);
+            }
             if (const JsonNode *access = memberOf(node, Role::Access)) {
                 row.writable = writableOfWord(access->text);
             }
             dump_.rows.push_back(std::move(row));
         }
         const bool described = memberOf(node, Role::Access) || memberOf(node, Role::Object);
-        for (const auto &[name, child] : node.children) {
+        for (size_t i = 0; i < node.children.size(); ++i) {
+            const auto &[name, child] = node.children[i];
             if (beginsWithRoot(name) || isRoot(name)) {
                 member(child, name, prefix.empty());
             } else if (prefix.empty() && isPathLike(name) && isParameter(child, name)) {
                 member(child, name, false); // below another root: counted
+            } else if (name.empty() && (!prefix.empty() || child.isScalar())) {
+                dump_.report.values += child.isScalar() ? 1 : 0;
+                countNameless(child, i);
             } else if (prefix.empty()) {
                 document(child);
             } else if (isBytesOf(node, name)) {
