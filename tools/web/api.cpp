@@ -62,15 +62,20 @@ Response Api::answer(const Request &request) {
 
 Response Api::answerCall(const Request &request, const Target &target) {
     Call call = parseCall(request.method, target);
-    takeBody(call, request.body);
     if (call.method == kGet) {
+        takeBody(call, request.body);
         return tagged(answerRead(call), request.ifNoneMatch);
     }
     if (call.flag("dry_run")) {
-        return answerChange(call, request);
+        takeBody(call, request.body);
+        return answerChange(call, request, [] {});
     }
-    const auto entry = log_.begin(call, request);
-    Response response = answered([&] { return answerChange(call, request); });
+    const auto entry = log_.begin(request);
+    Response response = answered([&] {
+        takeBody(call, request.body);
+        log_.about(entry, call.body);
+        return answerChange(call, request, [&] { log_.tries(entry); });
+    });
     log_.end(entry, response.status);
     return response;
 }
@@ -90,23 +95,24 @@ Response Api::answerRead(const Call &call) {
     }
 }
 
-Response Api::answerChange(const Call &call, const Request &request) {
-    switch (call.method) {
-    case kPatch:
-        return answerPatch(call, request);
-    case kDelete:
-        return jsonResponse(found(jobs_.cancel(call.argument), call));
-    default:
-        const pages::Value job = jobs_.start(std::string(call.resource->path.substr(1)), taskOf(call));
-        Response response = jsonResponse(job, Status::Accepted);
-        response.headers.push_back({"Location", std::string(kApi) + "/jobs/" + job["id"].text()});
-        return response;
+Response Api::answerChange(const Call &call, const Request &request, const std::function<void()> &begins) {
+    if (call.method == kPatch) {
+        return answerPatch(call, request, begins);
     }
+    begins();
+    if (call.method == kDelete) {
+        return jsonResponse(found(jobs_.cancel(call.argument), call));
+    }
+    const pages::Value job = jobs_.start(std::string(call.resource->path.substr(1)), taskOf(call));
+    Response response = jsonResponse(job, Status::Accepted);
+    response.headers.push_back({"Location", std::string(kApi) + "/jobs/" + job["id"].text()});
+    return response;
 }
 
 // What a client has read, and what the answer says that was there before, is what this change replaces.
-Response Api::answerPatch(const Call &call, const Request &request) {
+Response Api::answerPatch(const Call &call, const Request &request, const std::function<void()> &begins) {
     const std::lock_guard turn(changes_);
+    begins();
     checkPrecondition(call, request);
     return reportResponse(change(call));
 }

@@ -9,6 +9,7 @@
 #include "response.h"
 
 #include <cstdint>
+#include <functional>
 #include <mutex>
 
 namespace web {
@@ -36,9 +37,9 @@ class Api {
     Response answerCall(const Request &request, const Target &target);
     Response answerFile(const Request &request, const Target &target);
     Response answerRead(const Call &call);
-    Response answerChange(const Call &call, const Request &request);
-    Response answerPatch(const Call &call, const Request &request);
-    Response answerJob(const Call &call);
+    // `begins` is called, and may refuse, when it is this change's turn.
+    Response answerChange(const Call &call, const Request &request, const std::function<void()> &begins);
+    Response answerPatch(const Call &call, const Request &request, const std::function<void()> &begins);
     [[nodiscard]] Response index() const;
 
     const Gate &gate_;

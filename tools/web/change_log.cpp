@@ -40,18 +40,29 @@ std::string listed(const std::vector<std::string> &names) {
 
 } // namespace
 
-ChangeLog::Handle ChangeLog::begin(const Call &call, const Request &request) {
-    const std::string text = request.method + " " + plain(request.target) + listed(namesOf(call.body));
+ChangeLog::Handle ChangeLog::begin(const Request &request) {
+    const std::string text = request.method + " " + plain(request.target);
+    const std::lock_guard lock(mutex_);
+    return underWay_.insert(underWay_.end(), {request.address, text});
+}
+
+void ChangeLog::about(Handle change, const pages::Value &body) {
+    const std::string names = listed(namesOf(body));
+    const std::lock_guard lock(mutex_);
+    change->text += names;
+}
+
+void ChangeLog::tries(Handle change) {
     const std::lock_guard lock(mutex_);
     if (closed_) {
         throw Refusal(Status::Unavailable, "the server ends: nothing is changed any more");
     }
-    return underWay_.insert(underWay_.end(), {request.address, text});
+    change->isTried = true;
 }
 
 void ChangeLog::end(Handle change, Status status) {
     const std::lock_guard lock(mutex_);
-    if (!closed_) {
+    if (!change->isTold) {
         logLine(change->address, change->text, status);
     }
     underWay_.erase(change);
@@ -60,8 +71,10 @@ void ChangeLog::end(Handle change, Status status) {
 bool ChangeLog::close() {
     const std::lock_guard lock(mutex_);
     closed_ = true;
-    for (const Change &change : underWay_) {
-        logLine(change.address, change.text, "unknown: ended while the gateway was asked");
+    for (Change &change : underWay_) {
+        change.isTold = true;
+        logLine(change.address, change.text,
+                change.isTried ? "unknown: ended while the gateway was asked" : "not begun: the server ended");
     }
     return !underWay_.empty();
 }

@@ -18,15 +18,21 @@ class ChangeLog {
   public:
     struct Change {
         std::string address, text;
+        bool isTried = false, isTold = false;
     };
     using Handle = std::list<Change>::iterator;
 
-    // A change begins. Throws Refusal (503) when the log was closed.
-    Handle begin(const Call &call, const Request &request);
-    // And ends, with its line.
+    // A change has come; its body is not read yet.
+    Handle begin(const Request &request);
+    // What its body sets.
+    void about(Handle change, const pages::Value &body);
+    // The gateway is asked from now on. Throws Refusal (503) when the log was closed.
+    void tries(Handle change);
+    // It ends, with its line.
     void end(Handle change, Status status);
 
-    // Writes a line for each change that is under way, and none after these. Whether there was one.
+    // Writes the line of each change that is under way: nobody knows how one ends that is tried, and no other is tried
+    // any more. Whether there was one.
     bool close();
 
   private:
