@@ -29,8 +29,8 @@ bool mayFollow(char c) {
 
 void checkLength(const std::string &text, size_t most, const char *what) {
     if (text.size() > most) {
-        throw Usage(what + (" \"" + text.substr(0, 40)) + "...\" has " + std::to_string(text.size()) +
-                    " bytes: the most is " + std::to_string(most));
+        throw Usage(what + (" " + inQuotes(text)) + " has " + std::to_string(text.size()) + " bytes: the most is " +
+                    std::to_string(most));
     }
 }
 

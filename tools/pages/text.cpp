@@ -83,11 +83,15 @@ std::string hexOf(std::string_view text) {
 }
 
 std::string inQuotes(std::string_view text) {
+    size_t shown = std::min(text.size(), kQuotedMax);
+    while (shown > 0 && shown < text.size() && (text[shown] & 0xc0) == 0x80) { // not in the middle of a character
+        --shown;
+    }
     std::string result;
-    for (const char c : text.substr(0, kQuotedMax)) {
+    for (const char c : text.substr(0, shown)) {
         result += c == '\0' ? "\\u0000" : std::string(1, c); // what() of an exception would end there
     }
-    return '"' + result + '"';
+    return '"' + result + (shown < text.size() ? "...\"" : "\"");
 }
 
 std::string plainPaths(const std::string &text) {

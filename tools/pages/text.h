@@ -18,7 +18,8 @@ bool isUtf8(std::string_view text);
 // Two lower-case digits a byte.
 std::string hexOf(std::string_view text);
 
-// A text of the outside as a message quotes it: its first 40 bytes in quotation marks, a NUL as in JSON.
+// A text of the outside as a message quotes it: its first 40 bytes in quotation marks, with "..." for the rest, a
+// NUL as in JSON.
 std::string inQuotes(std::string_view text);
 
 // Texts with ", " between them.

@@ -3,6 +3,7 @@
 
 #include "body.h"
 #include "pages/failure.h"
+#include "pages/text.h"
 #include "refusal.h"
 
 #include <algorithm>
@@ -51,7 +52,8 @@ bool Call::flag(std::string_view name) const {
 Call parseCall(std::string_view method, const Target &target) {
     Route route = findRoute(target.path);
     if (!route.resource) {
-        throw Refusal(Status::NotFound, target.path + ": there is no such resource; GET /api/v1 lists them");
+        throw Refusal(Status::NotFound,
+                      pages::inQuotes(target.path) + ": there is no such resource; GET /api/v1 lists them");
     }
     Call call{route.resource, methodOf(method), std::move(route.argument), target.query};
     if ((call.method & route.resource->methods) == 0) {

@@ -5,6 +5,7 @@
 #include "pages/page.h"
 #include "pages/secret.h"
 #include "pages/similar.h"
+#include "pages/text.h"
 #include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
 #include "pages/wifi/settings.h"
@@ -48,7 +49,7 @@ const WifiParamRow &rowNamed(const WifiParamTable &current, const std::string &n
         return text(row.parameter) == name || path == name || path == "Device.WiFi." + name;
     });
     if (found == rows(current).end()) {
-        throw Failure(Category::Absent, "no setting \"" + name + "\" here" + didYouMean(name, namesOf(current)) +
+        throw Failure(Category::Absent, "no setting " + inQuotes(name) + " here" + didYouMean(name, namesOf(current)) +
                                             "; there are " + joined(namesOf(current)));
     }
     return *found;
