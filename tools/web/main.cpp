@@ -2,7 +2,9 @@
 #include "api.h"
 #include "gate.h"
 #include "options.h"
+#include "pages/failure.h"
 #include "pages/layer/request_log.h"
+#include "pages/network/pages.h"
 #include "pages/process/console.h"
 #include "pages/process/streams.h"
 #include "server.h"
@@ -56,6 +58,21 @@ void useOneHeap() {
 #endif
 }
 
+// A wrong name is told at the start, where it is seen. The server starts all the same: the gateway may come later. On a
+// device nothing is asked, where the layer may be slow to start.
+void checkGateway() {
+    if (!pages::isSandbox()) {
+        return;
+    }
+    try {
+        pages::gateway();
+    } catch (const pages::Failure &failure) {
+        if (failure.category() == pages::Category::NoLayer) {
+            std::cerr << "caltofal-web: " << failure.what() << "; until there is, every page is an error\n";
+        }
+    }
+}
+
 void endSoon() {
     struct sigaction action {};
     action.sa_handler = [](int) { _exit(0); };
@@ -85,6 +102,7 @@ void serve(const Options &options, const sigset_t &endSignals) {
         std::cerr << "caltofal-web: listening on " << listener.text()
                   << " without encryption: put TLS in front of it\n";
     }
+    checkGateway();
     printUrl(options, listener, session.token());
     int signal = 0;
     sigwait(&endSignals, &signal);
