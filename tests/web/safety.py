@@ -76,6 +76,7 @@ class Refusals(unittest.TestCase):
             ("DELETE", "/api/v1/jobs/1", {"Origin": None}, 403),
             ("DELETE", "/api/v1/jobs/1", {}, 404),
             ("DELETE", "/api/v1/jobs/1", {"If-Match": "*"}, 400),
+            ("GET", "/api/v1/wan", {"If-Match": "*"}, 400),
         ]
         for method, target, headers, status in cases:
             with self.subTest(method=method, target=target, headers=headers):
@@ -175,6 +176,8 @@ class Refusals(unittest.TestCase):
             (head + chunked + "x\r\n", "411", True),
             (head + chunked.replace("chunked", "gzip"), "411", True),
             (head.replace("/v1 ", "/v1 /x "), "404", True),
+            (head.replace("GET", "GET ") + "\r\n", "400", True),
+            (head.replace("/api/v1", f"/?token={self.server.token}&token=x") + "\r\n", "400", True),
             (head.replace("1.1", "2.0") + "\r\n", "505", False),
             ("GET / HTTP/1.0\r\n\r\n", "421", True),
             ("GET / HTTP/1.1\r\n\r\n", "421", True),
@@ -302,7 +305,8 @@ class RefusalLog(unittest.TestCase):
             wrong = {"Authorization": "Bearer not-the-token"}
             for method, target, headers in (
                     ("GET", "/api/v1/wifi/ssids/1?x=%1b[2J", wrong), ("GET", "/api/v1/%0a%1b[2J?token=secret", {"Authorization": None}),
-                    ("GET", "/?token=not-the-token", {}), ("PATCH", "/api/v1/objects", {"Origin": "http://evil.example"}),
+                    ("GET", "/?token=not-the-token", {}), ("PATCH", "/api/v1/wan", {}),
+                    ("PATCH", "/api/v1/objects", {"Origin": "http://evil.example"}),
                     ("POST", "/api/v1/mesh/sync", {"Content-Type": "text/plain"}), ("EVIL", "/x", {"Host": "evil.example"}),
                     *(("GET", "/api/v1", wrong) for _ in range(5)), ("GET", "/api/v1/nonsense", {}), ("GET", "/nonsense", {})):
                 server.ask(method, target, "{}" if method != "GET" else None, **headers)
@@ -311,7 +315,7 @@ class RefusalLog(unittest.TestCase):
         matches = [re.fullmatch(pattern, line) for line in lines]
         self.assertTrue(all(matches), lines)
         self.assertEqual([(match[1].split(":")[0], match[2]) for match in matches],
-                         [("GET /api/v1/wifi/ssids/{N}", "401"), ("PATCH /api/v1/objects", "403"),
+                         [("GET /api/v1/wifi/ssids/{N}", "401"), ("PATCH /api/v1/wan", "405"), ("PATCH /api/v1/objects", "403"),
                           ("POST /api/v1/mesh/sync", "415"), ("? /", "421"), ("GET /api", "503"), ("7 more", "401")])
 
     def test_it_is_not_flooded(self):

@@ -5,6 +5,7 @@
 #include "errors.h"
 #include "page_file.h"
 #include "pages/failure.h"
+#include "pages/text.h"
 #include "precondition.h"
 #include "secret.h"
 
@@ -132,16 +133,19 @@ Response Api::index() const {
 }
 
 Response Api::answerFile(const Request &request, const Target &target) {
-    const auto token = std::find_if(target.query.begin(), target.query.end(),
-                                    [](const QueryItem &item) { return item.name == "token"; });
+    const auto isToken = [](const QueryItem &item) { return item.name == "token"; };
+    const auto token = std::find_if(target.query.begin(), target.query.end(), isToken);
     if (target.path == "/" && token != target.query.end()) {
+        if (std::count_if(token, target.query.end(), isToken) > 1) {
+            throw Refusal(Status::BadRequest, "the URL has two tokens");
+        }
         Response response{Status::SeeOther};
         response.headers = {{"Location", "/"}, {"Set-Cookie", gate_.open(token->value, request)}};
         return response;
     }
     const PageFile *file = findPageFile(target.path);
     if (!file) {
-        throw Refusal(Status::NotFound, target.path + ": there is no such page");
+        throw Refusal(Status::NotFound, pages::inQuotes(target.path) + ": there is no such page");
     }
     return fileResponse(*file, request.ifNoneMatch);
 }

@@ -94,7 +94,7 @@ MHD_Result takeHeader(void *context, MHD_ValueKind /*kind*/, const char *name, c
 } // namespace
 
 void Exchange::takeHeaders(MHD_Connection *from, const char *method, const char *version) {
-    Headers headers{request, HeaderTrail(targetEnd, version)};
+    Headers headers{request, HeaderTrail(method, target, version)};
     request.method = method;
     MHD_get_connection_values(from, MHD_HEADER_KIND, takeHeader, &headers);
     const size_t size = MHD_get_connection_info(from, MHD_CONNECTION_INFO_REQUEST_HEADER_SIZE)->header_size;

@@ -19,7 +19,7 @@ struct Exchange {
 
     Connections::Handle connection;
     Request request;
-    const char *targetEnd = nullptr; // where the HTTP library's text of the target ends
+    std::string_view target = {}; // the HTTP library's own text of it
     std::optional<Response> response;
     bool headersTaken = false;
 

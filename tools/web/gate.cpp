@@ -58,6 +58,9 @@ void Gate::judge(const Request &request) const {
     if (isApi(target.path)) {
         session_.check(request);
         const Call call = parseCall(request.method, target);
+        if (request.ifMatch && call.method != kPatch) {
+            throw Refusal(Status::BadRequest, "If-Match is understood with PATCH only");
+        }
         if (call.method != kGet) {
             checkChange(request, call);
         }
@@ -76,9 +79,6 @@ void Gate::checkChange(const Request &request, const Call &call) const {
     if (!isFromOwnPage(request.host, request.origin, request.fetchSite)) {
         throw Refusal(Status::Forbidden, "a change must come from this server's own origin: its Origin header, or "
                                          "Sec-Fetch-Site: same-origin, is missing or another one");
-    }
-    if (request.ifMatch && call.method != kPatch) {
-        throw Refusal(Status::BadRequest, "If-Match is understood with PATCH only");
     }
     if (call.method == kDelete) {
         return; // has no body

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstring>
 #include <microhttpd.h>
-#include <string_view>
 
 namespace web {
 namespace {
@@ -22,8 +21,9 @@ uintptr_t gap(const char *from, const char *to) {
 
 } // namespace
 
-HeaderTrail::HeaderTrail(const char *targetEnd, const char *version)
-    : end_(version + strlen(version)), whole_(gap(targetEnd, version) == 1) {}
+HeaderTrail::HeaderTrail(const char *method, std::string_view target, const char *version)
+    : end_(version + strlen(version)),
+      whole_(gap(method + strlen(method), target.data()) == 1 && gap(target.data() + target.size(), version) == 1) {}
 
 void HeaderTrail::follow(const char *name, const char *value) {
     const uintptr_t between = gap(end_, name);

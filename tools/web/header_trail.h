@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace web {
 
@@ -13,8 +14,8 @@ namespace web {
 // alike; a line of a colon alone that ends with LF among others with CR LF looks like the empty line, and is not found.
 class HeaderTrail {
   public:
-    // From the end of the request's target to its version.
-    HeaderTrail(const char *targetEnd, const char *version);
+    // The first line; `target` is a part of the HTTP library's own text.
+    HeaderTrail(const char *method, std::string_view target, const char *version);
 
     // The next header. Addresses are compared, no more: the texts need not be parts of one.
     void follow(const char *name, const char *value);

@@ -37,7 +37,9 @@ RefusalLog::~RefusalLog() {
 }
 
 void RefusalLog::note(const Request &request, const Refusal &refusal) {
-    if (std::find(std::begin(kNoted), std::end(kNoted), refusal.status()) == std::end(kNoted)) {
+    const unsigned asked = methodOf(request.method);
+    const bool isChange = asked != 0 && asked != kGet;
+    if (!isChange && std::find(std::begin(kNoted), std::end(kNoted), refusal.status()) == std::end(kNoted)) {
         return;
     }
     const auto now = steady_clock::now();
@@ -52,7 +54,7 @@ void RefusalLog::note(const Request &request, const Refusal &refusal) {
         ++count->second.more;
         return;
     }
-    const std::string method = methodOf(request.method) == 0 ? "?" : request.method;
+    const std::string method = asked == 0 ? "?" : request.method;
     logLine(key.first, "refused " + method + " " + resourceOf(request) + ": " + refusal.what(), key.second);
 }
 

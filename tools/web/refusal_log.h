@@ -25,7 +25,7 @@ class RefusalLog {
     RefusalLog &operator=(const RefusalLog &) = delete;
     ~RefusalLog(); // says what is left to say
 
-    // Of statuses other than 401, 403, 415, 421 and 503 nothing is written.
+    // Of what only asked to read, statuses other than 401, 403, 415, 421 and 503 are not written.
     void note(const Request &request, const Refusal &refusal);
 
   private:

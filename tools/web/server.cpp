@@ -98,8 +98,8 @@ struct Callbacks {
         client.exchange = std::make_unique<Exchange>();
         Exchange *exchange = client.exchange.get();
         exchange->connection = client.handle;
+        exchange->target = target;
         exchange->request.target = target;
-        exchange->targetEnd = target + exchange->request.target.size();
         exchange->request.address = exchange->connection->address;
         Connections &connections = static_cast<Server *>(self)->connections_;
         connections.become(exchange->connection, Connections::State::Receiving);
