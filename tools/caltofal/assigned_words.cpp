@@ -56,8 +56,8 @@ Parameter assigned(const std::string &word, const std::string &before) {
     return assignment(word);
 }
 
-std::string takesNoValue(const std::string &word, const std::vector<std::string> &before, const std::string &command) {
-    const std::string name = word.substr(0, word.find('='));
+std::string takesNoValue(const std::string &slip, const std::vector<std::string> &before, const std::string &command) {
+    const std::string name = slip.substr(0, slip.find('='));
     if (name.empty()) {
         return "a word that begins with \"=\" names nothing";
     }
