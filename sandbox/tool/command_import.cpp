@@ -51,8 +51,8 @@ void addImport(Command &root, Tool &tool) {
     command.option("--device", options->device, "ID", "The device to take of a file that holds several");
     command.flag("--replace", options->replace, "Start from an empty gateway");
     command.footer(
-        "Gateway files, and the CSV and JSON of `export`, are taken in as a whole or not at all. Exports of an ACS,\n"
-        "lists of name and value, nested and flat JSON of other programs are taken in as they are; what does\n"
+        "Gateway files, and the CSV and JSON of `export`, are taken in as a whole or not at all. Exports of an ACS, "
+        "lists of name and value, nested and flat JSON of other programs are taken in as they are; what does "
         "not fit is kept as text or left out, and counted.\n\nExamples:\n"
         "  caltofal-sandbox import home hosts.csv\n"
         "  caltofal-sandbox import field acs-export.csv\n"

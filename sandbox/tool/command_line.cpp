@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tool/command_line.h"
 
+#include "help/folded_formatter.h"
 #include "tool/command.h"
 #include "value/escape.h"
 
@@ -12,20 +13,20 @@
 namespace sandbox {
 namespace {
 
-constexpr const char *kFooter = R"(Examples:
-  caltofal-sandbox list
-  caltofal-sandbox new lab --from dhcp
-  caltofal-sandbox export lab Device.WiFi. > wifi.tr181
-  caltofal-sandbox fault add Device.Hosts. --code store-failed --nth 3
-
-The gateway is chosen by -g, else by CALTOFAL_GATEWAY, else it is "home". Gateways are kept in CALTOFAL_SANDBOX_DIR,
-else in caltofal/ below XDG_STATE_HOME or ~/.local/state.
-Exit codes: 0 done, 1 failed (diff: different), 2 usage, 10 absent.)";
+constexpr const char *kFooter =
+    "Examples:\n"
+    "  caltofal-sandbox list\n"
+    "  caltofal-sandbox new lab --from dhcp\n"
+    "  caltofal-sandbox export lab Device.WiFi. > wifi.tr181\n"
+    "  caltofal-sandbox fault add Device.Hosts. --code store-failed --nth 3\n\n"
+    "The gateway is chosen by -g, else by CALTOFAL_GATEWAY, else it is \"home\". Gateways are kept in "
+    "CALTOFAL_SANDBOX_DIR, else in caltofal/ below XDG_STATE_HOME or ~/.local/state.\n"
+    "Exit codes: 0 done, 1 failed (diff: different), 2 usage, 10 absent.";
 
 constexpr const char *kName = "caltofal-sandbox";
 
 // The help without the parser's own marks.
-class PlainFormatter : public CLI::Formatter {
+class PlainFormatter : public help::FoldedFormatter {
   public:
     std::string make_option_usage(const CLI::Option *option) const override {
         return option->get_required() ? option->get_name() : "[" + option->get_name() + "]";

@@ -16,7 +16,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*["<]([^">]+)[">]', re.M)
 OTHERS = {
     "sqlite3.h": ["sandbox/store"],
     "nlohmann/": ["sandbox/exchange", "sandbox/device", "sandbox/tool", "tools/pages", "tools/caltofal", "tools/web"],
-    "CLI/": ["sandbox/tool", "tools/caltofal", "tools/web"],
+    "CLI/": ["sandbox/tool", "tools/caltofal", "tools/help", "tools/web"],
     "libsmartcols": ["tools/pages", "tools/caltofal"],
     "microhttpd.h": ["tools/web"],
 }

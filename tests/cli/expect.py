@@ -64,7 +64,7 @@ def check_examples(case, tool, chosen, folder):
             continue
         count += 1
         text = tool.run(*words, "--help").out.decode()
-        examples = re.findall(r"^  caltofal (.+)$", text.split("Examples:")[1], re.M)
+        examples = re.findall(r"^  caltofal (.+)$", text.split("Examples:")[1].replace(" \\\n", " "), re.M)
         case.assertTrue(examples, words)
         for example in examples:
             with case.subTest(example):

@@ -4,6 +4,7 @@
 #include "caltofal/assigned_words.h"
 #include "caltofal/print.h"
 #include "caltofal/typed_words.h"
+#include "help/folded_formatter.h"
 #include "pages/checked.h"
 #include "pages/similar.h"
 #include "pages/text.h"
@@ -22,7 +23,8 @@ namespace {
 
 constexpr const char *kExitCodes = R"(Data goes to standard output, words to standard error.
 Exit codes: 0 done, 1 failed, 2 wrong usage, 3 time out, 4 no gateway,
-            5 value refused (read-only, type, range), 10 no such object, parameter or match,
+            5 value refused (read-only, type, range),
+            10 no such object, parameter or match,
             77 no device box in this sandbox, 128 + N ended by signal N
 
 `caltofal NOUN --help` shows a noun's arguments and examples.)";
@@ -312,6 +314,7 @@ void namingCommand(const Task &task, const std::function<void()> &act) {
 Task parse(const std::vector<std::string> &words, Options &options) {
     CLI::App app("Reads and changes a residential gateway's TR-181 configuration.", "caltofal");
     Common common{options, {}, {}};
+    app.formatter(std::make_shared<help::FoldedFormatter>()); // before the commands, which take it over
     common.add(app);
     app.require_subcommand(1);
     app.footer(kExitCodes);

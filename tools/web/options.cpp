@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "options.h"
 
+#include "help/folded_formatter.h"
+
 #include <CLI/CLI.hpp>
 #include <iostream>
 
@@ -70,6 +72,7 @@ void check(Options &options, const std::string &listen) {
 
 std::optional<int> parseOptions(int argc, char **argv, Options &options) {
     CLI::App app("Serves a residential gateway's pages over HTTP, with a page for the browser.", "caltofal-web");
+    app.formatter(std::make_shared<help::FoldedFormatter>());
     std::string listen = "127.0.0.1:8080";
     define(app, options, listen);
     try {
