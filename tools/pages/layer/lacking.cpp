@@ -59,10 +59,7 @@ void Lacking::needNot(std::string_view object) {
     std::erase(objects_, object);
 }
 
-void Lacking::tell(std::vector<std::string> &notes) const {
-    if (first_ && !answered_) {
-        throw failureOf(*first_);
-    }
+void Lacking::name(std::vector<std::string> &notes) const {
     std::vector<std::string> named = objects_;
     std::erase_if(named, [&](const std::string &object) {
         return std::any_of(objects_.begin(), objects_.end(),
@@ -73,6 +70,13 @@ void Lacking::tell(std::vector<std::string> &notes) const {
                         (named.size() == 1 ? "; what it tells" : "; what they tell") + " is missing here" +
                         first_->reason.substr(explanationIn(first_->reason)));
     }
+}
+
+void Lacking::tell(std::vector<std::string> &notes) const {
+    if (first_ && !answered_) {
+        throw failureOf(*first_);
+    }
+    name(notes);
 }
 
 } // namespace pages

@@ -23,7 +23,10 @@ class Lacking {
     // What it would tell is told by another: it is not named.
     void needNot(std::string_view object);
 
-    // Adds a line that names them. Throws Failure where the gateway lacks all that was asked for.
+    // Adds a line that names them.
+    void name(std::vector<std::string> &notes) const;
+
+    // Likewise, for a page of nothing else: throws Failure where the gateway lacks all that was asked for.
     void tell(std::vector<std::string> &notes) const;
 
   private:

@@ -47,7 +47,7 @@ Page dns(const std::string &given) {
     }};
     page.notes = notes;
     needNoDhcpClient(lacking, text(used1));
-    lacking.tell(page.notes);
+    lacking.name(page.notes);
     return page;
 }
 
