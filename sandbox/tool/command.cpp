@@ -5,6 +5,7 @@
 #include "exchange/gateway.h"
 #include "store/store.h"
 #include "value/path.h"
+#include "value/secret.h"
 
 #include <iostream>
 
@@ -26,7 +27,7 @@ bool isGateway(const Location &location) {
 std::string keyOfArgument(const std::string &path) {
     const std::optional<std::string> key = keyOf(path);
     if (!key) {
-        throw Failure(path + " is not an object path", kUsage);
+        throw Failure(shownName(path) + " is not an object path", kUsage);
     }
     return *key;
 }

@@ -4,6 +4,7 @@
 #include "help/folded_formatter.h"
 #include "tool/command.h"
 #include "value/escape.h"
+#include "value/secret.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -127,9 +128,9 @@ std::pair<const CLI::App *, std::string> chosenCommand(const CLI::App &app) {
 std::string strangerOf(const std::vector<std::string> &rest, const CLI::App &app, bool command) {
     const auto option = std::find_if(rest.begin(), rest.end(), [](const auto &word) { return word.starts_with('-'); });
     if (option != rest.end()) {
-        return inQuotes(*option) + " is not an option";
+        return quotedName(*option) + " is not an option";
     }
-    return inQuotes(rest.front()) +
+    return quotedName(rest.front()) +
            (command ? " is not a command" + meantBy(rest.front(), app) : " is one word too many");
 }
 

@@ -73,6 +73,7 @@ VALUES_NOT_SHOWN = [
      "KeyPassphrase=...?)"),
     ("", "KeyPassphrase=", _ELSEWHERE + "OBJECT KeyPassphrase=...?); see caltofal --help"),
     ("mode", "--KeyPassphrase=", 'mode: "--KeyPassphrase=..." is not an option of it; see caltofal mode --help'),
+    ("get " + _PATH, "KeyPassphrase:", f"{_ELSEWHERE}{_PATH} KeyPassphrase=...?)"),
     ("set " + _PATH, "KeyPassphrase:", _AFTER_OBJECT), ("set " + _PATH, "=", _AFTER_OBJECT),
     ("set " + _PATH, "ModeEnabled=None ", "expected NAME=VALUE after ModeEnabled=..."),
     ("set", _PATH + " ", _AFTER_OBJECT),

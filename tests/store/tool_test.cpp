@@ -219,6 +219,7 @@ TEST_F(ToolTest, TellsWrongUseApart) {
         {"", "which command?; see caltofal-sandbox --help"},
         {"nosuch", "\"nosuch\" is not a command; see caltofal-sandbox --help"},
         {"fault", "fault: which command?; see caltofal-sandbox fault --help"},
+        {"Password=hunter2", "\"Password...\" is not a command; see caltofal-sandbox --help"},
         {"fault nosuch", "fault: \"nosuch\" is not a command; see caltofal-sandbox fault --help"},
         {"fault add", "fault add: OBJECT is missing; see caltofal-sandbox fault add --help"},
         {"fault add any --code 5", "5 is neither a negative number nor the name of a code"},

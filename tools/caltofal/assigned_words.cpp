@@ -57,7 +57,7 @@ Parameter assigned(const std::string &word, const std::string &before) {
 }
 
 std::string takesNoValue(const std::string &slip, const std::vector<std::string> &before, const std::string &command) {
-    const std::string name = slip.substr(0, slip.find('='));
+    const std::string name = slip.substr(0, slip.find_first_of("=:"));
     if (name.empty()) {
         return "a word that begins with \"=\" names nothing";
     }

@@ -278,11 +278,15 @@ struct Parser {
     }
 
     // What is read is named: a word with "=" was meant for a command that writes, and must not reach the gateway.
+    // Several words are paths and names, without the colons of an address: these are a slip too, but for those in
+    // brackets.
     void refuseValues(Take take, const Words &typed) const {
-        const bool names =
-            take == Take::Word || take == Take::Optional || take == Take::Words || take == Take::AnyWords;
-        const auto slip = std::find_if(typed.begin(), typed.end(),
-                                       [](const std::string &word) { return word.find('=') != std::string::npos; });
+        const bool several = take == Take::Words || take == Take::AnyWords;
+        const bool names = several || take == Take::Word || take == Take::Optional;
+        const auto slip = std::find_if(typed.begin(), typed.end(), [several](const std::string &word) {
+            const size_t mark = word.find_first_of(several ? "=:[" : "=");
+            return word.find('=') != std::string::npos || (mark != std::string::npos && word[mark] == ':');
+        });
         if (names && slip != typed.end()) {
             throw Usage(takesNoValue(*slip, {typed.begin(), slip}, chosenWords(*top)));
         }
