@@ -38,7 +38,7 @@ def without_command(error):
     """A command line's words on wrong usage name the command and its help, which over HTTP nobody typed."""
     if error["error"]["exit"] == 2:
         message = error["error"]["message"]
-        error["error"]["message"] = re.sub(r"^[a-z -]+: (.*); see caltofal [a-z -]+ --help$", r"\1", message)
+        error["error"]["message"] = re.sub(r"^[a-z -]+: (.*); see caltofal [a-z -]+ --help$", r"\1", message).replace("after --", "after ")
     return error
 
 

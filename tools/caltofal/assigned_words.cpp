@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal/assigned_words.h"
 
-#include "caltofal.h"
-#include "pages/checked.h"
-#include "pages/failure.h"
 #include "pages/text.h"
 
 #include <algorithm>
@@ -40,20 +37,6 @@ bool beginsObject(const std::string &word) {
 std::string withoutValue(const std::string &word) {
     const size_t equals = word.find('=');
     return equals == std::string::npos ? word : word.substr(0, equals) + kAnyValue;
-}
-
-Parameter assigned(const std::string &word, const std::string &before) {
-    constexpr size_t kValueMax = PARAM_VALUE_SIZE - 1;
-    const size_t equals = word.find('=');
-    if (equals == std::string::npos || equals == 0) {
-        throw Usage("expected NAME=VALUE after " + before);
-    }
-    const size_t size = word.size() - equals - 1;
-    if (size > kValueMax) {
-        throw Usage(word.substr(0, equals) + ": the value has " + std::to_string(size) + " bytes: the most is " +
-                    std::to_string(kValueMax));
-    }
-    return assignment(word);
 }
 
 std::string takesNoValue(const std::string &slip, const std::vector<std::string> &before, const std::string &command) {

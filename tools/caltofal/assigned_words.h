@@ -16,9 +16,6 @@ bool beginsObject(const std::string &word);
 // "KeyPassphrase=..." of a word with "=", any other word as it is.
 std::string withoutValue(const std::string &word);
 
-// A word of the form NAME=VALUE. `before` is what stands before it on the command line. Throws Usage.
-pages::Parameter assigned(const std::string &word, const std::string &before);
-
 // What is wrong with a word that has "=", or ":" in its place, where none is taken, and how to set the parameter.
 // `before` are the words before this one; `command` is the noun, and the verb where it has some, "" for none.
 std::string takesNoValue(const std::string &slip, const std::vector<std::string> &before, const std::string &command);

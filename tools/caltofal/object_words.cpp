@@ -51,7 +51,7 @@ std::vector<Object> objectsToRead(const std::vector<std::string> &words) {
         if (objects.empty() || beginsObject(word)) {
             startObject(objects, word);
         } else {
-            objects.back().parameters.push_back({checkedName(word, word)});
+            objects.back().parameters.push_back({checkedName(word)});
         }
     }
     return objects;
@@ -67,14 +67,14 @@ std::vector<Object> objectsToChange(const std::vector<std::string> &words) {
             if (objects.empty() || objects.back().name != path) {
                 startObject(objects, path);
             }
-            objects.back().parameters.push_back(assigned(rest, path));
+            objects.back().parameters.push_back(assignment(rest, path));
         } else if (beginsObject(word) || (objects.empty() && !assigns)) {
             refuseColon(word);
             startObject(objects, word);
         } else if (objects.empty()) {
             throw Usage(inQuotes(withoutValue(word)) + " stands before any object");
         } else {
-            objects.back().parameters.push_back(assigned(word, lastWord(objects.back())));
+            objects.back().parameters.push_back(assignment(word, lastWord(objects.back())));
         }
     }
     for (const Object &object : objects) {

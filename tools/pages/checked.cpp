@@ -91,21 +91,24 @@ const std::string &checkedPath(const std::string &path) {
     return path;
 }
 
-const std::string &checkedName(const std::string &name, const std::string &word) {
+const std::string &checkedName(const std::string &name) {
     if (name.empty()) {
-        throw Usage("\"" + word + "\" names no parameter");
+        throw Usage("\"\" names no parameter");
     }
     checkLength(name, kNameMax, "parameter");
     return name;
 }
 
-Parameter assignment(const std::string &word) {
+Parameter assignment(const std::string &word, const std::string &before) {
     const size_t equals = word.find('=');
-    if (equals == std::string::npos) {
-        throw Usage("\"" + word + "\" is not of the form NAME=VALUE");
+    if (equals == std::string::npos || equals == 0) {
+        throw Usage("expected NAME=VALUE after " + before);
     }
-    Parameter result{checkedName(word.substr(0, equals), word), word.substr(equals + 1)};
-    checkLength(result.value, kValueMax, "value");
+    Parameter result{checkedName(word.substr(0, equals)), word.substr(equals + 1)};
+    if (result.value.size() > kValueMax) {
+        throw Usage(result.name + ": the value has " + std::to_string(result.value.size()) + " bytes: the most is " +
+                    std::to_string(kValueMax));
+    }
     return result;
 }
 

@@ -35,10 +35,11 @@ std::string checkedMac(const std::string &text);
 // An object path, not empty and not too long for a message.
 const std::string &checkedPath(const std::string &path);
 
-// A parameter's name; `word` is what it was taken from.
-const std::string &checkedName(const std::string &name, const std::string &word);
+// A parameter's name, not empty and not too long for a message.
+const std::string &checkedName(const std::string &name);
 
-// "NAME=VALUE".
-Parameter assignment(const std::string &word);
+// "NAME=VALUE"; `before` is what stands before it. The value may be a secret that nobody knows for one: no message
+// shows it.
+Parameter assignment(const std::string &word, const std::string &before);
 
 } // namespace pages

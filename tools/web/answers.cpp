@@ -64,7 +64,7 @@ Report showObjects(const Call &call) {
         if (item.name == "path" && !isAsked(query, item.value)) {
             query.objects.push_back({pages::checkedPath(item.value)});
         } else if (item.name == "where") {
-            query.where.push_back(pages::assignment(item.value));
+            query.where.push_back(pages::assignment(item.value, "where"));
         }
     }
     if (query.objects.empty()) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "caltofal/assigned_words.h"
 #include "caltofal/commands/commands.h"
 #include "caltofal/object_words.h"
+#include "pages/checked.h"
 #include "pages/objects/pages.h"
 
 namespace cli {
@@ -17,7 +17,7 @@ Show prepareGet(const Arguments &given) {
                          .types = given.given("--types"),
                          .valuesOnly = given.given("--values")};
     for (const std::string &word : given.words("--where")) {
-        query.where.push_back(assigned(word, "--where"));
+        query.where.push_back(assignment(word, "--where"));
     }
     check(query);
     return [query] { return objects::read(query); };

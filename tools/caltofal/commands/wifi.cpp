@@ -2,6 +2,7 @@
 #include "caltofal/assigned_words.h"
 #include "caltofal/commands/commands.h"
 #include "caltofal/terminal_wait.h"
+#include "pages/checked.h"
 #include "pages/failure.h"
 #include "pages/text.h"
 #include "pages/wifi/pages.h"
@@ -40,7 +41,7 @@ Show prepareSet(const Arguments &given) {
         .force = given.given("--force")};
     std::string before = given.word("SUBJECT") + " " + given.word("NUMBER");
     for (const std::string &word : given.words("SETTING")) {
-        change.wanted.push_back(assigned(word, before));
+        change.wanted.push_back(assignment(word, before));
         before = withoutValue(word);
     }
     return [change] { return wifi::changeSettings(change); };
