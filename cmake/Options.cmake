@@ -66,10 +66,7 @@ endfunction()
 # The headers of the standard library that most files of sandbox and tools include are parsed once for all their targets,
 # which therefore are compiled with the same options. After the target's sources, before options of its own.
 function(caltofal_precompile_std)
-  if(NOT CALTOFAL_PRECOMPILE)
-    return()
-  endif()
-  if(NOT TARGET std_headers)
+  if(CALTOFAL_PRECOMPILE AND NOT TARGET std_headers)
     file(WRITE ${PROJECT_BINARY_DIR}/std_headers.cpp "")
     add_library(std_headers STATIC ${PROJECT_BINARY_DIR}/std_headers.cpp)
     caltofal_precompile(std_headers <algorithm> <cstdlib> <functional> <iterator> <memory> <optional> <span> <string>
@@ -90,7 +87,7 @@ function(caltofal_precompiled_options target)
   # Not by POSITION_INDEPENDENT_CODE, which means another option for a program than for a library.
   target_compile_options(${target} PRIVATE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
   # GCC 12, which then knows no longer that they are the system's, sees short texts overrun in their concatenations.
-  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  if(CALTOFAL_PRECOMPILE AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
   endif()
 endfunction()
