@@ -45,6 +45,6 @@ export function editSsid({number, ssid}) {
     {name: "ModeEnabled", label: "Security", options: [["NONE", "none: open to all"], "WEP", "WPA-PSK", "WPA2/WPA-PSK",
       "WPA2-PSK", "WPA2/WPA-Enterprise", "WPA2-Enterprise"]},
     {name: "KeyPassphrase", label: "Pass phrase", reveal, bytes: [8, 63], or: /^[\da-f]{64}$/i,
-      hint: "8 to 63 characters, or 64 hexadecimal digits. Left empty, it stays as it is."},
+      hint: "8 to 63 characters. Left empty, it stays as it is."},
     {name: "IsolationEnable", label: "Keep stations apart"}])});
 }
