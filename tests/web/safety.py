@@ -305,7 +305,8 @@ class RefusalLog(unittest.TestCase):
             wrong = {"Authorization": "Bearer not-the-token"}
             for method, target, headers in (
                     ("GET", "/api/v1/wifi/ssids/1?x=%1b[2J", wrong), ("GET", "/api/v1/%0a%1b[2J?token=secret", {"Authorization": None}),
-                    ("GET", "/?token=not-the-token", {}), ("PATCH", "/api/v1/wan", {}),
+                    ("GET", "/?token=not-the-token", {}), ("PUT", "/api/v1/wan", {}),
+                    ("DELETE", "/api/v1/a%0a%1b[2J", {}), ("PATCH", "/api/v1/objects?secret%0a=x", {}),
                     ("PATCH", "/api/v1/objects", {"Origin": "http://evil.example"}),
                     ("POST", "/api/v1/mesh/sync", {"Content-Type": "text/plain"}), ("EVIL", "/x", {"Host": "evil.example"}),
                     *(("GET", "/api/v1", wrong) for _ in range(5)), ("GET", "/api/v1/nonsense", {}), ("GET", "/nonsense", {})):
@@ -315,7 +316,8 @@ class RefusalLog(unittest.TestCase):
         matches = [re.fullmatch(pattern, line) for line in lines]
         self.assertTrue(all(matches), lines)
         self.assertEqual([(match[1].split(":")[0], match[2]) for match in matches],
-                         [("GET /api/v1/wifi/ssids/{N}", "401"), ("PATCH /api/v1/wan", "405"), ("PATCH /api/v1/objects", "403"),
+                         [("GET /api/v1/wifi/ssids/{N}", "401"), ("? /api/v1/wan", "405"),
+                          ("DELETE /api", "404"), ("PATCH /api/v1/objects", "400"), ("PATCH /api/v1/objects", "403"),
                           ("POST /api/v1/mesh/sync", "415"), ("? /", "421"), ("GET /api", "503"), ("7 more", "401")])
 
     def test_it_is_not_flooded(self):

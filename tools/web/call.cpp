@@ -58,7 +58,7 @@ Call parseCall(std::string_view method, const Target &target) {
     Call call{route.resource, methodOf(method), std::move(route.argument), target.query};
     if ((call.method & route.resource->methods) == 0) {
         throw Refusal(Status::MethodNotAllowed,
-                      std::string(method) + " is not possible here: " + methodNames(*route.resource, false) + " is",
+                      pages::inQuotes(method) + " is not possible here: " + methodNames(*route.resource, false) + " is",
                       {{"Allow", methodNames(*route.resource, false)}});
     }
     checkQuery(call);

@@ -16,6 +16,7 @@ using std::chrono::steady_clock;
 constexpr size_t kCountsMax = 256;
 constexpr const char *kOthers = "other addresses"; // than those that are counted
 
+// What is noted of every method, with its reason, which is the server's own text.
 constexpr Status kNoted[] = {Status::Unauthorized, Status::Forbidden, Status::UnsupportedMediaType,
                              Status::MisdirectedRequest, Status::Unavailable};
 
@@ -38,8 +39,8 @@ RefusalLog::~RefusalLog() {
 
 void RefusalLog::note(const Request &request, const Refusal &refusal) {
     const unsigned asked = methodOf(request.method);
-    const bool isChange = asked != 0 && asked != kGet;
-    if (!isChange && std::find(std::begin(kNoted), std::end(kNoted), refusal.status()) == std::end(kNoted)) {
+    const bool isNoted = std::find(std::begin(kNoted), std::end(kNoted), refusal.status()) != std::end(kNoted);
+    if (asked == kGet && !isNoted) {
         return;
     }
     const auto now = steady_clock::now();
@@ -55,7 +56,9 @@ void RefusalLog::note(const Request &request, const Refusal &refusal) {
         return;
     }
     const std::string method = asked == 0 ? "?" : request.method;
-    logLine(key.first, "refused " + method + " " + resourceOf(request) + ": " + refusal.what(), key.second);
+    // The other refusals quote what the client has sent.
+    const std::string why = isNoted ? std::string(": ") + refusal.what() : "";
+    logLine(key.first, "refused " + method + " " + resourceOf(request) + why, key.second);
 }
 
 void RefusalLog::settle(Time last) {
