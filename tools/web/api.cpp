@@ -35,6 +35,11 @@ pages::Value found(pages::Value job, const Call &call) {
     return job;
 }
 
+// A dry run changes nothing.
+bool isLogged(const Call &call) {
+    return call.method != kGet && call.text("dry_run") != "1";
+}
+
 } // namespace
 
 Api::Needs Api::needsOf(const Request &request) {
@@ -54,6 +59,13 @@ Api::Needs Api::needsOf(const Request &request) {
     }
 }
 
+void Api::expect(const Request &request) {
+    const Call call = parseCall(request.method, parseTarget(request.target));
+    if (isLogged(call)) {
+        log_.expect(call, request);
+    }
+}
+
 Response Api::answer(const Request &request) {
     return answered([&] {
         const Target target = parseTarget(request.target);
@@ -67,17 +79,17 @@ Response Api::answerCall(const Request &request, const Target &target) {
         takeBody(call, request.body);
         return tagged(answerRead(call), request.ifNoneMatch);
     }
-    if (call.flag("dry_run")) {
+    if (!isLogged(call)) {
         takeBody(call, request.body);
         return answerChange(call, request, [] {});
     }
-    const auto entry = log_.begin(request);
+    log_.expect(call, request);
     Response response = answered([&] {
         takeBody(call, request.body);
-        log_.about(entry, call.body);
-        return answerChange(call, request, [&] { log_.tries(entry); });
+        log_.about(request, call.body);
+        return answerChange(call, request, [&] { log_.tries(request); });
     });
-    log_.end(entry, response.status);
+    log_.end(request, response.status);
     return response;
 }
 

@@ -30,6 +30,9 @@ class Api {
     // Begins no change any more. Whether some were under way; the log says of these that nobody knows how they ended.
     bool abandonChanges() { return log_.close(); }
 
+    // A request has come that waits for its turn: the log knows of it, if it is a change.
+    void expect(const Request &request);
+
     // Throws nothing: what goes wrong is an answer too.
     Response answer(const Request &request);
 

@@ -5,7 +5,8 @@
 #include "pages/text.h"
 #include "refusal.h"
 
-#include <vector>
+#include <algorithm>
+#include <string_view>
 
 namespace web {
 namespace {
@@ -40,30 +41,35 @@ std::string listed(const std::vector<std::string> &names) {
 
 } // namespace
 
-ChangeLog::Handle ChangeLog::begin(const Request &request) {
-    const std::string text = request.method + " " + plain(request.target);
+void ChangeLog::expect(const Call &call, const Request &request) {
+    const std::string_view url = request.target;
+    const std::string text =
+        request.method + " " + plain(url.substr(0, url.find('?'))) + (call.text("db_only") == "1" ? "?db_only=1" : "");
     const std::lock_guard lock(mutex_);
-    return underWay_.insert(underWay_.end(), {request.address, text});
+    if (find(request) == underWay_.end()) {
+        underWay_.push_back({&request, text});
+    }
 }
 
-void ChangeLog::about(Handle change, const pages::Value &body) {
+void ChangeLog::about(const Request &request, const pages::Value &body) {
     const std::string names = listed(namesOf(body));
     const std::lock_guard lock(mutex_);
-    change->text += names;
+    find(request)->text += names;
 }
 
-void ChangeLog::tries(Handle change) {
+void ChangeLog::tries(const Request &request) {
     const std::lock_guard lock(mutex_);
     if (closed_) {
         throw Refusal(Status::Unavailable, "the server ends: nothing is changed any more");
     }
-    change->isTried = true;
+    find(request)->isTried = true;
 }
 
-void ChangeLog::end(Handle change, Status status) {
+void ChangeLog::end(const Request &request, Status status) {
     const std::lock_guard lock(mutex_);
+    const auto change = find(request);
     if (!change->isTold) {
-        logLine(change->address, change->text, status);
+        logLine(request.address, change->text, status);
     }
     underWay_.erase(change);
 }
@@ -73,10 +79,15 @@ bool ChangeLog::close() {
     closed_ = true;
     for (Change &change : underWay_) {
         change.isTold = true;
-        logLine(change.address, change.text,
+        logLine(change.request->address, change.text,
                 change.isTried ? "unknown: ended while the gateway was asked" : "not begun: the server ended");
     }
     return !underWay_.empty();
+}
+
+std::vector<ChangeLog::Change>::iterator ChangeLog::find(const Request &request) {
+    return std::find_if(underWay_.begin(), underWay_.end(),
+                        [&](const Change &change) { return change.request == &request; });
 }
 
 } // namespace web

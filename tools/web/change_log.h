@@ -6,9 +6,9 @@
 #include "request.h"
 #include "status.h"
 
-#include <list>
 #include <mutex>
 #include <string>
+#include <vector>
 
 namespace web {
 
@@ -16,28 +16,30 @@ namespace web {
 // for many threads.
 class ChangeLog {
   public:
-    struct Change {
-        std::string address, text;
-        bool isTried = false, isTold = false;
-    };
-    using Handle = std::list<Change>::iterator;
-
-    // A change has come; its body is not read yet.
-    Handle begin(const Request &request);
+    // A change has come, and waits for its turn; to say so again does nothing. The request stays where it is until
+    // end().
+    void expect(const Call &call, const Request &request);
     // What its body sets.
-    void about(Handle change, const pages::Value &body);
+    void about(const Request &request, const pages::Value &body);
     // The gateway is asked from now on. Throws Refusal (503) when the log was closed.
-    void tries(Handle change);
+    void tries(const Request &request);
     // It ends, with its line.
-    void end(Handle change, Status status);
+    void end(const Request &request, Status status);
 
     // Writes the line of each change that is under way: nobody knows how one ends that is tried, and no other is tried
     // any more. Whether there was one.
     bool close();
 
   private:
+    struct Change {
+        const Request *request;
+        std::string text;
+        bool isTried = false, isTold = false;
+    };
+    std::vector<Change>::iterator find(const Request &request); // with the mutex held
+
     std::mutex mutex_;
-    std::list<Change> underWay_;
+    std::vector<Change> underWay_;
     bool closed_ = false;
 };
 

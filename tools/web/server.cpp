@@ -178,6 +178,9 @@ struct Callbacks {
             answerPage(server, exchange, true);
             return finish(server, connection, exchange);
         }
+        if (!isPage) {
+            server.api_.expect(exchange.request);
+        }
         MHD_suspend_connection(connection); // which has no other request: so many can wait as there are connections
         server.workers_->add([&server, connection, &exchange, isPage] {
             if (isPage) {
