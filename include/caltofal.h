@@ -273,8 +273,9 @@ int faltocal_send_main_ToDb(MsgHeader *message, const char *object, const char *
  * "query" in any case sends what was queued. The first call on a zeroed header initialises it (CALTOFAL_OWNER_HOST).
  * `mainOper` adds to the keywords of faltocal_send_main(): "get_def_val" (defaults), "get_leaf_node" (own
  * parameters only), "get_filter_by_param_value" (parameters are name/value filters) and "set_only_db" (stores
- * without applying, when the message was started by an earlier call). 0, or -1 with a console trace. The caller
- * releases the message in every case. */
+ * without applying, when the message was started by an earlier call). A message has one operation, that of the call
+ * that began it: of the others' `mainOper` only "set_only_db" counts, and any word is taken; `subOper` counts in each.
+ * 0, or -1 with a console trace. The caller releases the message in every case. */
 int faltocal_send_main_multi_obj(MsgHeader *message, const char *object, const char *mainOper, const char *subOper,
                                  int count, ...);
 
