@@ -35,6 +35,15 @@ CsvField accessOf(const Entry &entry) {
     return entry.writable ? CsvField(*entry.writable ? "rw" : "ro") : CsvField();
 }
 
+// The word itself is not told: it is a value where that has a comma in it and no quotes around it.
+void readType(Entry &entry, const std::string &field) {
+    try {
+        entry.type = ValueType::parse(field);
+    } catch (const std::invalid_argument &) {
+        throw std::invalid_argument("an unknown type");
+    }
+}
+
 // Annotations that only objects have.
 void readObject(Entry &entry, const std::string &field) {
     const Entry object = gatewayEntry(entry.path + " [" + field + "]");
@@ -54,8 +63,7 @@ constexpr Column kColumns[] = {
     {"path", nullptr, [](const Entry &entry) { return CsvField(entry.fullPath()); }},
     {"value", [](Entry &entry, const std::string &field) { entry.value = field; },
      [](const Entry &entry) { return entry.value; }},
-    {"type", [](Entry &entry, const std::string &field) { entry.type = ValueType::parse(field); },
-     [](const Entry &entry) { return entry.type ? CsvField(entry.type->text()) : CsvField(); }},
+    {"type", readType, [](const Entry &entry) { return entry.type ? CsvField(entry.type->text()) : CsvField(); }},
     {"access", readAccess, accessOf},
     {"default", [](Entry &entry, const std::string &field) { entry.fallback = field; },
      [](const Entry &entry) { return entry.fallback; }},
@@ -71,13 +79,21 @@ const Column *findColumn(const CsvField &heading) {
     return column == std::end(kColumns) ? nullptr : column;
 }
 
+// What is no name of a column is shown nowhere: in a file without a header it is a value.
 std::vector<const Column *> readHeader(const CsvRecord &names, const CsvReader &reader) {
+    constexpr const char *kNames = "path, value, type, access, default, running, object";
+    if (std::none_of(names.begin(), names.end(), findColumn)) {
+        reader.refuse(std::string("the header line is missing: the first line has to name the columns, of ") + kNames);
+    }
     std::vector<const Column *> columns;
     for (const CsvField &field : names) {
         const Column *column = findColumn(field);
-        if (!column || std::find(columns.begin(), columns.end(), column) != columns.end()) {
-            reader.refuse(quotedShort(field.value_or("")) +
-                          " is no column: path, value, type, access, default, running, object");
+        const std::string place = "column " + std::to_string(columns.size() + 1) + " of the header is ";
+        if (!column) {
+            reader.refuse(place + "none of " + kNames);
+        }
+        if (std::find(columns.begin(), columns.end(), column) != columns.end()) {
+            reader.refuse(place + "a second " + std::string(column->name));
         }
         columns.push_back(column);
     }
@@ -146,8 +162,8 @@ Entries readCsv(std::string_view text, const std::string &file) {
     Entries entries;
     while (reader.next(record)) {
         if (record.size() != columns.size()) {
-            reader.refuse(std::to_string(record.size()) + " fields where the header has " +
-                          std::to_string(columns.size()));
+            reader.refuse(std::to_string(record.size()) + (record.size() == 1 ? " field" : " fields") +
+                          " where the header has " + std::to_string(columns.size()));
         }
         try {
             entries.push_back(entryOfRecord(record, columns));

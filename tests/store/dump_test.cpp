@@ -13,6 +13,7 @@
 #include <ctime>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <sstream>
 
 using namespace sandbox;
@@ -101,6 +102,29 @@ TEST_F(DumpTest, LeavesHiddenSecretsAsTheyAre) {
     EXPECT_EQ(valueOf("Device.PPP.Interface.1", "Password"), "dear");
     EXPECT_EQ(valueOf("Device.WiFi.AccessPoint.1.Security", "KeyPassphrase"), "");
     EXPECT_EQ(setOne("Device.WiFi.AccessPoint.1.Security", {{"KeyPassphrase", "correct-horse"}}), 0);
+}
+
+TEST_F(DumpTest, ShowsNoSecretThatStandsInAnotherColumn) {
+    const struct {
+        const char *text, *value, *told;
+    } cases[] = {
+        {R"([["Device.A.Password", "xsd:string", "SEK"], ["Device.A.On", "xsd:boolean", true]])", "SEK", ""},
+        {R"([["Device.A.Password", "xsd:string", ""]])", "", ""},
+        {R"([{"name": "Device.A.Password", "value": "XSD:string", "type": "SEK"}])", "SEK", ""},
+        {R"([["Device.A.Password", "xsd:string", "xsd:string"]])", "xsd:string", ""},
+        {"Parameter,Value,Value type\nDevice.A.Password,x,SEK\n", "x", "unknown type.*: 1, first Device.A.Password\n"},
+        {"Parameter,Value,Value type\nDevice.A.Password,x,\nDevice.A.B,x,say SEK\n", "x", "1, first Device.A.B\n"},
+        {"Parameter,Value\nDevice.A.Password,x\nSEK\n", "x", "lacks fields.*: 1, first line 3\n"},
+        {R"({"Device.A.Password": 53e9})", "53e9", "first Device.A.Password: .hidden. is not a number"},
+    };
+    for (const auto &row : cases) {
+        const std::string gateway = "g" + std::to_string(&row - cases);
+        const std::string report = take(gateway, row.text, "x");
+        EXPECT_EQ(report.find("SEK"), std::string::npos) << report;
+        EXPECT_TRUE(std::regex_search(report, std::regex(row.told))) << report;
+        setenv("CALTOFAL_GATEWAY", gateway.c_str(), 1);
+        EXPECT_EQ(valueOf("Device.A", "Password"), row.value) << row.text;
+    }
 }
 
 TEST_F(DumpTest, TakesOneOfSeveralDevices) {

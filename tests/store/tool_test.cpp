@@ -79,9 +79,14 @@ TEST_F(ToolTest, NamesFileAndLineOfAMistake) {
         {"a.tr181", "# x\nDevice.A\n", "a.tr181:2: \"Device.A\" has no value: \" = \" is missing"},
         {"a.csv", "path,value\nDevice.A.B,1\n\nDevice.Info.UpTime,x\n",
          "a.csv:4: Device.Info.UpTime: \"x\" is not of type unsignedInt"},
-        {"b.csv", "path,value\nDevice.A.B,\"1\n2\"\nDevice.A.C\n", "b.csv:4: 1 fields where the header has 2"},
+        {"b.csv", "path,value\nDevice.A.B,\"1\n2\"\nDevice.A.C\n", "b.csv:4: 1 field where the header has 2"},
         {"c.csv", "path,amount\n",
-         "c.csv:1: \"amount\" is no column: path, value, type, access, default, running, object"},
+         "c.csv:1: column 2 of the header is none of path, value, type, access, default, running, object"},
+        {"e.csv", "path,value,path\n", "e.csv:1: column 3 of the header is a second path"},
+        {"f.csv", "Device.A.Password,hunter2\nDevice.A.B,1\n",
+         "f.csv:1: the header line is missing: the first line has to name the columns, of path, value, type, access, "
+         "default, running, object"},
+        {"g.csv", "path,value,type\nDevice.A.Password,hunter,2\n", "g.csv:2: an unknown type"},
         {"d.csv", "path,value\nDevice.A.B,\"x\n", "d.csv:2: a quoted field does not end"},
     };
     const Lines before = exported();

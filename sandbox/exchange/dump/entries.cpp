@@ -132,6 +132,9 @@ class Conversion {
 
     void takeValue(DumpRow &row, Entry entry) {
         const std::string &path = row.path;
+        if (row.value && !row.type.empty() && areSwapped(*row.value, row.type)) {
+            std::swap(*row.value, row.type);
+        }
         if (!row.value) {
             report_.count(Reason::NoValue, path);
             row.value = "";

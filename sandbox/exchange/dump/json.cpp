@@ -102,16 +102,19 @@ class JsonDump {
         }
     }
 
-    // ["Device.DeviceInfo.UpTime", 77, "xsd:unsignedInt"]
+    // ["Device.DeviceInfo.UpTime", 77, "xsd:unsignedInt"], or with the type before the value
     static bool isTuple(const JsonNode &node) {
         return node.kind == JsonNode::Kind::Array && node.children.size() >= 2 && areScalars(node) &&
                beginsWithRoot(node.children.front().node.text);
     }
 
     void tuple(const JsonNode &node) {
-        DumpRow row = rowOf(node.children[0].node.text, node);
-        readLeaf(node.children[1].node, row);
-        row.type = node.children.size() > 2 ? node.children[2].node.text : "";
+        const auto text = [&node](size_t i) { return node.children[i].node.text; };
+        const bool typed = node.children.size() > 2;
+        const bool swapped = typed && areSwapped(text(1), text(2));
+        DumpRow row = rowOf(text(0), node);
+        readLeaf(node.children[swapped ? 2 : 1].node, row);
+        row.type = typed ? text(swapped ? 1 : 2) : "";
         dump_.rows.push_back(std::move(row));
     }
 

@@ -4,10 +4,12 @@
 #include "exchange/dump/known.h"
 #include "exchange/dump/words.h"
 #include "value/path.h"
+#include "value/secret.h"
 #include "value/value_syntax.h"
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 
 namespace sandbox {
 namespace {
@@ -56,6 +58,13 @@ ValueType typeOfValue(const DumpRow &row, const std::string &value) {
                                                                                       : ValueType();
 }
 
+// An unknown type as the report names it: where columns are out of place it may be a value, and that a secret.
+std::string shownType(std::string_view parameter, const std::string &type) {
+    const bool word =
+        std::all_of(type.begin(), type.end(), [](unsigned char c) { return std::isalnum(c) != 0 || c == ':'; });
+    return word && !isSecretName(parameter) ? ": " + type : "";
+}
+
 bool looksReadOnly(std::string_view name) {
     return std::any_of(std::begin(kReadOnlyEndings), std::end(kReadOnlyEndings),
                        [name](std::string_view ending) { return name.ends_with(ending); });
@@ -79,10 +88,11 @@ void Typing::describe(const DumpRow &row, Entry &entry, ImportReport &report) {
     const Definition *known = knownParameter(pattern_ + entry.name);
     const std::optional<ValueType> said = row.type.empty() ? std::nullopt : typeOfWord(row.type, numbers_);
     if (!row.type.empty() && !said && (numbers_ || !isInteger(row.type))) {
-        report.count(Reason::UnknownType, entry.fullPath() + ": " + row.type);
+        report.count(Reason::UnknownType, entry.fullPath() + shownType(entry.name, row.type));
     }
     if (row.form == DumpRow::Form::Number && !said && !known && !fits(ValueType::parse("decimal"), *entry.value)) {
-        report.count(Reason::Misfit, entry.fullPath() + ": " + *entry.value + " is not a number");
+        report.count(Reason::Misfit,
+                     entry.fullPath() + ": " + quotedValue(entry.name, *entry.value) + " is not a number");
     }
     // What is known is narrower than what files say, but the file's type is the device's own.
     const bool useKnown = known && (fits(known->type, *entry.value) || !said);

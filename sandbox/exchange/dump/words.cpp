@@ -155,6 +155,18 @@ bool isTableWord(std::string_view word) {
     return std::find(std::begin(kTableWords), std::end(kTableWords), plain) != std::end(kTableWords);
 }
 
+namespace {
+
+bool isSchemaType(std::string_view word) {
+    return plainWord(word).starts_with("xsd:") && typeOfWord(word, false);
+}
+
+} // namespace
+
+bool areSwapped(std::string_view value, std::string_view type) {
+    return isSchemaType(value) && !isSchemaType(type);
+}
+
 std::optional<bool> writableOfWord(std::string_view word) {
     const std::string plain = plainWord(word);
     for (const AccessWord &row : kAccessWords) {

@@ -22,6 +22,9 @@ std::optional<ValueType> typeOfWord(std::string_view word, bool numbers);
 bool isObjectWord(std::string_view word);
 bool isTableWord(std::string_view word);
 
+// Whether a value and a type stand in each other's place: the value is a type word of XML Schema, the type is none.
+bool areSwapped(std::string_view value, std::string_view type);
+
 // "readWrite", "rw", "true", "1" ...; empty when the word is not known.
 std::optional<bool> writableOfWord(std::string_view word);
 
