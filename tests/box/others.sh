@@ -17,6 +17,8 @@ result() { # INSTANCE NAME=VALUE...
         2 Channel 36 2 PossibleChannels 36-44 2 Enable 1
     ssid 1 ath0 net 1
     ssid 2 wl1.1 net5 2
+    ssid 3 '' 'my home net' 1
+    ssid 4 'my/lan 2' net4 2
     printf 'Device.WiFi.AccessPoint.1.%s = %s\n' SSIDReference Device.WiFi.SSID.1 AssociatedDevice.1.MACAddress 02:00:5E:00:00:01 \
         AssociatedDevice.1.SignalStrength -60 AssociatedDevice.2.MACAddress 02:00:5E:00:00:02 AssociatedDevice.2.Active 0
     result 1 'SSID=Next door' BSSID=02:00:5E:11:11:11 Channel=6 SignalStrength=-70 SecurityModeEnabled=WPA-WPA2 \
@@ -26,6 +28,8 @@ result() { # INSTANCE NAME=VALUE...
 
 export CALTOFAL_BOX_SCAN_MS=100
 expect 'interfaces by the names that the gateway gives' 'ath0 wl1.1' "$(in_box other 'ls /proc/net/mtlk' | paste -sd ' ')"
+expect 'no configuration of an SSID without an interface' 'hostapd_ath0.conf hostapd_wl1.1.conf interface=wl1.1 ssid=net5' \
+    "$(in_box other 'cd /opt/lantiq/wave/confs && ls && cat hostapd_wl*' | paste -sd ' ')"
 expect 'stations without Active are there, inactive ones are not' '02:00:5E:00:00:01' \
     "$(in_box other 'sed -n "s/ *\(.*\) : STA MAC/\1/p" /proc/net/mtlk/ath0/PeerFlowStatus')"
 expect 'radios by their place' 'phy0 phy1' "$(in_box other 'for i in ath0 wl1.1; do iw dev $i info; done' | sed -n 's/.*wiphy /phy/p' | paste -sd ' ')"
