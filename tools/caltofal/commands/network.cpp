@@ -99,7 +99,7 @@ const Command kNetworkCommands[] = {
      {{"OBJECT", Take::Word, "An object of the interface stack"},
       {"--walk", Take::Flag, "Go on downwards to the physical interface"},
       {"--all", Take::Flag,
-       "The whole list, also where it is longer than the library's record; every branch of a walk"}}},
+       "What is directly below, also what does not fit the library's record; with --walk every branch of the walk"}}},
     {"address",
      "Tell what kind of address a text is",
      "192.168.1.1\nfe80::1",
