@@ -146,7 +146,8 @@ std::string faultOf(const CLI::App &app, const CLI::App &chosen, const CLI::Pars
         return group ? "which command?" : name + " is missing";
     }
     if (dynamic_cast<const CLI::ArgumentMismatch *>(&error)) {
-        return name + " needs a value";
+        return name +
+               (message.find(" required but received ") != std::string::npos ? " is given twice" : " needs a value");
     }
     if (dynamic_cast<const CLI::ConversionError *>(&error)) { // only numbers and flags are converted
         return inQuotes(message.substr(message.rfind(' ') + 1)) + " is not understood";

@@ -2,6 +2,7 @@
 //
 // caltofal-sandbox: makes, shows and changes the gateways that the sandbox's libcal serves.
 #include "caltofal.h"
+#include "help/typed_values.h"
 #include "tool/command.h"
 #include "value/refusal.h"
 
@@ -11,7 +12,7 @@ namespace sandbox {
 namespace {
 
 int fail(const std::exception &error, int exitCode) {
-    std::cerr << "caltofal-sandbox: " << error.what() << '\n';
+    std::cerr << "caltofal-sandbox: " << help::withoutTypedValues(error.what()) << '\n';
     return exitCode;
 }
 
@@ -36,6 +37,7 @@ int run(int argc, char **argv) {
 } // namespace sandbox
 
 int main(int argc, char **argv) {
+    help::noteTypedWords(argc, argv);
     try {
         return sandbox::run(argc, argv);
     } catch (const std::exception &error) {

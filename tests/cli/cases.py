@@ -81,6 +81,9 @@ VALUES_NOT_SHOWN = [
     ("set", "KeyPassphrase=", '"KeyPassphrase=..." stands before any object'),
     ("wifi set ssid 1", "KeyPassphrase:", "expected NAME=VALUE after ssid 1"),
     (f"get {_PATH} --where", "KeyPassphrase:", "expected NAME=VALUE after --where"),
+    ("wifi acl 1 --mac", "KeyPassphrase=", '"KeyPassphrase=..." is not a MAC address: six pairs of digits, joined by '
+     "colons, dashes or nothing"),
+    ("hosts --watch", "KeyPassphrase=", '--watch takes whole seconds from 1 to 86400, not "KeyPassphrase=..."'),
 ]
 
 # Gateway, command (a list where a word holds blanks), exit code, the layer's code, what standard error says.
@@ -173,6 +176,12 @@ FAILURES = [
     ("home", "set Device.WiFi.Radio.1", 2, None, "Device.WiFi.Radio.1: nothing to set"),
     *(("home", f"{command} {word}hunter2", 2, None, message)  # what it is not to show is tested too
       for command, word, message in VALUES_NOT_SHOWN),
+    ("home", "apply KeyPassphrase=hunter2", 1, None, "KeyPassphrase=...: No such file or directory"),
+    ("home", ["address", "KeyPassphrase=" + "hunter2" * 9], 5, None,
+     '"KeyPassphrase=..." is neither an IPv4 nor an IPv6 nor a MAC address'),
+    ("KeyPassphrase=hunter2", "hosts", 2, None, "--gateway: \"KeyPassphrase=...\" is not a gateway name: letters, digits, "
+     "'.', '_' and '-'"),
+    ("home", "hosts -g bridge", 2, None, "hosts: --gateway is given twice; see caltofal hosts --help"),
     ("home", ["set", "Device.WiFi.SSID.1", "SSID=" + "x" * 1024], 2, None,
      "SSID: the value has 1024 bytes: the most is 1023"),
     ("home", ["get", "Device." + "x" * 249], 2, None, 'object path "Device.' + "x" * 33 +

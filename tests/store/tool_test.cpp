@@ -191,6 +191,13 @@ TEST_F(ToolTest, KeepsGateways) {
     EXPECT_EQ(run("new copy --from lab").code, 0);
     EXPECT_EQ(run("diff lab copy").out, "");
     EXPECT_EQ(run("new more --from nosuch").errors, "caltofal-sandbox: nosuch is neither a gateway nor a file\n");
+    for (const char *arguments :
+         {"remove 'Key=hun\"ter2'", "diff lab 'Key=hunter\t2'", "import new Key=hunter2", "new x --from=Key=hunter2",
+          "-gKey=hunter2 boot", "fault add any --code Key=hunter2"}) {
+        const std::string errors = run(arguments).errors;
+        EXPECT_NE(errors.find("Key=..."), std::string::npos) << errors;
+        EXPECT_EQ(errors.find("hun"), std::string::npos) << errors;
+    }
     EXPECT_EQ(run("console -g nosuch").code, 10);
     EXPECT_EQ(run("-g nosuch fault add any").code, 10);
     EXPECT_EQ(run("fault add Device.Nope.").code, 10);
@@ -239,6 +246,7 @@ TEST_F(ToolTest, TellsWrongUseApart) {
         {"import '' {}/x --replace", "import: NAME is empty; see caltofal-sandbox import --help"},
         {"remove ''", "remove: NAME is empty; see caltofal-sandbox remove --help"},
         {"-g '' list", "list: --gateway is empty; see caltofal-sandbox list --help"},
+        {"-g a -g b list", "list: --gateway is given twice; see caltofal-sandbox list --help"},
         {"list --nope", "list: \"--nope\" is not an option; see caltofal-sandbox list --help"},
         {"list more", "list: \"more\" is one word too many; see caltofal-sandbox list --help"},
         {"help nosuch", "help: \"nosuch\" is not a command; see caltofal-sandbox --help"},

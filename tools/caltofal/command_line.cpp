@@ -11,6 +11,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cctype>
 #include <deque>
 #include <iostream>
 #include <sstream>
@@ -36,7 +37,9 @@ constexpr const char *kCommonOptions =
     "Options of every command, told by caltofal --help:\n"
     "-j/--json, --terse, --columns, --show-secrets, --watch, --trace, -g/--gateway, -V/--version";
 
-constexpr const char *kVerbMissing = "A subcommand is required"; // the parser's words
+// The parser's words.
+constexpr const char *kVerbMissing = "A subcommand is required";
+constexpr const char *kGivenAgain = "At Most 1 required but received ";
 
 std::string notEmpty(const std::string &value) {
     return value.empty() ? "is empty" : "";
@@ -48,6 +51,15 @@ int secondsOf(const std::string &word) {
     } catch (const Usage &) {
         throw Usage("--watch takes whole seconds from 1 to " + std::to_string(kWatchMax) + ", not " +
                     pages::inQuotes(word));
+    }
+}
+
+// As the sandbox has it: another name must not reach its trace, as it may be a value that was typed in the wrong place.
+void checkGatewayName(const std::string &name) {
+    const auto mayStand = [](unsigned char c) { return std::isalnum(c) != 0 || c == '.' || c == '_' || c == '-'; };
+    if (!std::all_of(name.begin(), name.end(), mayStand)) {
+        throw Usage("--gateway: " + pages::inQuotes(name) +
+                    " is not a gateway name: letters, digits, '.', '_' and '-'");
     }
 }
 
@@ -84,6 +96,7 @@ struct Common {
         if (options.form.json && (options.form.terse || !columns.empty())) {
             throw Usage("--json goes with neither --terse nor --columns");
         }
+        checkGatewayName(options.gateway);
         if (!watch.empty()) {
             options.watch = secondsOf(watch == kDefaultWatch ? kDefaultSeconds : watch);
         }
@@ -183,7 +196,9 @@ std::string faultOf(const CLI::App &app, const std::string &words, const CLI::Pa
         return name + " is missing";
     }
     if (dynamic_cast<const CLI::ArgumentMismatch *>(&error)) {
-        return name + " needs a value (" + textBetween(message, " required ", " missing") + ")";
+        return message.find(kGivenAgain) != std::string::npos
+                   ? name + " is given twice"
+                   : name + " needs a value (" + textBetween(message, " required ", " missing") + ")";
     }
     if (dynamic_cast<const CLI::ConversionError *>(&error)) { // only flags are converted
         return textBetween(message, "Could not convert: ", " =") + " takes no value";

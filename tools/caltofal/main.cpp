@@ -9,6 +9,7 @@
 #include "caltofal/trace.h"
 #include "caltofal/typed_words.h"
 #include "caltofal/watch.h"
+#include "help/typed_values.h"
 #include "pages/layer/call.h"
 #include "pages/layer/request_log.h"
 #include "pages/process/streams.h"
@@ -100,6 +101,7 @@ void runCommand(const std::vector<std::string> &words) {
 
 int main(int argc, char **argv) {
     occupyStreams();
+    help::noteTypedWords(argc, argv);
     watchSignals(asksForJson(argc, argv));
     useUtf8Locale();
     rememberCommandLine(argv, asksForJson(argc, argv));

@@ -6,6 +6,7 @@
 #include "caltofal/printable.h"
 #include "caltofal/render.h"
 #include "caltofal/terminal.h"
+#include "help/typed_values.h"
 #include "pages/json.h"
 #include "pages/text.h"
 
@@ -112,7 +113,9 @@ std::string notesOf(const Report &report, const Form &form) {
 }
 
 std::string errorLine(const Failure &failure, bool json) {
-    return (json ? toJson(errorValue(failure)) : kProgram + printable(failure.what())) + "\n";
+    const Failure shown(failure.category(), help::withoutTypedValues(failure.what()),
+                        help::withoutTypedValues(failure.object()), failure.code());
+    return (json ? toJson(errorValue(shown)) : kProgram + printable(shown.what())) + "\n";
 }
 
 void printError(const Failure &failure, bool json) {
