@@ -141,6 +141,8 @@ FAILURES = [
     ("home", "address 192.168.1.256", 5, None, '"192.168.1.256" is neither an IPv4 nor an IPv6 nor a MAC address'),
     ("static", "dsl", 10, -202, "request on Device.DSL.Line.1 failed: no such object"),
     ("static", "atm", 10, -202, "request on Device.ATM.Link.1 failed: no such object"),
+    ("repeater", "wan --ethernet", 10, -208, "Device.IP.Interface: none has the Alias cpe-EthWan-IPIntf-1, by which the "
+     "library knows the Ethernet WAN"),
     ("nowhere", "mode", 4, -209, "request on Device.X_ZINTU_CurrentNetwork failed: there is no gateway "),
     ("nowhere", "status", 4, -209, "request on Device.X_ZINTU_CurrentNetwork failed: there is no gateway "),
     ("nowhere", "get Device.Hosts", 4, -209, "there is no gateway "),
@@ -245,6 +247,9 @@ FAILURES = [
 LESS = [
     ("home", "Device.DHCPv4", "lan", ["Address 192.168.1.1", "DHCP server -", "Lease time -", "Lease time 3600 s"],
      "Device.DHCPv4.Server"),
+    ("home", "Device.IPv6 Device.RouterAdvertisement Device.DHCPv6 Device.IP.Interface.1.IPv6Address", "lan",
+     ["Address 192.168.1.1"], "Device.IPv6, Device.IP.Interface.1.IPv6Address.1, "
+     "Device.RouterAdvertisement.InterfaceSetting.1, Device.DHCPv6.Server.Pool.1"),
     ("home", "Device.Ethernet", "lan", ["Address 192.168.1.1", "MAC address -", "DHCP server yes"],
      "Device.Ethernet.Interface.1"),
     ("home", "Device.IPv6 Device.RouterAdvertisement Device.DHCPv6", "lan --ipv6",

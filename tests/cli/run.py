@@ -337,7 +337,9 @@ class FailedRequests(unittest.TestCase):
             tool.run("del", "Device.Routing.Router.1.IPv4Forwarding." + entry, folder=self.folder)
         result = tool.run("wan", folder=self.folder)
         self.assertEqual((result.code, result.err),
-                         (0, "caltofal: no IPv4 forwarding entry tells the gateway of Device.IP.Interface.3\n"))
+                         (0, 'caltofal: no IPv4 forwarding entry tells the gateway: none with a GatewayIPAddress has the '
+                             'Interface "Device.IP.Interface.3.", with its last dot, and an Origin that begins with '
+                             'DHCPv4, Static or X_LANTIQ_COM_PPPoE\n'))
         self.assertIn(b"Gateway               -\n", result.out)
 
     def test_a_request_that_failed_behind_a_page_is_told(self):
@@ -418,7 +420,7 @@ class Lacking(unittest.TestCase):
         self.without("Device.IP.Interface.1.IPv4Address", "Device.DHCPv4", "Device.Ethernet")
         result = self.run_tool("lan", "--json")
         self.assertEqual((result.code, list(json.loads(result.out))), (0, ["ipv6"]))
-        self.assertIn("DHCPv4.Server.Pool.1", result.err)
+        self.assertIn("the gateway lacks Device.IP.Interface.1.IPv4Address.1, ", result.err)
         self.assertEqual(self.run_tool("lan", "--ipv4").code, 10)
         self.without("Device.IP", "Device.IPv6", "Device.RouterAdvertisement", "Device.DHCPv6")
         result = self.run_tool("lan")
@@ -440,6 +442,11 @@ class Lacking(unittest.TestCase):
         hosts = json.loads(self.run_tool("-g", "flags", "hosts", "--json").out)["hosts"]
         self.assertEqual([host["active"] for host in hosts], list(states.values()))
 
+    def test_an_infinite_lease_is_told_in_words(self):
+        self.run_tool("set", "Device.DHCPv4.Server.Pool.1.LeaseTime=-1")
+        self.assertRegex(self.run_tool("lan").out.decode(), r"\nLease time +infinite\n")
+        self.assertEqual(json.loads(self.run_tool("lan", "--json").out)["ipv4"]["lease_time_s"], -1)
+
     def test_a_missing_value_keeps_its_place_in_the_status(self):
         self.assertEqual(self.run_tool("set", "Device.IP.Interface.3.IPv4Address.1.IPAddress=").code, 0)
         self.assertRegex(self.run_tool("status").out.decode(), r"\nWAN +Up  pppoe  -  203\.0\.113\.1  Device\.")
@@ -448,6 +455,9 @@ class Lacking(unittest.TestCase):
         tool.imported("older", ["InternetGatewayDevice.DeviceInfo.Manufacturer=x"], self.folder)
         both = self.run_tool("-g", "older", "lan").err
         self.assertEqual((both.count("request on"), both.count("TR-098")), (2, 1), both)
+        for words in ("radio 1", "ssid 1", "clients 1", "acl 1", "set radio 1 Channel=6"):
+            result = self.run_tool("-g", "older", "wifi", *words.split())
+            self.assertRegex(result.err, r"there is no \w+ 1: the gateway has none; this gateway's model is TR-098", words)
         self.assertIn("InternetGatewayDevice.DeviceInf: no such object (did you mean DeviceInfo?); this gateway",
                       self.run_tool("-g", "older", "get", "InternetGatewayDevice.DeviceInf").err)
 

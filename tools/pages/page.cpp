@@ -77,7 +77,8 @@ void addRows(Table &table, const Section &section) {
         table.rows.push_back({{section.title, Style::Heading}, {}});
     }
     for (const Field &field : section.fields) {
-        table.rows.push_back({{field.label}, cellOf(shown(field), field.unit)});
+        table.rows.push_back(
+            {{field.label}, field.words.empty() ? cellOf(shown(field), field.unit) : Cell{field.words}});
     }
 }
 

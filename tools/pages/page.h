@@ -16,6 +16,7 @@ struct Field {
     std::string label;
     Value value; // null: the gateway does not say
     std::string unit = {};
+    std::string words = {}; // what people read in place of the value and its unit; "": these
 };
 
 struct Section {

@@ -9,15 +9,16 @@
 namespace pages {
 namespace {
 
+constexpr int32_t kInfiniteLease = -1; // of TR-181
 constexpr const char *kIpv6Address = "Device.IP.Interface.1.IPv6Address.1";
 
-Section ipv4Section(std::vector<std::string> &notes) {
+using Half = Section (*)(Lacking &lacking);
+
+Section ipv4Section(Lacking &lacking) {
     LANv4Info lan{};
     lan.bDHCPv4Active = kUntouchedFlag;
     untouch(lan.nLeaseTimeSec);
-    Lacking lacking;
     lacking.ask([&] { return ZintuGet_LANv4Info(&lan); }, {"no LAN"});
-    lacking.tell(notes);
     return {"ipv4",
             "IPv4",
             {
@@ -27,7 +28,8 @@ Section ipv4Section(std::vector<std::string> &notes) {
                 {"dhcp_active", "DHCP server", flag(lan.bDHCPv4Active)},
                 {"dhcp_start", "DHCP range from", text(lan.sDHCPv4StartIP)},
                 {"dhcp_end", "DHCP range to", text(lan.sDHCPv4EndIP)},
-                {"lease_time_s", "Lease time", number(lan.nLeaseTimeSec), "s"},
+                {"lease_time_s", "Lease time", number(lan.nLeaseTimeSec), "s",
+                 lan.nLeaseTimeSec == kInfiniteLease ? "infinite" : ""},
             }};
 }
 
@@ -40,14 +42,12 @@ void clearMadeAddress(LANv6Info &lan, const Lacking &lacking) {
     }
 }
 
-Section ipv6Section(std::vector<std::string> &notes) {
+Section ipv6Section(Lacking &lacking) {
     LANv6Info lan{};
     lan.bIPv6Active = kUntouchedFlag;
     lan.bPDActive = kUntouchedFlag;
     untouch(lan.nPrefixLength, lan.nLeaseTimeSec, lan.nManualPrefixLength);
-    Lacking lacking;
     lacking.ask([&] { return ZintuGet_LANv6Info(&lan); }, {"no LAN"});
-    lacking.tell(notes);
     clearMadeAddress(lan, lacking);
     return {"ipv6",
             "IPv6",
@@ -80,10 +80,18 @@ Section ipv6Section(std::vector<std::string> &notes) {
     throw Failure(first.category(), both, first.object(), first.code());
 }
 
+// Throws Failure where the gateway has nothing of it.
+void addHalf(Page &page, Half half, Lacking &lacking) {
+    const Section section = half(lacking);
+    lacking.tell(page.notes);
+    page.sections.push_back(section);
+}
+
 // A half that the gateway does not have is told in a note.
-void addHalf(Page &page, Section (*half)(std::vector<std::string> &notes), std::optional<Failure> &missing) {
+void addHalfIfAny(Page &page, Half half, std::optional<Failure> &missing) {
+    Lacking lacking;
     try {
-        page.sections.push_back(half(page.notes));
+        addHalf(page, half, lacking);
     } catch (const Failure &failure) {
         if (failure.category() != Category::Absent) {
             throw;
@@ -92,7 +100,11 @@ void addHalf(Page &page, Section (*half)(std::vector<std::string> &notes), std::
             lacksBoth(*missing, failure);
         }
         missing = failure;
-        page.notes.emplace_back(failure.what());
+        const size_t before = page.notes.size();
+        lacking.name(page.notes);
+        if (page.notes.size() == before) {
+            page.notes.emplace_back(failure.what());
+        }
     }
 }
 
@@ -101,12 +113,13 @@ void addHalf(Page &page, Section (*half)(std::vector<std::string> &notes), std::
 Page lan(LanPart part) {
     Page page;
     if (part != LanPart::Both) {
-        page.sections.push_back((part == LanPart::Ipv4 ? ipv4Section : ipv6Section)(page.notes));
+        Lacking lacking;
+        addHalf(page, part == LanPart::Ipv4 ? ipv4Section : ipv6Section, lacking);
         return page;
     }
     std::optional<Failure> missing;
-    addHalf(page, ipv4Section, missing);
-    addHalf(page, ipv6Section, missing);
+    addHalfIfAny(page, ipv4Section, missing);
+    addHalfIfAny(page, ipv6Section, missing);
     return page;
 }
 

@@ -10,6 +10,8 @@
 namespace pages {
 namespace {
 
+constexpr const char *kNoEthernetWan =
+    "Device.IP.Interface: none has the Alias cpe-EthWan-IPIntf-1, by which the library knows the Ethernet WAN";
 constexpr const char *kForwarding = "Device.Routing.Router.1.IPv4Forwarding";
 
 ZintuWanInfo untouchedInfo() {
@@ -85,7 +87,10 @@ Page noted(const ZintuWanInfo &info, const char *dnsTitle, Lacking &lacking) {
     needNoDhcpClient(lacking, text(info.sDNS1));
     lacking.tell(page.notes);
     if (info.sGateway[0] == '\0' && !lacking.has(kForwarding)) {
-        page.notes.push_back("no IPv4 forwarding entry tells the gateway of " + plainPaths(text(info.sWanIpInterface)));
+        page.notes.push_back(
+            "no IPv4 forwarding entry tells the gateway: none with a GatewayIPAddress has the Interface " +
+            inQuotes(std::string(withoutDot(text(info.sWanIpInterface))) + ".") +
+            ", with its last dot, and an Origin that begins with DHCPv4, Static or X_LANTIQ_COM_PPPoE");
     }
     return page;
 }
@@ -136,7 +141,14 @@ Report wanInterfaceName() {
 
 Report ethernetWanInterface() {
     char object[128] = "";
-    ask([&] { return ZintuGet_EthWanObjName(object); }, {"Device.IP.Interface: none is the Ethernet WAN"});
+    try {
+        ask([&] { return ZintuGet_EthWanObjName(object); }, {kNoEthernetWan});
+    } catch (const Failure &failure) {
+        if (failure.code() != CALTOFAL_NO_MATCH) {
+            throw;
+        }
+        throw Failure(Category::Absent, kNoEthernetWan, failure.object(), failure.code());
+    }
     return single("interface", text(object));
 }
 

@@ -15,9 +15,25 @@ bool isInstance(const Object &object, const std::string &table) {
     return instanceOf(path) != 0 && path.rfind('.') == table.size() && path.starts_with(table);
 }
 
+// The same; none where the gateway has no such table, for a reason that may be explained.
+std::vector<Object> instancesIfAny(const std::string &table, const std::vector<Parameter> &names,
+                                   std::string &explanation) {
+    try {
+        return instancesOf(table, names);
+    } catch (const Failure &failure) {
+        if (failure.category() != Category::Absent) {
+            throw;
+        }
+        const std::string reason = failure.what();
+        explanation = reason.substr(explanationIn(reason));
+        return {};
+    }
+}
+
 void require(const std::string &table, const char *what, int number) {
     std::vector<std::string> numbers;
-    for (const Object &object : anyInstancesOf(table, {})) {
+    std::string explanation;
+    for (const Object &object : instancesIfAny(table, {}, explanation)) {
         if (instanceOf(object.name) == number) {
             return;
         }
@@ -25,7 +41,8 @@ void require(const std::string &table, const char *what, int number) {
     }
     const std::string wanted = std::string(what) + " " + std::to_string(number);
     throw Failure(Category::Absent,
-                  "there is no " + wanted + ": the gateway has " + (numbers.empty() ? "none" : joined(numbers)),
+                  "there is no " + wanted + ": the gateway has " + (numbers.empty() ? "none" : joined(numbers)) +
+                      explanation,
                   table + "." + std::to_string(number), CALTOFAL_ABSENT_OBJECT);
 }
 
@@ -38,14 +55,8 @@ std::vector<Object> instancesOf(const std::string &table, const std::vector<Para
 }
 
 std::vector<Object> anyInstancesOf(const std::string &table, const std::vector<Parameter> &names) {
-    try {
-        return instancesOf(table, names);
-    } catch (const Failure &failure) {
-        if (failure.category() == Category::Absent) {
-            return {};
-        }
-        throw;
-    }
+    std::string explanation;
+    return instancesIfAny(table, names, explanation);
 }
 
 void requireSsid(int ssid) {
