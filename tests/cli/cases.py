@@ -157,6 +157,9 @@ FAILURES = [
      "parameter (did you mean Channel?)"),
     ("home", "get Device.Nope.*.Name", 10, -202, None),
     ("home", "get Device.Hosts.Host.*.Nope", 10, None, "Device.Hosts.Host.*.Nope: nothing here matches"),
+    *(("home", f"get {words}", 2, None, f'"{part}": "*" stands for a whole part of a path, not for some of its letters')
+      for words, part in (("Device.WiFi.*.1.*.KeyPass*", "KeyPass*"), ("Device.Hosts.H*t.1", "H*t"),
+                          ("Device.WiFi.Radio.1 Chan*", "Chan*"))),
     ("home", "hosts --columns name,nope", 2, None, None), ("home", "mode --columns name", 2, None, None),
     ("home", "mode --watch 0", 2, None, '--watch takes whole seconds from 1 to 86400, not "0"'),
     ("home", "mode --watch 0.5", 2, None, '--watch takes whole seconds from 1 to 86400, not "0.5"'),

@@ -8,6 +8,7 @@
 #include "pages/page.h"
 #include "pages/secret.h"
 #include "pages/similar.h"
+#include "pages/text.h"
 
 #include <algorithm>
 
@@ -184,9 +185,27 @@ bool beginsWithPattern(const Object &asked) {
     return asked.name.starts_with('*') && isPattern(asked);
 }
 
+// A word with a "*" that does not stand for a whole part: of a path, or as a name. The name of an instance, in
+// brackets, may hold any byte.
+void refusePartOfPart(const std::string &word) {
+    const std::vector<std::string> parts = partsOf(word);
+    const auto slip = std::find_if(parts.begin(), parts.end(), [](const std::string &part) {
+        return part.size() > 1 && part.find('*') != part.npos;
+    });
+    if (slip != parts.end() && word.find('[') == std::string::npos) {
+        throw Usage(inQuotes(*slip) + ": \"*\" stands for a whole part of a path, not for some of its letters");
+    }
+}
+
 } // namespace
 
 void check(const Query &query) {
+    for (const Object &object : query.objects) {
+        refusePartOfPart(object.name);
+        for (const Parameter &parameter : object.parameters) {
+            refusePartOfPart(parameter.name);
+        }
+    }
     if (query.defaults && (query.leaf || !query.where.empty())) {
         throw Usage("--defaults goes with neither --leaf nor --where");
     }
