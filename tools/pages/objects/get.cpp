@@ -190,7 +190,7 @@ bool beginsWithPattern(const Object &asked) {
 void refusePartOfPart(const std::string &word) {
     const std::vector<std::string> parts = partsOf(word);
     const auto slip = std::find_if(parts.begin(), parts.end(), [](const std::string &part) {
-        return part.size() > 1 && part.find('*') != part.npos;
+        return part.size() > 1 && part.find('*') != std::string::npos;
     });
     if (slip != parts.end() && word.find('[') == std::string::npos) {
         throw Usage(inQuotes(*slip) + ": \"*\" stands for a whole part of a path, not for some of its letters");
