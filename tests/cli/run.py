@@ -580,9 +580,11 @@ class Words(unittest.TestCase):
             self.assertIn(message, tool.run(*words.split()).err)
 
     def test_tables_fold_at_the_terminals_width(self):
-        text = tool.on_terminal("wifi", "ssids", NO_COLOR="1", columns=60).decode()
-        self.assertLessEqual(max(len(line) for line in text.splitlines()), 60)
-        self.assertIn("VOLA Home", text)
+        for words, columns, wanted in (("wifi ssids", 60, "VOLA Home"), ("wifi acl 1", 40, "\n  neighbour-tablet"),
+                                       ("wifi set radio 1 BeaconPeriod=99 --dry-run", 40, "100\n  ->  99")):
+            text = tool.on_terminal(*words.split(), NO_COLOR="1", columns=columns).decode().replace("\r", "")
+            self.assertLessEqual(max(len(line) for line in text.splitlines()), columns)
+            self.assertIn(wanted, text)
         for page in ("hosts", "wifi ssids"):
             lines = tool.on_terminal(*page.split(), NO_COLOR="1", columns=80).decode().splitlines()
             self.assertEqual([line for line in lines if line.startswith(" ") or len(line) > 80], [], page)

@@ -161,7 +161,7 @@ std::string render(const Table &table, const Look &look) {
     } else if (folds) {
         shown = groupedByObject(withoutColumns(shown, columnsToLeave(shown, look.width)), look.width);
     }
-    const size_t width = folds && !shown.headings.empty() ? look.width : std::numeric_limits<size_t>::max();
+    const size_t width = folds ? look.width : std::numeric_limits<size_t>::max();
     std::vector<std::string> groups;
     const size_t gap = gapFor(shown, width);
     for (const std::vector<size_t> &columns : columnGroups(shown, width, gap)) {
