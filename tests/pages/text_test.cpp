@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How values and words are read.
+#include "help/similar.h"
 #include "pages/page.h"
-#include "pages/similar.h"
 #include "pages/text.h"
 
 #include <gtest/gtest.h>
@@ -108,7 +108,7 @@ TEST(Text, WhatWasMeant) {
         {"xy", ""},
     };
     for (const auto &row : cases) {
-        EXPECT_EQ(didYouMean(row.word, known), row.meant) << row.word;
+        EXPECT_EQ(help::didYouMean(row.word, known), row.meant) << row.word;
     }
 }
 

@@ -5,8 +5,8 @@
 #include "caltofal/print.h"
 #include "caltofal/typed_words.h"
 #include "help/folded_formatter.h"
+#include "help/similar.h"
 #include "pages/checked.h"
-#include "pages/similar.h"
 #include "pages/text.h"
 
 #include <CLI/CLI.hpp>
@@ -172,7 +172,7 @@ std::string nothingToDo(const CLI::App &command, const std::vector<std::string> 
     const std::string word = withoutValue(rest.front());
     const char *const ofNoun = isOption(word) ? "not an option of it" : "not a verb of it";
     return "\"" + word + "\" is " + (verb ? ofNoun : "neither a noun nor an option") +
-           pages::didYouMean(word, knownTo(command, isOption(word)));
+           help::didYouMean(word, knownTo(command, isOption(word)));
 }
 
 // What is wrong, in the tool's words. The parser's begin with the argument's name, up to a colon or a blank.
@@ -189,7 +189,7 @@ std::string faultOf(const CLI::App &app, const std::string &words, const CLI::Pa
             return takesNoValue(culprit, {}, words);
         }
         return "\"" + withoutValue(culprit) +
-               (isOption(culprit) ? "\" is not an option of it" + pages::didYouMean(culprit, knownTo(chosen(app), true))
+               (isOption(culprit) ? "\" is not an option of it" + help::didYouMean(culprit, knownTo(chosen(app), true))
                                   : "\" is one argument too many");
     }
     if (dynamic_cast<const CLI::RequiredError *>(&error)) {

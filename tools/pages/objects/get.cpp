@@ -7,7 +7,6 @@
 #include "pages/objects/select.h"
 #include "pages/page.h"
 #include "pages/secret.h"
-#include "pages/similar.h"
 #include "pages/text.h"
 
 #include <algorithm>

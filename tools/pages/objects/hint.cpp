@@ -2,8 +2,8 @@
 #include "pages/objects/hint.h"
 
 #include "caltofal.h"
+#include "help/similar.h"
 #include "pages/objects/select.h"
-#include "pages/similar.h"
 #include "pages/text.h"
 
 #include <algorithm>
@@ -40,7 +40,7 @@ std::string spelledBelow(std::string path, std::span<const std::string> parts) {
     for (const std::string &part : parts) {
         const std::vector<std::string> names = below(path).value_or(std::vector<std::string>());
         const bool there = std::find(names.begin(), names.end(), part) != names.end();
-        const std::vector<std::string> near = there ? std::vector{part} : similar(part, names);
+        const std::vector<std::string> near = there ? std::vector{part} : help::similar(part, names);
         if (near.empty()) {
             break;
         }
@@ -56,7 +56,7 @@ std::string didYouMeanRooted(const std::string &path) {
         return "";
     }
     const std::span<const std::string> all(parts);
-    const std::vector<std::string> near = similar(parts.front(), {std::begin(kRoots), std::end(kRoots)});
+    const std::vector<std::string> near = help::similar(parts.front(), {std::begin(kRoots), std::end(kRoots)});
     const std::string meant = near.empty() ? spelledBelow(kRoots[0], all) : spelledBelow(near.front(), all.subspan(1));
     return near.empty() && meant == kRoots[0] ? "" : " (did you mean " + meant + "?)";
 }
@@ -64,7 +64,7 @@ std::string didYouMeanRooted(const std::string &path) {
 } // namespace
 
 std::string parameterHint(const std::string &parameter, const std::string &object) {
-    const std::string hint = didYouMean(parameter, namesIn(object));
+    const std::string hint = help::didYouMean(parameter, namesIn(object));
     const bool path = hint.empty() && parameter.find('.') != std::string::npos;
     return path ? didYouMeanRooted(parameter) : hint;
 }
@@ -88,7 +88,7 @@ Failure withHint(const Failure &failure, const std::string &path) {
         const std::string part = upper.substr(dot + 1);
         upper.erase(dot);
         if (const std::optional<std::vector<std::string>> names = below(upper)) {
-            return with(failure, didYouMean(part, *names));
+            return with(failure, help::didYouMean(part, *names));
         }
     }
     return with(failure, didYouMeanRooted(path));
@@ -106,7 +106,7 @@ Failure withHint(const Failure &failure, const std::vector<Object> &objects) {
         const std::vector<std::string> names = below(object.name).value_or(std::vector<std::string>());
         for (const Parameter &parameter : object.parameters) {
             if (std::find(names.begin(), names.end(), parameter.name) == names.end()) {
-                return with(failure, didYouMean(parameter.name, names));
+                return with(failure, help::didYouMean(parameter.name, names));
             }
         }
     }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "pages/objects/select.h"
 
+#include "help/similar.h"
 #include "pages/failure.h"
 #include "pages/objects/hint.h"
-#include "pages/similar.h"
 #include "pages/text.h"
 
 #include <algorithm>
@@ -72,9 +72,10 @@ std::vector<std::vector<Parameter>> spelledFilters(const std::vector<Parameter> 
 void refuseUnknown(const std::string &object, const std::string &parameter) {
     const std::vector<std::string> names = namesIn(object);
     if (!names.empty() && std::find(names.begin(), names.end(), parameter) == names.end()) {
-        throw Failure(
-            Category::Absent,
-            withDot(object) + parameter + ": no object here has that parameter" + didYouMean(parameter, names), object);
+        throw Failure(Category::Absent,
+                      withDot(object) + parameter + ": no object here has that parameter" +
+                          help::didYouMean(parameter, names),
+                      object);
     }
 }
 

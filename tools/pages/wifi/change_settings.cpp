@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // A snapshot of what the gateway holds, a comparison, and one message with what differs.
+#include "help/similar.h"
 #include "pages/failure.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
 #include "pages/secret.h"
-#include "pages/similar.h"
 #include "pages/text.h"
 #include "pages/wifi/interface.h"
 #include "pages/wifi/pages.h"
@@ -49,8 +49,9 @@ const WifiParamRow &rowNamed(const WifiParamTable &current, const std::string &n
         return text(row.parameter) == name || path == name || path == "Device.WiFi." + name;
     });
     if (found == rows(current).end()) {
-        throw Failure(Category::Absent, "no setting " + inQuotes(name) + " here" + didYouMean(name, namesOf(current)) +
-                                            "; there are " + joined(namesOf(current)));
+        throw Failure(Category::Absent, "no setting " + inQuotes(name) + " here" +
+                                            help::didYouMean(name, namesOf(current)) + "; there are " +
+                                            joined(namesOf(current)));
     }
     return *found;
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace pages {
+namespace help {
 
 // The words that begin with one or differ from it in a few letters, the nearest first; three at most.
 std::vector<std::string> similar(const std::string &word, const std::vector<std::string> &known);
@@ -13,4 +13,4 @@ std::vector<std::string> similar(const std::string &word, const std::vector<std:
 // " (did you mean A or B?)", "" where nothing is near.
 std::string didYouMean(const std::string &word, const std::vector<std::string> &known);
 
-} // namespace pages
+} // namespace help

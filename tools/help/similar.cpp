@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "pages/similar.h"
+#include "help/similar.h"
 
 #include <algorithm>
 #include <cctype>
 #include <numeric>
 #include <utility>
 
-namespace pages {
+namespace help {
 namespace {
 
 constexpr size_t kShownMax = 3;
@@ -68,4 +68,4 @@ std::string didYouMean(const std::string &word, const std::vector<std::string> &
     return result.empty() ? "" : result + "?)";
 }
 
-} // namespace pages
+} // namespace help
