@@ -59,6 +59,15 @@ std::string valueBeside(Database &database, const std::string &key, std::string_
     throw Refusal(CALTOFAL_OUT_OF_RANGE, parameter + ": " + quotedShort(value) + " is not possible, " + possible);
 }
 
+void refuseTwice(const std::vector<std::string_view> &items, const std::string &parameter, std::string_view list) {
+    for (auto item = items.begin(); item != items.end(); ++item) {
+        if (std::find(items.begin(), item, *item) != item) {
+            throw Refusal(CALTOFAL_OUT_OF_RANGE,
+                          parameter + ": " + quotedShort(list) + " has " + std::string(*item) + " twice");
+        }
+    }
+}
+
 bool allows(const Listed &rule, std::string_view list, std::string_view item) {
     if (rule.list != kChannels) {
         return listAllows(list, item);
@@ -73,6 +82,7 @@ void holdAgainst(const Listed &rule, const std::string &list, const std::string 
     if (wanted.empty() && rule.takes == Takes::Several) {
         wanted.push_back(value);
     }
+    refuseTwice(wanted, parameter, value);
     for (const std::string_view item : wanted) {
         if (item != rule.always && !allows(rule, list, item)) {
             refuse(parameter, item, std::string(rule.list) + " has " + list);

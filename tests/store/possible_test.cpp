@@ -58,6 +58,7 @@ TEST_F(PossibleTest, HoldsSettingsAgainstTheGateway) {
         {"Radio.1", "Channel", "165", "\"165\" is not possible, PossibleChannels has 1-11, 13"},
         {"Radio.1", "OperatingStandards", "g,n", ""},
         {"Radio.1", "OperatingStandards", "g, zzz", "\"zzz\" is not possible, SupportedStandards has b,g,n"},
+        {"Radio.1", "OperatingStandards", "n, b,n", "\"n, b,n\" has n twice"},
         {"Radio.1", "OperatingStandards", "", "\"\" is not possible, SupportedStandards has b,g,n"},
         {"Radio.1", "BasicDataTransmitRates", "", ""},         // none is a choice
         {"Radio.1", "OperatingChannelBandwidth", "20/40", ""}, // what it has
