@@ -223,7 +223,7 @@ FAILURES = [
     ("home", ["wifi", "set", "ssid", "1", "SSID=" + "x" * 127], 2, None,
      "SSID: the value has 127 bytes: the most is 126"),
     ("home", "wifi set radio 1 Channel=999", 5, -206,
-     'request on Device.WiFi.Radio.1 failed: Device.WiFi.Radio.1.Channel: "999" is outside unsignedInt(1:255)'),
+     'Device.WiFi.Radio.1.Channel: "999" is outside unsignedInt(1:255)'),
     ("home", "wifi set ssid 1 Channel=6", 10, None, 'no setting "Channel" here; there are Enable, BSSID, SSID, '),
     ("home", "wifi convert volume 3", 2, None, '"volume" is not a conversion; caltofal wifi convert lists them'),
     ("home", "wifi convert rts 3x", 2, None, 'value "3x" is not a number'),

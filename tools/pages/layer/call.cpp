@@ -52,9 +52,12 @@ thread_local HiddenFailures *innermostFailures = nullptr;
 
 Failure failureOf(const Request &request) {
     const std::string objects = objectNames(request);
-    const std::string again = std::string(withoutDot(objects)) + ": ";
+    const std::string object(withoutDot(objects));
     std::string reason = reasonOf(request);
-    if (reason.starts_with(again)) {
+    if (reason.starts_with(object + ".")) { // of a parameter
+        return {categoryOf(request.code), reason, objects, request.code};
+    }
+    if (const std::string again = object + ": "; reason.starts_with(again)) {
         reason.erase(0, again.size());
     }
     return {categoryOf(request.code), "request on " + objects + " failed: " + reason, objects, request.code};
