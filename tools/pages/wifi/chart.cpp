@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kReach = 2;  // channels at 2.4 GHz that 20 MHz take on either side
 constexpr int kSecond = 4; // channels from the primary to the secondary one there
+constexpr int kWide = 40;  // MHz: with a secondary channel
 constexpr int kStep = 4;   // from one channel at 5 GHz to the next
 constexpr size_t kLabelWidth = 9;
 constexpr size_t kNameMax = 16;
@@ -107,10 +108,15 @@ bool isBefore(const ChartedNetwork &one, const ChartedNetwork &other) {
 
 } // namespace
 
+bool isSideUnknown(const ChartedNetwork &network) {
+    const bool known = network.side == "upper" || network.side == "lower";
+    return network.channel <= kLast24GHz && network.width >= kWide && !known;
+}
+
 ChannelSpan spanOf(const ChartedNetwork &network) {
     const int channel = network.channel;
     if (channel <= kLast24GHz) {
-        const bool wide = network.width >= 40;
+        const bool wide = network.width >= kWide;
         return {channel - kReach - (wide && network.side == "lower" ? kSecond : 0),
                 channel + kReach + (wide && network.side == "upper" ? kSecond : 0)};
     }

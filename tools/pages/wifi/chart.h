@@ -27,6 +27,9 @@ struct ChannelSpan {
 };
 ChannelSpan spanOf(const ChartedNetwork &network);
 
+// Whether a network has a secondary channel and it is not known where: its span is that of 20 MHz.
+bool isSideUnknown(const ChartedNetwork &network);
+
 // A line for each network in its band, own radios first, then by strength; below, how many others use each channel.
 std::vector<ChartLine> chartOf(std::vector<ChartedNetwork> networks);
 

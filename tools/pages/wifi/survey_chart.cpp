@@ -76,6 +76,18 @@ void addOnce(std::vector<ChartedNetwork> &networks, std::map<std::string, size_t
     }
 }
 
+void noteUnknownSides(const std::vector<ChartedNetwork> &networks, std::vector<std::string> &notes) {
+    std::vector<std::string> names;
+    for (const ChartedNetwork &network : networks) {
+        if (isSideUnknown(network)) {
+            names.push_back(network.name);
+        }
+    }
+    if (!names.empty()) {
+        notes.push_back("drawn as 20 MHz, as the secondary channel may lie on either side: " + joined(names));
+    }
+}
+
 } // namespace
 
 Report surveyChart(const std::optional<InterfaceName> &interface) {
@@ -88,6 +100,7 @@ Report surveyChart(const std::optional<InterfaceName> &interface) {
         addOnce(networks, places, network);
     }
     result.table = {};
+    noteUnknownSides(networks, result.notes);
     result.chart = chartOf(networks);
     return result;
 }
