@@ -49,6 +49,10 @@ bool isGatewayName(std::string_view name) {
     });
 }
 
+bool isNewGatewayName(std::string_view name) {
+    return isGatewayName(name) && name.front() != '.' && name.front() != '-';
+}
+
 int lockPatienceMs() {
     const std::string_view text = environment("CALTOFAL_SANDBOX_BUSY_MS");
     int value = 0;

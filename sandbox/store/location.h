@@ -25,6 +25,10 @@ struct Location {
 // Letters, digits, ".", "_" and "-", at least one.
 bool isGatewayName(std::string_view name);
 
+// Such a name that begins with neither "." nor "-": it is no hidden file and no option. A gateway that has another name
+// is read, changed and removed all the same.
+bool isNewGatewayName(std::string_view name);
+
 // How long to wait for other processes' locks, in milliseconds: CALTOFAL_SANDBOX_BUSY_MS, else 10,000.
 int lockPatienceMs();
 

@@ -31,10 +31,10 @@ constexpr std::string_view kDraftSuffix = ".draft";
     throw Refusal(CALTOFAL_STORE_FAILED, file + ": " + std::strerror(error));
 }
 
-void refuseBadName(const std::string &name) {
-    if (!isGatewayName(name)) {
-        throw Refusal(CALTOFAL_NO_GATEWAY,
-                      quotedShort(name) + " is not a gateway name: letters, digits, '.', '_' and '-'");
+void refuseBadName(const std::string &name, bool (*isGood)(std::string_view)) {
+    if (!isGood(name)) {
+        throw Refusal(CALTOFAL_NO_GATEWAY, quotedShort(name) + " is not a gateway name: it begins with a letter, a "
+                                                               "digit or '_', and goes on with these, '.' and '-'");
     }
 }
 
@@ -137,7 +137,7 @@ void make(const std::string &file, const std::function<void(Database &)> &fill) 
 } // namespace
 
 bool storeExists(const Location &location) {
-    refuseBadName(location.name);
+    refuseBadName(location.name, isGatewayName);
     struct stat status {};
     const std::string file = location.storeFile();
     if (stat(file.c_str(), &status) == 0) {
@@ -169,6 +169,7 @@ bool createStore(const Location &location, const std::function<void(Database &)>
     const Draft draft(location);
     make(draft.file(), fill);
     const DirectoryLock lock(location.directory);
+    refuseBadName(location.name, isNewGatewayName);
     if (storeExists(location)) {
         return false;
     }

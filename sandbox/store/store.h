@@ -19,7 +19,8 @@ std::unique_ptr<Database> openStore(const Location &location);
 bool storeExists(const Location &location);
 
 // Makes a gateway; `fill` puts the model into its empty database. It appears whole or not at all. False when it exists
-// already, also when another process has made it in the meantime. What `fill` throws passes through.
+// already, also when another process has made it in the meantime. Throws a Refusal with CALTOFAL_NO_GATEWAY
+// for a name that isNewGatewayName() refuses. What `fill` throws passes through.
 bool createStore(const Location &location, const std::function<void(Database &)> &fill);
 
 // Whether there was such a gateway.

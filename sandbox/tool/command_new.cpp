@@ -54,7 +54,8 @@ FileContent contentFor(const std::string &name, const std::string &from) {
 void addNew(Command &root, Tool &tool) {
     auto options = makeOptions<NewOptions>();
     Command command = root.add("new", "Make a gateway");
-    command.word("NAME", options->name, R"(Its name: letters, digits, ".", "_" and "-")", Need::Required);
+    command.word("NAME", options->name, R"(Its name: letters, digits, "_", and behind the first one "." and "-")",
+                 Need::Required);
     command.option("--from", options->from, "GATEWAY|FILE",
                    "A gateway as it is now, a demo or a file; without it, the demo of that name, else home");
     command.footer("Examples:\n  caltofal-sandbox new lab --from dhcp\n  caltofal-sandbox new copy --from lab\n"

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <sys/wait.h>
 
@@ -203,6 +204,14 @@ TEST_F(ToolTest, KeepsGateways) {
     EXPECT_EQ(run("fault add Device.Nope.").code, 10);
     EXPECT_EQ(run("fault list").out, "");
     EXPECT_EQ(run("list").out.find("nosuch"), std::string::npos);
+    for (const char *name : {"..", ".hidden", "-- -y"}) { // gateways of older versions may have such a name
+        EXPECT_NE(run("new " + std::string(name)).errors.find("is not a gateway name: it begins with"),
+                  std::string::npos);
+    }
+    std::filesystem::copy_file(directory + "/copy.db", directory + "/.hidden.db");
+    EXPECT_EQ(run("diff copy .hidden").code, 0);
+    EXPECT_NE(run("list").out.find("  .hidden "), std::string::npos);
+    EXPECT_EQ(run("remove .hidden").code, 0);
     EXPECT_EQ(run("remove bench").code, 0);
     EXPECT_EQ(run("remove bench").code, 10);
     EXPECT_EQ(run("export bench").code, 10);

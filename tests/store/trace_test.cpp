@@ -75,19 +75,21 @@ TEST_F(TraceTest, TellsWhyAMessageIsRefused) {
     cal_getValue(&Message::get(kPlainGet, "Device.Info.")->header);
     setenv("CALTOFAL_GATEWAY", "no/name", 1);
     cal_getValue(&Message::get(kPlainGet, "Device.Info.")->header);
-    EXPECT_EQ(takeTrace(), "lab set -203 unknown-parameter Device.Pair(Left=\"1\",KeyPassphrase=(hidden)) : "
-                           "Device.Pair: no parameter \"KeyPassphrase\"\n"
-                           "lab set -203 unknown-parameter Device.Pair(Left=\"1\",KeyPasphrase=(hidden),Right=\"\") "
-                           "add Device.Net.Host(Level=\"5\",Pasword=(hidden)) "
-                           "Device.Net.Host.99(Name=\"n\",Tokn=(hidden)) Device.Nope(Left=(hidden)) : "
-                           "Device.Pair: no parameter \"KeyPasphrase\"\n"
-                           "lab get -201 bad-message no object : there is no message\n"
-                           "lab get -201 bad-message no object : the message names no object\n"
-                           "nosuch get -209 no-gateway Device.Info. : there is no gateway \"nosuch\" in " +
-                               directory +
-                               "\n"
-                               "no/name get -209 no-gateway Device.Info. : "
-                               "\"no/name\" is not a gateway name: letters, digits, '.', '_' and '-'\n");
+    EXPECT_EQ(takeTrace(),
+              "lab set -203 unknown-parameter Device.Pair(Left=\"1\",KeyPassphrase=(hidden)) : "
+              "Device.Pair: no parameter \"KeyPassphrase\"\n"
+              "lab set -203 unknown-parameter Device.Pair(Left=\"1\",KeyPasphrase=(hidden),Right=\"\") "
+              "add Device.Net.Host(Level=\"5\",Pasword=(hidden)) "
+              "Device.Net.Host.99(Name=\"n\",Tokn=(hidden)) Device.Nope(Left=(hidden)) : "
+              "Device.Pair: no parameter \"KeyPasphrase\"\n"
+              "lab get -201 bad-message no object : there is no message\n"
+              "lab get -201 bad-message no object : the message names no object\n"
+              "nosuch get -209 no-gateway Device.Info. : there is no gateway \"nosuch\" in " +
+                  directory +
+                  "\n"
+                  "no/name get -209 no-gateway Device.Info. : "
+                  "\"no/name\" is not a gateway name: it begins with a letter, a digit or '_', and goes on "
+                  "with these, '.' and '-'\n");
 }
 
 TEST_F(TraceTest, TellsWhatASuccessLeftOut) {

@@ -54,7 +54,9 @@ TEST_F(Trouble, WithoutAGateway) {
         setenv("CALTOFAL_GATEWAY", name.c_str(), 1);
         EXPECT_EQ(getInfo(), CALTOFAL_NO_GATEWAY) << name;
     }
-    EXPECT_STREQ(cal_sandboxReason(), "\"/\" is not a gateway name: letters, digits, '.', '_' and '-'");
+    EXPECT_STREQ(cal_sandboxReason(),
+                 "\"/\" is not a gateway name: it begins with a letter, a digit or '_', and goes on with "
+                 "these, '.' and '-'");
     EXPECT_FALSE(std::filesystem::exists(location("nosuch").logFile()));
     EXPECT_FALSE(std::filesystem::exists(outside + ".log")) << "logged outside the sandbox";
     setenv("CALTOFAL_GATEWAY", "lab", 1);
