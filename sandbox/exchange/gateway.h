@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace sandbox {
 
@@ -22,5 +23,11 @@ std::unique_ptr<Database> openGateway(const Location &location);
 // does.
 bool createGateway(const Location &location, const Entries &entries, const std::string &file,
                    ImportReport *report = nullptr);
+
+// The gateways of a directory, and the demos, in order.
+std::vector<std::string> gatewayNames(const std::string &directory);
+
+// " (did you mean home?)" for the name of none; "" where nothing is near.
+std::string nearGateways(const std::string &name, const std::string &directory);
 
 } // namespace sandbox

@@ -149,10 +149,14 @@ bool storeExists(const Location &location) {
     return false;
 }
 
+Refusal noGateway(const Location &location, const std::string &hint) {
+    return {CALTOFAL_NO_GATEWAY,
+            "there is no gateway " + quotedShort(location.name) + " in " + location.directory + hint};
+}
+
 std::unique_ptr<Database> openStore(const Location &location) {
     if (!storeExists(location)) {
-        throw Refusal(CALTOFAL_NO_GATEWAY,
-                      "there is no gateway " + quotedShort(location.name) + " in " + location.directory);
+        throw noGateway(location);
     }
     std::unique_ptr<Database> database = openDatabase(location.storeFile(), howToOpen(location));
     // With a write-ahead log this loses nothing when a process dies, only when the machine does.
@@ -165,11 +169,11 @@ bool createStore(const Location &location, const std::function<void(Database &)>
     if (storeExists(location)) {
         return false;
     }
+    refuseBadName(location.name, isNewGatewayName);
     makeDirectory(location.directory);
     const Draft draft(location);
     make(draft.file(), fill);
     const DirectoryLock lock(location.directory);
-    refuseBadName(location.name, isNewGatewayName);
     if (storeExists(location)) {
         return false;
     }

@@ -5,6 +5,7 @@
 
 #include "store/database.h"
 #include "store/location.h"
+#include "value/refusal.h"
 
 #include <functional>
 #include <memory>
@@ -14,6 +15,9 @@ namespace sandbox {
 
 // Opens a gateway. Throws a Refusal with CALTOFAL_NO_GATEWAY when there is none, or when the name is not a gateway's.
 std::unique_ptr<Database> openStore(const Location &location);
+
+// The refusal of a gateway that does not exist; `hint` stands behind the reason.
+Refusal noGateway(const Location &location, const std::string &hint = "");
 
 // Whether the gateway exists. Throws a Refusal when it cannot be told.
 bool storeExists(const Location &location);

@@ -2,6 +2,7 @@
 #include "tool/command_line.h"
 
 #include "help/folded_formatter.h"
+#include "help/similar.h"
 #include "tool/command.h"
 #include "value/escape.h"
 #include "value/secret.h"
@@ -67,25 +68,13 @@ CLI::Validator between(int64_t least, int64_t most) {
     return {check, ""};
 }
 
-// Whether all letters of a word stand in another one, in that order.
-bool isWithin(const std::string &letters, const std::string &text) {
-    size_t at = 0;
-    return std::all_of(letters.begin(), letters.end(), [&](char letter) {
-        at = text.find(letter, at);
-        return at++ != std::string::npos;
-    });
-}
-
 // " (did you mean list?)" for "lst" or "listt"; "" where no command is near.
 std::string meantBy(const std::string &word, const CLI::App &app) {
+    std::vector<std::string> names;
     for (const CLI::App *one : app.get_subcommands([](const CLI::App *) { return true; })) {
-        const std::string &name = one->get_name();
-        const bool near = word.size() > 1 && word.size() + 2 >= name.size() && name.size() + 2 >= word.size();
-        if (near && (isWithin(word, name) || isWithin(name, word))) {
-            return " (did you mean " + name + "?)";
-        }
+        names.push_back(one->get_name());
     }
-    return "";
+    return help::didYouMean(word, names);
 }
 
 // The help of the command that the words name.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/demo.h"
+#include "exchange/gateway.h"
 #include "store/store.h"
 #include "tool/command.h"
 #include "tool/json_rows.h"
@@ -8,7 +9,6 @@
 #include <algorithm>
 #include <iomanip>
 #include <iostream>
-#include <set>
 
 namespace sandbox {
 namespace {
@@ -36,12 +36,8 @@ void countParameters(Gateway &gateway) {
 std::vector<Gateway> gateways(const Tool &tool) {
     const Location chosen = tool.location();
     const std::vector<std::string> stores = storeNames(chosen.directory);
-    std::set<std::string> names(stores.begin(), stores.end());
-    for (const Demo &demo : demos()) {
-        names.emplace(demo.name);
-    }
     std::vector<Gateway> result;
-    for (const std::string &name : names) {
+    for (const std::string &name : gatewayNames(chosen.directory)) {
         Gateway gateway{name,
                         std::binary_search(stores.begin(), stores.end(), name),
                         findDemo(name) != nullptr,

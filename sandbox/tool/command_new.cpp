@@ -44,7 +44,8 @@ FileContent contentFor(const std::string &name, const std::string &from) {
         return demoContent(*demo);
     }
     if (from != "-" && !std::filesystem::exists(from)) {
-        throw Failure(from + " is neither a gateway nor a file", kAbsent);
+        throw Failure(from + " is neither a gateway nor a file" + nearGateways(from, Location::current().directory),
+                      kAbsent);
     }
     return readContent(from);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "device/box/places.h"
+#include "exchange/gateway.h"
 #include "store/store.h"
 #include "tool/command.h"
 
@@ -13,7 +14,7 @@ void addRemove(Command &root, Tool &tool) {
     command.runs([&tool, name] {
         const Location location = tool.location(*name);
         if (!removeStore(location)) {
-            throw Failure("there is no gateway " + location.name + " in " + location.directory, kAbsent);
+            throw Failure(noGateway(location, nearGateways(location.name, location.directory)).what(), kAbsent);
         }
         box::removeState(location);
         say("removed gateway " + location.name);

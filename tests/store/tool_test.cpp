@@ -212,6 +212,9 @@ TEST_F(ToolTest, KeepsGateways) {
     EXPECT_EQ(run("diff copy .hidden").code, 0);
     EXPECT_NE(run("list").out.find("  .hidden "), std::string::npos);
     EXPECT_EQ(run("remove .hidden").code, 0);
+    for (const char *command : {"export hom", "remove hom", "diff lab hom", "new more --from hom"}) {
+        EXPECT_NE(run(command).errors.find(" (did you mean home?)\n"), std::string::npos) << command;
+    }
     EXPECT_EQ(run("remove bench").code, 0);
     EXPECT_EQ(run("remove bench").code, 10);
     EXPECT_EQ(run("export bench").code, 10);
