@@ -116,6 +116,10 @@ FAILURES = [
      "device.WiFi.Radio.1: no such object (did you mean Device.WiFi.Radio.1?)"),
     ("home", "set Device.WiFi.Radio.1 Chanel=3", 10, -203,
      'Device.WiFi.Radio.1: no parameter "Chanel" (did you mean Channel?)'),
+    *(("home", "set " + words, 2, None, "Device.WiFi.Radio.1.Channel is given twice")
+      for words in ("Device.WiFi.Radio.1 Channel=6 Channel=7",
+                    "Device.WiFi.Radio.1.Channel=6 Device.WiFi.Radio.2.Channel=36 Device.WiFi.Radio.1. Channel=6")),
+    ("home", "add Device.Hosts.Host HostName=a HostName=b", 2, None, "Device.Hosts.Host.HostName is given twice"),
     ("home", "set Device.WiFi.Radio.* Channel=3", 2, None, '"Device.WiFi.Radio.*": "*" is for get alone'),
     ("home", "get Device.WiFi.Radio.1.Channel --names", 2, None,
      "--names tells what stands below objects: a parameter has nothing below it"),

@@ -99,6 +99,14 @@ const std::string &checkedName(const std::string &name) {
     return name;
 }
 
+void refuseTwice(const std::vector<std::string> &names) {
+    for (auto name = names.begin(); name != names.end(); ++name) {
+        if (std::find(names.begin(), name, *name) != name) {
+            throw Usage(*name + " is given twice");
+        }
+    }
+}
+
 Parameter assignment(const std::string &word, const std::string &before) {
     const size_t equals = word.find('=');
     if (equals == std::string::npos || equals == 0) {

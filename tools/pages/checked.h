@@ -5,6 +5,7 @@
 #include "pages/layer/query.h"
 
 #include <string>
+#include <vector>
 
 namespace pages {
 
@@ -37,6 +38,9 @@ const std::string &checkedPath(const std::string &path);
 
 // A parameter's name, not empty and not too long for a message.
 const std::string &checkedName(const std::string &name);
+
+// Names to which values are given: each stands there once.
+void refuseTwice(const std::vector<std::string> &names);
 
 // "NAME=VALUE"; `before` is what stands before it. The value may be a secret that nobody knows for one: no message
 // shows it.

@@ -3,6 +3,7 @@
 #include "pages/failure.h"
 #include "pages/objects/hint.h"
 #include "pages/objects/pages.h"
+#include "pages/objects/select.h"
 #include "pages/secret.h"
 #include "pages/text.h"
 
@@ -29,6 +30,15 @@ void refuseHiddenIn(const std::vector<Object> &objects) {
     }
 }
 
+// The paths of what an object's parameters are set to.
+std::vector<std::string> pathsIn(const Object &object) {
+    std::vector<std::string> paths;
+    for (const Parameter &parameter : object.parameters) {
+        paths.push_back(withDot(object.name) + parameter.name);
+    }
+    return paths;
+}
+
 Report report(const char *what, const std::vector<Object> &objects, bool storeOnly) {
     return {.json = Value::object({{what, listOf(objects)}, {"applied", !storeOnly}})};
 }
@@ -45,11 +55,15 @@ std::vector<Object> hintedChange(const std::vector<Object> &objects, Change what
 } // namespace
 
 Report set(const std::vector<Object> &objects, bool storeOnly) {
+    std::vector<std::string> paths;
     for (const Object &object : objects) {
         if (object.parameters.empty()) {
             throw Usage(object.name + ": nothing to set");
         }
+        const std::vector<std::string> more = pathsIn(object);
+        paths.insert(paths.end(), more.begin(), more.end());
     }
+    refuseTwice(paths);
     refuseHiddenIn(objects);
     hintedChange(objects, Change::Set, storeOnly);
     return report("set", objects, storeOnly);
@@ -57,6 +71,9 @@ Report set(const std::vector<Object> &objects, bool storeOnly) {
 
 // The layer puts the new instances' names into the message.
 Report add(const std::vector<Object> &tables, bool storeOnly) {
+    for (const Object &table : tables) { // each time one stands there it is for another instance
+        refuseTwice(pathsIn(table));
+    }
     refuseHiddenIn(tables);
     const std::vector<Object> added = hintedChange(tables, Change::Add, storeOnly);
     Report result = report("added", added, storeOnly);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A snapshot of what the gateway holds, a comparison, and one message with what differs.
 #include "help/similar.h"
+#include "pages/checked.h"
 #include "pages/failure.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
@@ -66,13 +67,12 @@ void checkLength(const Parameter &parameter) {
 // What is wanted, with the objects that hold it.
 Settings requested(const SettingsChange &change, const WifiParamTable &current) {
     auto table = std::make_unique<WifiParamTable>();
+    std::vector<std::string> names;
     for (const Parameter &parameter : change.wanted) {
         const WifiParamRow &row = rowNamed(current, parameter.name);
         refuseHidden(text(row.parameter), parameter.value);
-        if (std::any_of(rows(*table).begin(), rows(*table).end(),
-                        [&](const WifiParamRow &one) { return text(one.parameter) == text(row.parameter); })) {
-            throw Usage(text(row.parameter) + " is given twice");
-        }
+        names.push_back(text(row.parameter));
+        refuseTwice(names);
         const std::string given = change.uiWords ? fapiWord(text(row.parameter), parameter.value) : parameter.value;
         const std::string value = spelledLike(typed(text(row.parameter), text(row.value)), given);
         if (SetParam(table.get(), row.object, row.parameter, value.c_str()) != 0) {
