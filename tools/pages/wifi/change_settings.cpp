@@ -50,9 +50,9 @@ const WifiParamRow &rowNamed(const WifiParamTable &current, const std::string &n
         return text(row.parameter) == name || path == name || path == "Device.WiFi." + name;
     });
     if (found == rows(current).end()) {
+        const std::string meant = help::didYouMean(name, namesOf(current));
         throw Failure(Category::Absent, "no setting " + inQuotes(name) + " here" +
-                                            help::didYouMean(name, namesOf(current)) + "; there are " +
-                                            joined(namesOf(current)));
+                                            (meant.empty() ? "; there are " + joined(namesOf(current)) : meant));
     }
     return *found;
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal.h"
+#include "help/similar.h"
 #include "pages/failure.h"
 #include "pages/text.h"
 #include "pages/wifi/pages.h"
@@ -135,7 +136,10 @@ const Converter &converterNamed(const std::string &name) {
     const auto *const found = std::find_if(std::begin(kConverters), std::end(kConverters),
                                            [&](const Converter &one) { return one.name == name; });
     if (found == std::end(kConverters)) {
-        throw Usage(inQuotes(name) + " is not a conversion; caltofal wifi convert lists them");
+        std::vector<std::string> names;
+        std::transform(std::begin(kConverters), std::end(kConverters), std::back_inserter(names),
+                       [](const Converter &one) { return one.name; });
+        throw Usage(inQuotes(name) + " is not a conversion" + help::didYouMean(name, names));
     }
     return *found;
 }

@@ -2,6 +2,7 @@
 // `wifi ssid` and `wifi radio`, and the words of the user interface.
 #include "pages/wifi/settings.h"
 
+#include "help/similar.h"
 #include "pages/failure.h"
 #include "pages/page.h"
 #include "pages/secret.h"
@@ -74,7 +75,7 @@ std::string lastPart(const std::string &object) {
 
 Subject subjectOf(const std::string &word) {
     if (word != "ssid" && word != "radio") {
-        throw Usage(inQuotes(word) + " is neither ssid nor radio");
+        throw Usage(inQuotes(word) + " is neither ssid nor radio" + help::didYouMean(word, {"ssid", "radio"}));
     }
     return word == "ssid" ? Subject::Ssid : Subject::Radio;
 }
