@@ -3,9 +3,10 @@
 # own help, gateways and objects from the sandbox or the device: nothing here needs to follow them.
 # shellcheck shell=bash
 
-# _caltofal_commands PROGRAM [NOUN...]: what can follow, one a line
+# _caltofal_commands PROGRAM [NOUN...]: what can follow, one a line; the help of caltofal stands anywhere
 _caltofal_commands() {
-    "$@" --help 2>/dev/null | sed -n '/^Subcommands:/,/^$/s/^  \([a-z][a-z0-9-]*\).*/\1/p'
+    "$@" --help 2>/dev/null | sed -n '/^Subcommands:/,/^$/s/^  \([a-z][a-z0-9-]*\).*/\1/p' |
+        if [[ ${1##*/} == caltofal ]]; then grep -vx help; else cat; fi
 }
 
 # _caltofal_meant WORD PROGRAM [NOUN...]: the noun or verb of that name, or the only one that begins so

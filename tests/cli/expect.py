@@ -50,7 +50,7 @@ def commands(tool, *words):
     """All nouns and verbs below `words`, as lists of words."""
     text = tool.run(*words, "--help").out.decode()
     below = re.findall(r"^  ([a-z0-9-]+)  ", text.split("Subcommands:")[1], re.M) if "Subcommands:" in text else []
-    for word in below:
+    for word in (word for word in below if word != "help"):
         yield [*words, word]
         yield from commands(tool, *words, word)
 

@@ -343,6 +343,7 @@ Task parse(const std::vector<std::string> &words, Options &options) {
     for (const std::span<const Command> group : commands()) {
         parser.addCommands(app, "caltofal", group);
     }
+    app.add_subcommand("help", "Show the arguments of a noun, and examples")->disabled(); // parserWords() knows it
     try {
         app.parse(std::vector<std::string>(words.rbegin(), words.rend())); // from the last to the first
     } catch (const CLI::Success &success) {
