@@ -496,6 +496,17 @@ class Lacking(unittest.TestCase):
         self.assertRegex(every.out.decode(), r"(?s)^Device.PPP.Interface.1\n.*\nDevice.Ethernet.Link.1\n  .*Nope.1\n$")
         self.assertIn("Device.Nope.1: no such object", every.err)
 
+    def test_whose_lower_layers_are_shown_is_told(self):
+        first = ": this is what {} has, the first one there"
+        port = "Device.Bridging.Bridge.1.Port.1"
+        for words, note in (("Device.IP.Interface.3", ""), (port + " --all", ""),
+                            ("Device.IP", "Device.IP names no instance" + first.format("Device.IP.Interface.1")),
+                            ("Device.Bridging.Bridge.1. --all", "Device.Bridging.Bridge.1 has no lower layers itself" +
+                             first.format(port)),
+                            ("Device.Hosts", "Device.Hosts names no instance, and nothing below it has lower layers")):
+            result = self.run_tool("lower-layers", *words.split())
+            self.assertEqual((result.code, result.err), (0, f"caltofal: {note}\n" if note else ""))
+
     def test_wifi_pages_of_another_maker_show_what_there_is(self):
         self.import_other_maker()
         for words, wanted in OTHER_MAKER.items():

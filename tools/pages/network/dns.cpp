@@ -5,6 +5,7 @@
 #include "pages/layer/lacking.h"
 #include "pages/network/current.h"
 #include "pages/network/pages.h"
+#include "pages/objects/hint.h"
 
 namespace pages {
 namespace {
@@ -16,7 +17,8 @@ constexpr size_t kAddressSize = 16;
 Page dns(const std::string &given) {
     const std::string interface = given.empty() ? gatewayInterface() : checkedPath(given);
     if (!given.empty()) {
-        get({{interface}}, Reading::Leaf); // the library's functions do not say that it is not there
+        // The library's functions do not say that it is not there.
+        objects::hinting(interface, [&] { return get({{interface}}, Reading::Leaf); });
     }
     char used1[kAddressSize] = "";
     char used2[kAddressSize] = "";

@@ -4,8 +4,12 @@
 #include "pages/layer/call.h"
 #include "pages/layer/query.h"
 #include "pages/network/pages.h"
+#include "pages/objects/hint.h"
+#include "pages/objects/select.h"
 #include "pages/text.h"
 
+#include <algorithm>
+#include <optional>
 #include <set>
 #include <sstream>
 
@@ -13,6 +17,7 @@ namespace pages {
 namespace {
 
 constexpr size_t kRecordSize = 128;
+constexpr const char *kList = "LowerLayers";
 
 std::string recordedList(const std::string &object) {
     char layers[kRecordSize] = "";
@@ -20,12 +25,20 @@ std::string recordedList(const std::string &object) {
     return text(layers);
 }
 
+// The object of which the library answers: where one has no lower layers itself, the first below it that has.
+std::optional<Object> answering(const std::string &object) {
+    const std::vector<Object> found = get({{object, {{kList}}}}, Reading::Whole);
+    const auto first =
+        std::find_if(found.begin(), found.end(), [](const Object &one) { return objects::has(one, kList); });
+    return first == found.end() ? std::nullopt : std::optional(*first);
+}
+
 std::string wholeListOf(const std::string &object) {
-    const std::vector<Object> found = get({{object, {{"LowerLayers"}}}}, Reading::Leaf);
-    if (found.empty() || found.front().parameters.empty()) {
+    const std::optional<Object> found = answering(object);
+    if (!found) {
         throw Failure(Category::Absent, object + ": no lower layers", object);
     }
-    return valueOf(found.front(), "LowerLayers");
+    return valueOf(*found, kList);
 }
 
 // The paths of a list, as answers name objects; with `cut`, without the last one, of which a part is missing.
@@ -97,12 +110,26 @@ class Descent {
     std::set<std::string> seen_;
 };
 
+void noteOther(const std::string &object, std::vector<std::string> &notes) {
+    const std::optional<Object> found = answering(object);
+    const std::string asked(withoutDot(object));
+    if (found && withoutDot(found->name) == asked) {
+        return;
+    }
+    notes.push_back(asked + (instanceOf(asked) == 0 ? " names no instance" : " has no lower layers itself") +
+                    (found ? ": this is what " + std::string(withoutDot(found->name)) + " has, the first one there"
+                           : ", and nothing below it has lower layers"));
+}
+
 } // namespace
 
 Report lowerLayers(const std::string &object, const LowerLayers &how) {
     Report result{.json =
                       Value::object({{"object", withoutDot(checkedPath(object))}, {"lower_layers", Value::list()}})};
-    Descent(result, how).below(object, 0);
+    objects::hinting(object, [&] {
+        Descent(result, how).below(object, 0);
+        noteOther(object, result.notes);
+    });
     return result;
 }
 

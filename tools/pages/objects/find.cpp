@@ -2,6 +2,7 @@
 #include "caltofal.h"
 #include "pages/checked.h"
 #include "pages/layer/call.h"
+#include "pages/objects/hint.h"
 #include "pages/objects/pages.h"
 #include "pages/page.h"
 #include "pages/secret.h"
@@ -21,8 +22,9 @@ Report find(const Search &search) {
         return zintu_GetValueFromDBInfo(checkedPath(search.table).c_str(), search.filter.c_str(), search.value.c_str(),
                                         search.wanted.c_str(), object, value);
     };
-    ask(call, {search.table + ": no instance whose " + search.filter + " is " +
-               inQuotes(shownText(search.filter, search.value)) + " has a parameter " + search.wanted});
+    const std::string none = search.table + ": no instance whose " + search.filter + " is " +
+                             inQuotes(shownText(search.filter, search.value)) + " has a parameter " + search.wanted;
+    hinting(search.table, [&] { return ask(call, {none}); });
     return pageOf({
         {"object", "Object", text(object)},
         {"value", search.wanted, shownValue(search.wanted, text(value))},

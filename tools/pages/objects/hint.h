@@ -2,6 +2,7 @@
 // What somebody may have meant who names what is not there.
 #pragma once
 
+#include "caltofal.h"
 #include "pages/failure.h"
 #include "pages/layer/query.h"
 
@@ -18,6 +19,19 @@ std::string parameterHint(const std::string &parameter, const std::string &objec
 
 // The refusal of a path of which a part is not there, with what there is instead of the first such part.
 Failure withHint(const Failure &failure, const std::string &path);
+
+// What `act` answers; its refusal of the path comes with that hint.
+template <class Act>
+auto hinting(const std::string &path, Act act) {
+    try {
+        return act();
+    } catch (const Failure &failure) {
+        if (failure.code() != CALTOFAL_ABSENT_OBJECT) {
+            throw; // as what it is
+        }
+        throw withHint(failure, path);
+    }
+}
 
 // The same of several paths, one of which was refused; in a change also for a parameter.
 Failure withHint(const Failure &failure, const std::vector<Object> &objects);
