@@ -4,6 +4,7 @@
 expected output anew. Exit code 77 where there can be no box."""
 import json
 import os
+import re
 import signal
 import subprocess
 import sys
@@ -134,6 +135,17 @@ class Box(unittest.TestCase):
         self.run_tool("wifi", "scan", "wlan2", "--pace", "10", **QUICK)
         self.assertIn(b"yes  60 (DFS)\n", self.run_tool("wifi", "survey", "--columns", "dfs,channel").out)
         self.assertEqual(self.run_tool("wifi", "survey", "--chart", "--terse").code, 2)
+
+    def test_a_chart_tells_what_it_draws_too_narrow(self):
+        self.run_tool("wifi", "scan", "wlan0", "--pace", "10", **QUICK)
+        for side, below, note in (("Auto", 6, True), ("AboveControlChannel", 6, False), ("BelowControlChannel", 18, False)):
+            self.run_tool("set", "Device.WiFi.Radio.1", "AutoChannelEnable=false", "Channel=13",
+                          "OperatingChannelBandwidth=40MHz", "ExtensionChannel=" + side)
+            result = self.run_tool("wifi", "survey", "--chart")
+            own = re.search("\nown +(-+)###(-+) +wlan0\n", result.out.decode())
+            self.assertEqual((len(own[1]), len(own[2])), (below, 3), "within the band")
+            self.assertEqual("caltofal: drawn as 20 MHz, as the secondary channel may lie on either side: wlan0\n" in
+                             result.err, note)
 
     def test_a_stale_result_is_not_taken_for_a_new_one(self):
         self.assertEqual(self.run_tool("wifi", "scan", "wlan0", "--pace", "10", **QUICK).code, 0)
