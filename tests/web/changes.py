@@ -181,6 +181,12 @@ class Changes(unittest.TestCase):
                           ("/api/v1/objects", "Device.WiFi.Radio.1.Channel,Device.WiFi.Radio.1.Name?2026", "404"),
                           ("/api/v1/objects", None, "400"), ("/api/v1/jobs/1", None, "400")])
 
+    def test_a_log_that_nobody_reads_holds_nothing_up(self):
+        names = {f"Name{number:030}": 1 for number in range(30)}
+        statuses = {self.server.patch("/objects", {"Device.WiFi.Radio.1.": names}).status for _ in range(100)}
+        self.assertEqual((statuses, self.server.get("").status), ({404}, 200))
+        self.assertLess(len(self.server.end()), 65536)  # bytes of a pipe
+
     def test_a_change_cut_at_the_end_is_logged(self):
         """Those that wait for it are not begun."""
         subprocess.run([SANDBOX, "fault", "add", "Device.WiFi.SSID.", "--late", "3000", "--on", "set"], check=True,
