@@ -7,6 +7,7 @@
 
 #include <array>
 #include <csignal>
+#include <cstdio>
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
@@ -18,8 +19,8 @@ constexpr std::array kSignals = {SIGINT, SIGTERM, SIGHUP, SIGQUIT};
 
 volatile sig_atomic_t deferred = 0;
 volatile sig_atomic_t came = 0;
-int words = STDERR_FILENO; // standard error may lead elsewhere for a while
-std::array<std::string, kSignals.size()> lines;
+int words = STDERR_FILENO;        // standard error may lead elsewhere for a while
+char lines[kSignals.size()][128]; // no object, whose end a signal could come after
 
 void handle(int signal) {
     // A key reaches the process and its box, which passes it on: the second is the same one, and is being reported.
@@ -61,7 +62,8 @@ void watchSignals(bool json) {
     action.sa_mask = watched();
     for (size_t i = 0; i < kSignals.size(); ++i) {
         const Interrupted failure(kSignals[i], "interrupted");
-        lines[i] = json ? pages::toJson(errorValue(failure)) + "\n" : "caltofal: interrupted\n";
+        snprintf(lines[i], sizeof(lines[i]), "%s\n",
+                 json ? pages::toJson(errorValue(failure)).c_str() : "caltofal: interrupted");
         if (!isIgnored(kSignals[i])) {
             sigaction(kSignals[i], &action, nullptr);
         }
