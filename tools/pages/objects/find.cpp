@@ -24,7 +24,14 @@ Report find(const Search &search) {
     };
     const std::string none = search.table + ": no instance whose " + search.filter + " is " +
                              inQuotes(shownText(search.filter, search.value)) + " has a parameter " + search.wanted;
-    hinting(search.table, [&] { return ask(call, {none}); });
+    try {
+        hinting(search.table, [&] { return ask(call, {none}); });
+    } catch (const Failure &failure) {
+        if (failure.category() != Category::Absent || failure.code() == CALTOFAL_ABSENT_OBJECT) {
+            throw;
+        }
+        throw withParameterHint(failure, search.table, {search.filter, search.wanted});
+    }
     return pageOf({
         {"object", "Object", text(object)},
         {"value", search.wanted, shownValue(search.wanted, text(value))},

@@ -79,6 +79,15 @@ std::vector<std::string> namesIn(const std::string &object) {
     return names;
 }
 
+Failure withParameterHint(const Failure &failure, const std::string &table,
+                          const std::vector<std::string> &parameters) {
+    const std::vector<std::string> names = namesIn(table);
+    const auto wrong = std::find_if(parameters.begin(), parameters.end(), [&](const std::string &parameter) {
+        return std::find(names.begin(), names.end(), parameter) == names.end();
+    });
+    return wrong == parameters.end() ? failure : with(failure, help::didYouMean(*wrong, names));
+}
+
 Failure withHint(const Failure &failure, const std::string &path) {
     if (failure.code() != CALTOFAL_ABSENT_OBJECT) {
         return failure;

@@ -20,6 +20,9 @@ std::string parameterHint(const std::string &parameter, const std::string &objec
 // The refusal of a path of which a part is not there, with what there is instead of the first such part.
 Failure withHint(const Failure &failure, const std::string &path);
 
+// The refusal of a search with what may have been meant by the first of these parameters that the table does not have.
+Failure withParameterHint(const Failure &failure, const std::string &table, const std::vector<std::string> &parameters);
+
 // What `act` answers; its refusal of the path comes with that hint.
 template <class Act>
 auto hinting(const std::string &path, Act act) {
