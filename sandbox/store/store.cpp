@@ -33,8 +33,8 @@ constexpr std::string_view kDraftSuffix = ".draft";
 
 void refuseBadName(const std::string &name, bool (*isGood)(std::string_view)) {
     if (!isGood(name)) {
-        throw Refusal(CALTOFAL_NO_GATEWAY, quotedShort(name) + " is not a gateway name: it begins with a letter, a "
-                                                               "digit or '_', and goes on with these, '.' and '-'");
+        throw WrongName(CALTOFAL_NO_GATEWAY, quotedShort(name) + " is not a gateway name: it begins with a letter, a "
+                                                                 "digit or '_', and goes on with these, '.' and '-'");
     }
 }
 

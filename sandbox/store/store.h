@@ -13,6 +13,11 @@
 
 namespace sandbox {
 
+// The refusal of a name that no gateway can have.
+class WrongName : public Refusal {
+    using Refusal::Refusal;
+};
+
 // Opens a gateway. Throws a Refusal with CALTOFAL_NO_GATEWAY when there is none, or when the name is not a gateway's.
 std::unique_ptr<Database> openStore(const Location &location);
 

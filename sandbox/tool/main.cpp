@@ -3,6 +3,7 @@
 // caltofal-sandbox: makes, shows and changes the gateways that the sandbox's libcal serves.
 #include "caltofal.h"
 #include "help/typed_values.h"
+#include "store/store.h"
 #include "tool/command.h"
 #include "value/refusal.h"
 
@@ -27,6 +28,8 @@ int run(int argc, char **argv) {
         return tool.exitCode;
     } catch (const Failure &failure) {
         return fail(failure, failure.code());
+    } catch (const WrongName &refusal) {
+        return fail(refusal, kUsage);
     } catch (const Refusal &refusal) {
         const bool absent = refusal.code() == CALTOFAL_NO_GATEWAY || refusal.code() == CALTOFAL_ABSENT_OBJECT;
         return fail(refusal, absent ? kAbsent : kFailed);

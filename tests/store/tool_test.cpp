@@ -130,6 +130,7 @@ TEST_F(ToolTest, ShowsDifferencesAndBoots) {
     EXPECT_EQ(run("diff lab").code, 0);
 
     EXPECT_EQ(run("new other --from lab.nothing").code, 10);
+    EXPECT_EQ(run("new ../other").code, 2);
     EXPECT_EQ(run("export lab | " SANDBOX_TOOL " import other -").code, 0);
     setOne("Device.Info", {{"Name", "x"}});
     cal_setValue(&Message::set()->with("Device.Net.Host.10.Address", kAdd, {{"IP", "::1"}}).header);
