@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "help/similar.h"
 #include "store/cal_codes.h"
 #include "store/fault.h"
 #include "store/model.h"
@@ -33,7 +34,12 @@ int codeOf(const std::string &text) {
     int code = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), code);
     if (error != std::errc() || end != text.data() + text.size() || code >= 0) {
-        throw Failure(text + " is neither a negative number nor the name of a code", kUsage);
+        std::vector<std::string> names;
+        for (const CodeName &row : kCodeNames) {
+            names.emplace_back(row.name);
+        }
+        throw Failure(text + " is neither a negative number nor the name of a code" + help::didYouMean(text, names),
+                      kUsage);
     }
     return code;
 }
@@ -109,7 +115,7 @@ void addFaultAdd(Command &group, Tool &tool) {
         }
         inTransaction(tool, [&](Database &database) {
             if (!fault.object.empty() && !findObject(database, fault.object)) {
-                throw Failure(options->object + ": no such object", kAbsent);
+                throw Failure(options->object + ": no such object; a fault hits an object, with all below it", kAbsent);
             }
             fault.id = addFault(database, fault);
         });
