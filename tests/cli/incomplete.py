@@ -103,8 +103,11 @@ OTHER_MAKER = {
                "AccessPoint.3.X_LANTIQ_COM_Vendor.MACAddressControlEnabled -"],
     "ssid 7": ["SSID.7.SSID alone"],
     "ssid 4": ["there is no SSID 4: the gateway has 1, 2, 5, 6, 7"],
-    "acl 5": ["Filter Allow", "2 02:00:5E:00:00:02"],
+    "acl 5": ["Filter Allow", "2 02:00:5E:00:00:02", "3 02-00-5E-00-00-03"],
     "acl 5 --mac 02:00:5e:00:00:02": ["02:00:5e:00:00:02 may join"],
+    "acl 5 --mac 02:00:5e:00:00:03": ["02:00:5e:00:00:03 may join"],  # stored with dashes
+    "acl 5 --mac 02005e000004": ["02:00:5e:00:00:04 may join"],  # stored without separators
+    "acl 5 --mac 02:00:5e:00:00:05": ["02:00:5e:00:00:05 may not join"],
     "acl 1": ["Device.WiFi.AccessPoint.1 has no MAC filter"],
     "acl 4": ["there is no SSID 4: the gateway has 1, 2, 5, 6, 7"],
     "acl 7": ["SSID 7 has no access point: no MAC filter"],
@@ -164,6 +167,19 @@ class Lacking(unittest.TestCase):
                       self.folder)
         hosts = json.loads(self.run_tool("-g", "flags", "hosts", "--json").out)["hosts"]
         self.assertEqual([host["active"] for host in hosts], list(states.values()))
+
+    def test_a_host_is_found_and_numbered_however_the_gateway_writes_it(self):
+        tool.imported("hosts", ["Device.Hosts.Host.7.PhysAddress=02-00-5E-00-00-07",
+                                "Device.Hosts.Host.8.PhysAddress=02005E000008",
+                                "Device.Hosts.Host.cpe-1.PhysAddress=02:00:5E:00:00:09"], self.folder)
+        for words, number in (("02:00:5e:00:00:07", 7), ("02-00-5E-00-00-08", 8), ("02005e000008", 8),
+                              ("02:00:5e:00:00:09", None)):
+            result = self.run_tool("-g", "hosts", "host", words, "--json")
+            self.assertEqual(json.loads(result.out)["number"], number, words)
+        self.assertEqual(self.run_tool("-g", "hosts", "host", "02:00:5e:00:00:0a").code, 10)
+        hosts = json.loads(self.run_tool("-g", "hosts", "hosts", "--json").out)["hosts"]
+        self.assertEqual([host["number"] for host in hosts], [7, 8, None])
+        self.assertRegex(self.run_tool("-g", "hosts", "hosts").out, rb"\n- +-")
 
     def test_an_infinite_lease_is_told_in_words(self):
         self.run_tool("set", "Device.DHCPv4.Server.Pool.1.LeaseTime=-1")
@@ -258,7 +274,7 @@ class Lacking(unittest.TestCase):
             model |= {f"AccessPoint.{point}.AssociatedDevice.{device}.MACAddress": "02:00:5E:00:00:01"
                       for device in range(1, point + 1)}
         model |= {"SSID.6.Enable": "0", "SSID.7.SSID": "alone", "AccessPoint.3.MACAddressControlEnabled": True,
-                  "AccessPoint.3.AllowedMACAddress": "02:00:5E:00:00:01, 02:00:5E:00:00:02"}
+                  "AccessPoint.3.AllowedMACAddress": "02:00:5E:00:00:01, 02:00:5E:00:00:02 ,02-00-5E-00-00-03,02005E000004,05"}
         path = os.path.join(self.folder, "other.json")
         with open(path, "w", encoding="ascii") as file:
             json.dump({"Device.WiFi." + name: value for name, value in model.items()}, file)

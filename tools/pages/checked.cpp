@@ -34,6 +34,20 @@ void checkLength(const std::string &text, size_t most, const char *what) {
     }
 }
 
+// A MAC address in any of the forms that people type, with colons; "" for what is none.
+std::string macWithColons(const std::string &text) {
+    const char mark = text.size() > 2 && strchr(":-", text[2]) != nullptr ? text[2] : '\0';
+    const size_t step = mark == '\0' ? 2 : 3;
+    std::string result;
+    bool valid = text.size() == 6 * step - (step - 2);
+    for (size_t i = 0; valid && i < text.size(); ++i) {
+        const bool between = i % step == 2;
+        valid = between ? text[i] == mark : isxdigit(static_cast<unsigned char>(text[i])) != 0;
+        result += between ? "" : (i > 0 && i % step == 0 ? ":" : "") + text.substr(i, 1);
+    }
+    return valid && isValidMacAddress(result.c_str()) != 0 ? result : "";
+}
+
 } // namespace
 
 InterfaceName::InterfaceName(std::string name) : name_(std::move(name)) {
@@ -68,19 +82,18 @@ int checkedInstance(const std::string &text, const char *what) {
 }
 
 std::string checkedMac(const std::string &text) {
-    const char mark = text.size() > 2 && strchr(":-", text[2]) != nullptr ? text[2] : '\0';
-    const size_t step = mark == '\0' ? 2 : 3;
-    std::string result;
-    bool valid = text.size() == 6 * step - (step - 2);
-    for (size_t i = 0; valid && i < text.size(); ++i) {
-        const bool between = i % step == 2;
-        valid = between ? text[i] == mark : isxdigit(static_cast<unsigned char>(text[i])) != 0;
-        result += between ? "" : (i > 0 && i % step == 0 ? ":" : "") + text.substr(i, 1);
-    }
-    if (!valid || isValidMacAddress(result.c_str()) == 0) {
+    std::string result = macWithColons(text);
+    if (result.empty()) {
         throw Usage(inQuotes(text) + " is not a MAC address: six pairs of digits, joined by colons, dashes or nothing");
     }
     return result;
+}
+
+bool isSameMac(const std::string &one, const std::string &other) {
+    const std::string mac = macWithColons(one);
+    const std::string same = macWithColons(other);
+    return !mac.empty() && mac.size() == same.size() &&
+           my_strnicmp(mac.c_str(), same.c_str(), static_cast<int>(mac.size())) == 0;
 }
 
 const std::string &checkedPath(const std::string &path) {

@@ -33,6 +33,10 @@ int checkedInstance(const std::string &text, const char *what);
 // A MAC address, its pairs of digits joined by colons, dashes or nothing, with colons.
 std::string checkedMac(const std::string &text);
 
+// Whether two texts, each in one of these forms, tell the same MAC address, in any case. Throws nothing: what is no
+// address is never the same.
+bool isSameMac(const std::string &one, const std::string &other);
+
 // An object path, not empty and not too long for a message.
 const std::string &checkedPath(const std::string &path);
 

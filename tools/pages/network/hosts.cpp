@@ -60,9 +60,15 @@ Value known(const std::string &text) {
     return text.empty() ? Value() : Value(text);
 }
 
+// Null where the instance has a name: an alias without its brackets.
+Value numberOf(const Object &host) {
+    const int number = instanceOf(host.name);
+    return number == 0 ? Value() : Value(number);
+}
+
 Page pageOf(const Object &host, InterfaceNames &names) {
     return pages::pageOf({
-        {"number", "Number", instanceOf(host.name)},
+        {"number", "Number", numberOf(host)},
         {"object", "Object", withoutDot(host.name)},
         {"name", "Name", valueOf(host, "HostName")},
         {"address", "Address", valueOf(host, "IPAddress")},
@@ -86,6 +92,44 @@ Row rowOf(const Value &host) {
     return row;
 }
 
+Object hostThatLibraryFinds(std::string identifier, const std::string &address) {
+    const auto call = [&] {
+        const int instance = GetDeviceID(identifier.data());
+        return instance > 0 ? instance : -1;
+    };
+    const int instance = ask(call, {std::string(kTable) + ": none has the address " + address});
+    const std::vector<Object> found = objectsBelow(std::string(kTable) + "." + std::to_string(instance));
+    if (found.empty()) {
+        throw Failure(Category::Absent, "host " + std::to_string(instance) + " has just gone");
+    }
+    return found.front();
+}
+
+// The library knows addresses with colons, and instances with numbers. Gateways of other makers have others.
+Object hostWithMac(const std::string &mac, const std::string &address) {
+    try {
+        return hostThatLibraryFinds(mac, address);
+    } catch (const Failure &failure) {
+        if (failure.category() != Category::Absent || failure.code() != 0) {
+            throw;
+        }
+        for (const Object &host : objectsBelow(kTable)) {
+            if (isSameMac(valueOf(host, "PhysAddress"), mac)) {
+                return host;
+            }
+        }
+        throw;
+    }
+}
+
+std::string macOf(const std::string &address) {
+    try {
+        return checkedMac(address);
+    } catch (const Usage &) {
+        throw Usage("\"" + address + "\" is neither a MAC address nor an IPv4 address");
+    }
+}
+
 } // namespace
 
 Report hosts() {
@@ -104,25 +148,10 @@ Report hosts() {
 }
 
 Page host(const std::string &address) {
-    std::string identifier = address;
-    if (zintu_isValidIPv4Address(address.c_str()) != 0) {
-        try {
-            identifier = checkedMac(address);
-        } catch (const Usage &) {
-            throw Usage("\"" + address + "\" is neither a MAC address nor an IPv4 address");
-        }
-    }
-    const auto call = [&] {
-        const int instance = GetDeviceID(identifier.data());
-        return instance > 0 ? instance : -1;
-    };
-    const int instance = ask(call, {std::string(kTable) + ": none has the address " + address});
-    const std::vector<Object> found = objectsBelow(std::string(kTable) + "." + std::to_string(instance));
-    if (found.empty()) {
-        throw Failure(Category::Absent, "host " + std::to_string(instance) + " has just gone");
-    }
+    const bool ipv4 = zintu_isValidIPv4Address(address.c_str()) == 0;
+    const Object found = ipv4 ? hostThatLibraryFinds(address, address) : hostWithMac(macOf(address), address);
     InterfaceNames names;
-    return pageOf(found.front(), names);
+    return pageOf(found, names);
 }
 
 } // namespace pages

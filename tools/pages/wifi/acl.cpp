@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "caltofal.h"
+#include "pages/checked.h"
 #include "pages/failure.h"
 #include "pages/layer/call.h"
 #include "pages/page.h"
@@ -66,7 +67,7 @@ void readStandard(const std::string &accessPoint, Filter &filter) {
     std::istringstream list(valueOf(found.front(), "AllowedMACAddress"));
     int32_t index = 0;
     for (std::string mac; std::getline(list >> std::ws, mac, ',');) {
-        addEntry(filter, ++index, "", mac);
+        addEntry(filter, ++index, "", mac.substr(0, mac.find_last_not_of(" \t\r\n") + 1));
     }
 }
 
@@ -108,11 +109,8 @@ Filter filterOf(int ssid) {
 }
 
 bool isListed(const Filter &filter, const std::string &mac) {
-    return std::any_of(filter.entries.items().begin(), filter.entries.items().end(), [&](const Value &entry) {
-        const std::string listed = entry["mac"].text();
-        return listed.size() == mac.size() &&
-               my_strnicmp(listed.c_str(), mac.c_str(), static_cast<int>(mac.size())) == 0;
-    });
+    return std::any_of(filter.entries.items().begin(), filter.entries.items().end(),
+                       [&](const Value &entry) { return isSameMac(entry["mac"].text(), mac); });
 }
 
 // With the filter off everybody may come; else the listed ones, or all but those.
