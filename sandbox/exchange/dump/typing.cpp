@@ -19,6 +19,8 @@ constexpr std::string_view kReadOnlyEndings[] = {
     "NumberOfEntries", "Status",     "Sent",  "Received",     "LastChange",
     "UpTime",          "MACAddress", "BSSID", "SerialNumber", "Version",
 };
+// Likewise, but lists and filters that a host writes.
+constexpr std::string_view kWritableEndings[] = {"AllowedMACAddress", "DestMACAddress", "SourceMACAddress"};
 
 bool fits(const ValueType &type, std::string value) {
     return value.empty() || type.check(value) == ValueType::Verdict::Valid;
@@ -66,8 +68,9 @@ std::string shownType(std::string_view parameter, const std::string &type) {
 }
 
 bool looksReadOnly(std::string_view name) {
-    return std::any_of(std::begin(kReadOnlyEndings), std::end(kReadOnlyEndings),
-                       [name](std::string_view ending) { return name.ends_with(ending); });
+    const auto ends = [name](std::string_view ending) { return name.ends_with(ending); };
+    return std::any_of(std::begin(kReadOnlyEndings), std::end(kReadOnlyEndings), ends) &&
+           std::none_of(std::begin(kWritableEndings), std::end(kWritableEndings), ends);
 }
 
 } // namespace
