@@ -79,6 +79,14 @@ class FailedRequests(unittest.TestCase):
             self.assert_fails(page, 10, reason)
         self.assertEqual(tool.run("status", folder=self.folder).out.decode().count(f" ({reason})\n"), 2)
 
+    def test_a_default_wan_with_a_final_dot_is_explained(self):
+        tool.run("set", "Device.X_ZINTU_CurrentNetwork.WanIpInterface=Device.IP.Interface.3.", folder=self.folder)
+        for page in ("wan", "ipv6"):
+            result = tool.run(page, folder=self.folder)
+            self.assertEqual(result.code, 0)
+            self.assertIn("WanIpInterface ends with a dot (Device.IP.Interface.3.): the library finds", result.err)
+            self.assertNotIn("..", result.err)
+
     def test_a_read_parameter_leaves_no_refusal(self):
         self.assertEqual(tool.run("get", "Device.WiFi.Radio.1.Channel", folder=self.folder).code, 0)
         self.assertFalse(os.path.exists(os.path.join(self.folder, "home.log")))

@@ -59,6 +59,10 @@ void Lacking::needNot(std::string_view object) {
     std::erase(objects_, object);
 }
 
+bool Lacking::needNotBelow(std::string_view path) {
+    return std::erase_if(objects_, [path](const std::string &object) { return object.starts_with(path); }) != 0;
+}
+
 void Lacking::name(std::vector<std::string> &notes) const {
     std::vector<std::string> named = objects_;
     std::erase_if(named, [&](const std::string &object) {

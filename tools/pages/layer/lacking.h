@@ -23,6 +23,9 @@ class Lacking {
     // What it would tell is told by another: it is not named.
     void needNot(std::string_view object);
 
+    // Whether objects below this path are among them; `path` ends in a dot. They are not named then.
+    bool needNotBelow(std::string_view path);
+
     // Adds a line that names them.
     void name(std::vector<std::string> &notes) const;
 

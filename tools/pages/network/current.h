@@ -29,6 +29,10 @@ inline constexpr int kRouterBit = 4; // a router, or the master of a mesh
 // the gateway need not have clients.
 void needNoDhcpClient(Lacking &lacking, const std::string &found);
 
+// Where the default WAN's interface ends with a dot, the library asks for objects below it by names with two: a note
+// says that instead of naming what is not missing. Before the others are told.
+void tellFinalDot(const std::string &interface, Lacking &lacking, std::vector<std::string> &notes);
+
 // A DNS server as a record holds it: what is not an address is shown as it is, and told in a note.
 Value server(const std::string &text, std::vector<std::string> &notes);
 

@@ -78,6 +78,13 @@ Failure noSuchInterface(const std::string &interface) {
             CALTOFAL_ABSENT_OBJECT};
 }
 
+void tellFinalDot(const std::string &interface, Lacking &lacking, std::vector<std::string> &notes) {
+    if (interface.ends_with('.') && lacking.needNotBelow(interface + ".")) {
+        notes.push_back("Device.X_ZINTU_CurrentNetwork: WanIpInterface ends with a dot (" + interface +
+                        "): the library finds nothing below that interface then; what it tells is missing here");
+    }
+}
+
 std::string gatewayInterface() {
     std::string interface = text(defaultGateway().sWanIpInterface);
     try {

@@ -41,6 +41,7 @@ Page ipv6() {
         {"next_hop", "Next hop", text(info.sIpv6NextHop)},
         {"prefix_delegation", "Prefix delegation", flag(delegation)},
     });
+    tellFinalDot(interface, lacking, page.notes);
     lacking.tell(page.notes);
     return page;
 }

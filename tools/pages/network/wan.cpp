@@ -85,6 +85,7 @@ Page sectionsOf(const ZintuWanInfo &info, const char *dnsTitle) {
 Page noted(const ZintuWanInfo &info, const char *dnsTitle, Lacking &lacking) {
     Page page = sectionsOf(info, dnsTitle);
     needNoDhcpClient(lacking, text(info.sDNS1));
+    tellFinalDot(text(info.sWanIpInterface), lacking, page.notes);
     lacking.tell(page.notes);
     if (info.sGateway[0] == '\0' && !lacking.has(kForwarding)) {
         page.notes.push_back(
