@@ -235,6 +235,26 @@ class WifiChanges(unittest.TestCase):
         self.assertEqual(lines[1].index("02:00") + 3 - 1, lines[2].index("02:00"), "three take two columns, one none")
 
 
+# As stored and as shown: a password goes on to the last "@", and what may as well be one is hidden.
+URLS = (
+    ("ftp://me:SEC@c", "ftp://me:(hidden)@c"),
+    ("http://me:SEC x@h/", "http://me:(hidden)@h/"),
+    ("http://me:SEC/x@h/", "http://me:(hidden)@h/"),
+    ("http://me:SEC#x@h/?y", "http://me:(hidden)@h/?y"),
+    ("http://me:80?x@h/", "http://me:(hidden)@h/"),
+    ("http://me@x.org:SEC@@h/", "http://me@x.org:(hidden)@h/"),
+    ("//me:SEC@h", "//me:(hidden)@h"),
+    ("sip:me:SEC@h", "sip:me:(hidden)@h"),
+    ("<SIPS:me:SEC@h>", "<SIPS:me:(hidden)@h>"),
+    ("http://b.c:80/x,ftp://me:SEC@c", "http://b.c:80/x,ftp://me:(hidden)@c"),
+    ("http://[2001:db8::1]:80/x@y", "http://[2001:db8::1]:80/x@y"),
+    ("http://b.c:80/x@y", "http://b.c:80/x@y"),
+    ("http://b/x:z@y", "http://b/x:z@y"),
+    ("sip:me@h:5060;x=z@y", "sip:me@h:5060;x=z@y"),
+    ("a//b:c@d 12:30 z@y", "a//b:c@d 12:30 z@y"),
+)
+
+
 class Secrets(unittest.TestCase):
     def setUp(self):
         self.folder = tool.folder()
@@ -246,15 +266,14 @@ class Secrets(unittest.TestCase):
         """One shows values, the other quotes filters; arrows keep them from sharing the list of names."""
         secret = ("Password2 AdminPassword1 KeyPassphrase2 PassWd2 PreSharedKey1 PrivateKey1 Secret1 PSKValue WEPKey1 "
                   "WEPKey64 WPAKey SharedKey RadiusKey APIKey X_ACME_Key Key1 Pass1 AdminPass AdminPW ReadCommunity "
-                  "WPAPSKText WebPwd UserPIN AuthToken KeyValue wpa_psk X_Credentials").split()
+                  "WPAPSKText WebPwd UserPIN AuthToken KeyValue wpa_psk X_Credentials WPAPassphrase_1").split()
         harmless = ("Channel Key KeyIndex WEPKeyIndex KeyTable KeyUpdateInterval ParameterKey CommandKey SSHPublicKey "
                     "PublicCredential Passphrases PassthroughEnable Bypass Upskill TokenCount PasswordRequired").split()
         path = os.path.join(self.folder, "names.tr181")
         with open(path, "w", encoding="ascii") as file:
             file.writelines(f"Device.X_Test.{name} [string rw] = open sesame\n" for name in secret + harmless)
-            file.write("Device.X_Test.Urls [string rw] = http://me:open sesame@a/,http://b:80/x@y,ftp://me:sesame@c\n")
-        subprocess.run([tool.sandbox_executable, "import", "names", path], stderr=subprocess.DEVNULL, check=True,
-                       env=tool.environment(self.folder))
+            file.writelines(f"Device.X_Test.Url{i}x [string rw] = {url}\n" for i, (url, _) in enumerate(URLS))
+        tool.sandbox("import", "names", path, folder=self.folder)
         shown = self.run_tool("-g", "names", "get", "Device.X_Test").out.decode()
         captured = self.run_tool("-g", "names", "capture", "Device.X_Test.").out.decode()
         for name in secret + harmless:
@@ -263,11 +282,15 @@ class Secrets(unittest.TestCase):
             self.assertEqual(("(hidden)" in reason, "guess" in reason), (hides, not hides), name)
             self.assertRegex(shown, rf"\.{name} +{re.escape('(hidden)' if hides else 'open sesame')}\n")
             self.assertRegex(captured, rf"\.{name} .*= {re.escape('(hidden)' if hides else 'open sesame')}\n")
-        urls = "http://me:open sesame@a/,http://b:80/x@y,ftp://me:(hidden)@c"  # a blank ends a URL
-        for text in (shown, captured):
-            self.assertIn(urls, text)
-        again = self.run_tool("-g", "names", "set", "Device.X_Test", "Urls=" + urls)
-        self.assertEqual(again.code, 2, "what was hidden is not written")
+        tool.sandbox("import", "plain", path, folder=self.folder)
+        self.run_tool("-g", "plain", "set", "Device.X_Test", *(f"Url{i}x=" for i in range(len(URLS))))
+        differing = subprocess.run([tool.sandbox_executable, "diff", "names", "plain"], stdout=subprocess.PIPE,
+                                   env=tool.environment(self.folder), check=False).stdout.decode()  # they differ: 1
+        for i, (url, hidden) in enumerate(URLS):
+            for text in (shown, captured, differing):
+                self.assertRegex(text, rf'\.Url{i}x\b[^\n]*[ "]{re.escape(hidden)}["\n]')
+            again = self.run_tool("-g", "names", "set", "Device.X_Test", f"Url{i}x={hidden}")
+            self.assertEqual(again.code, 0 if url == hidden else 2, f"{url}: what was hidden is not written")
 
     def test_a_trace_hides_them(self):
         words = ("wifi", "set", "ssid", "1", "KeyPassphrase=correct-horse", "--trace")

@@ -24,8 +24,13 @@ constexpr std::string_view kAnywhere = "psk";         // a word of its own too
 constexpr std::string_view kHarmless[] = {"commandkey", "parameterkey", "publiccredential", "publickey"};
 constexpr std::string_view kKey = "key";
 
-constexpr std::string_view kUrlMark = "://";
-constexpr std::string_view kUrlEnds = "/?# \t\r\n\"";
+// What stands before a URL's user, where a word begins. In a user's name stands none of kNoUser, behind a port one of
+// kPortEnds.
+constexpr std::string_view kUrlMarks[] = {"//", "sip:", "sips:"};
+constexpr std::string_view kNoUser = "/ \t\"";
+constexpr std::string_view kPortEnds = "/?#,;> \t\"";
+constexpr std::string_view kDigits = "0123456789";
+constexpr size_t kPortMax = 5; // digits
 
 constexpr std::string_view kHiddenInUrl = ":(hidden)@";
 constexpr std::string_view kArrow = "=>";
@@ -42,9 +47,9 @@ std::string lowered(std::string_view text) {
     return result;
 }
 
-// Without a number behind it, and without "Value": Password2, PSKValue.
+// Without a number behind it, and without "Value": Password2, Passphrase_1, PSKValue.
 std::string_view withoutNumber(std::string_view name) {
-    return name.substr(0, name.find_last_not_of("0123456789") + 1);
+    return name.substr(0, name.find_last_not_of("0123456789_") + 1);
 }
 
 std::string_view stemOf(std::string_view name) {
@@ -58,6 +63,53 @@ std::string_view stemOf(std::string_view name) {
 bool beginsWord(std::string_view name, size_t at) {
     return at == 0 || std::isalpha(static_cast<unsigned char>(name[at - 1])) == 0 ||
            std::isupper(static_cast<unsigned char>(name[at])) != 0;
+}
+
+// Behind the next mark of a URL from there on; npos for none.
+size_t behindUrlMark(std::string_view text, size_t at) {
+    for (; at < text.size(); ++at) {
+        if (at > 0 && (std::isalnum(static_cast<unsigned char>(text[at - 1])) != 0 || text[at - 1] == '/')) {
+            continue;
+        }
+        for (const std::string_view mark : kUrlMarks) {
+            if (lowered(text.substr(at, mark.size())) == mark) {
+                return at + mark.size();
+            }
+        }
+    }
+    return std::string_view::npos;
+}
+
+// Of "host:80/..." no user: nothing else has a dot, a bracket or an "@" before and a port behind.
+bool isHostWithPort(std::string_view before, std::string_view behind) {
+    const size_t digits = std::min(behind.find_first_not_of(kDigits), behind.size());
+    const bool port = digits != 0 && digits <= kPortMax &&
+                      (digits == behind.size() || kPortEnds.find(behind[digits]) != std::string_view::npos);
+    return port && before.find_first_of(".]@") != std::string_view::npos;
+}
+
+// The first password of a URL in a line; empty where there is none. People leave "@", "/" and blanks in passwords as
+// they are: it goes on to the line's last "@".
+std::string_view urlPasswordIn(std::string_view line) {
+    const size_t last = line.rfind('@');
+    if (last == std::string_view::npos) {
+        return {};
+    }
+    for (size_t at = behindUrlMark(line, 0); at < last; at = behindUrlMark(line, at)) {
+        const std::string_view rest = line.substr(at, last - at);
+        const size_t bracket = rest.starts_with('[') ? rest.substr(0, rest.find('@')).find(']') : 0;
+        const size_t colon = rest.find(':', bracket == std::string_view::npos ? 0 : bracket);
+        if (colon == std::string_view::npos) {
+            break;
+        }
+        const std::string_view user = rest.substr(0, colon);
+        const std::string_view password = rest.substr(colon + 1);
+        const bool named = user.find_first_of(kNoUser) == std::string_view::npos;
+        if (named && !isHostWithPort(user, password)) {
+            return password;
+        }
+    }
+    return {};
 }
 
 void replaceAll(std::string &text, std::string_view part, std::string_view by) {
@@ -102,13 +154,13 @@ bool isSecret(std::string_view parameter) {
 }
 
 std::string withoutUrlPasswords(std::string text) {
-    for (size_t at = text.find(kUrlMark); at != std::string::npos; at = text.find(kUrlMark, at)) {
-        at += kUrlMark.size();
-        const std::string_view authority = std::string_view(text).substr(at, text.find_first_of(kUrlEnds, at) - at);
-        const size_t host = authority.rfind('@');
-        const size_t colon = authority.find(':') + 1;
-        if (host != std::string_view::npos && colon != 0 && colon < host) {
-            text.replace(at + colon, host - colon, kHidden);
+    for (size_t start = 0; start < text.size();) {
+        const size_t end = std::min(text.find('\n', start), text.size());
+        const std::string_view password = urlPasswordIn(std::string_view(text).substr(start, end - start));
+        start = end + 1;
+        if (!password.empty()) {
+            start = start - password.size() + kHidden.size();
+            text.replace(static_cast<size_t>(password.data() - text.data()), password.size(), kHidden);
         }
     }
     return text;
@@ -116,7 +168,7 @@ std::string withoutUrlPasswords(std::string text) {
 
 bool isHidden(std::string_view parameter, std::string_view value) {
     return (value == kHidden && isSecret(parameter)) ||
-           (value.find(kUrlMark) != std::string_view::npos && value.find(kHiddenInUrl) != std::string_view::npos);
+           (value.find(kHiddenInUrl) != std::string_view::npos && !urlPasswordIn(value).empty());
 }
 
 std::string hiddenText(std::string_view parameter, std::string_view value) {
