@@ -58,7 +58,9 @@ FileContent takenIn(Dump dump, const std::string &file) {
     FileContent content;
     content.entries = entriesOf(dump);
     if (content.entries.empty()) {
-        throw FileError(file, "no objects or values of a data model found in it");
+        const std::string reasons = dump.report.reasons();
+        throw FileError(file, reasons.empty() ? "no objects or values of a data model found in it"
+                                              : "nothing in it can be taken in: " + reasons);
     }
     content.report = std::move(dump.report);
     return content;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "exchange/import_report.h"
 
+#include <string_view>
+
 namespace sandbox {
 namespace {
 
@@ -19,6 +21,7 @@ constexpr const char *kReasonWords[] = {
     "left out, not a path of a data model",
     "left out, a placeholder for instances",
     "left out, a value where an object has the path",
+    "left out, an object where a value belongs",
     "left out, a line or row that lacks fields or has too many",
     "a quote that does not end, the file may be cut off or damaged there",
     "left out, an entry without a usable name",
@@ -37,14 +40,26 @@ void ImportReport::count(Reason reason, const std::string &example) {
     }
 }
 
-std::string ImportReport::text() const {
-    std::string text = "took in " + std::to_string(taken) + " of " + std::to_string(values) + " values";
+std::string ImportReport::lines(const std::string &before) const {
+    std::string lines;
     for (size_t i = 0; i < tallies_.size(); ++i) {
         if (tallies_[i].number != 0) {
-            text += std::string("\n  ") + kReasonWords[i] + ": " + std::to_string(tallies_[i].number) + ", first " +
-                    tallies_[i].first;
+            lines +=
+                before + kReasonWords[i] + ": " + std::to_string(tallies_[i].number) + ", first " + tallies_[i].first;
         }
     }
+    return lines;
+}
+
+std::string ImportReport::reasons() const {
+    constexpr std::string_view kBetween = "; ";
+    const std::string all = lines(std::string(kBetween));
+    return all.empty() ? all : all.substr(kBetween.size());
+}
+
+std::string ImportReport::text() const {
+    const std::string text =
+        "took in " + std::to_string(taken) + " of " + std::to_string(values) + " values" + lines("\n  ");
     return nature.empty() ? text : text + "\n  " + nature;
 }
 

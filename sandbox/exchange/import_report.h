@@ -24,6 +24,7 @@ enum class Reason {
     BadPath,
     Placeholder,
     ValueOfObject,
+    ObjectAsValue, // of JSON
     TornRow,
     OpenQuote, // of CSV; taken in all the same
     NoName,    // of an entry of JSON
@@ -47,7 +48,13 @@ class ImportReport {
     // "took in N of M values", then a line for each reason, without a line end behind the last one.
     std::string text() const;
 
+    // The reasons alone, in one line; "" for none.
+    std::string reasons() const;
+
   private:
+    // A line for each reason, with this before it.
+    std::string lines(const std::string &before) const;
+
     struct Tally {
         size_t number = 0;
         std::string first;

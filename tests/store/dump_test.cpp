@@ -195,6 +195,8 @@ TEST_F(DumpTest, RefusesWhatHoldsNoGateway) {
     const Case cases[] = {
         {"[1, 2]", "x.json: no objects or values of a data model found in it"},
         {"{\"a\": {\"b\": \"c\"}}", "x.json: no objects or values of a data model found in it"},
+        {R"({"Device.A.B": "x\u0000"})",
+         "x.json: nothing in it can be taken in: left out, holds a NUL byte: 1, first Device.A.B"},
         {"{\n\"Device.A.B\": tru\n}", "x.json:2: not JSON at character 17"},
         {"{\n\"Device.A.B\": \"x\"", "x.json:2: the JSON ends in the middle"},
         {"\xef\xbb\xbf \n", "x.json: is empty"},

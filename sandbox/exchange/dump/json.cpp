@@ -308,6 +308,9 @@ class JsonDump {
             DumpRow row = rowOf(path, node);
             readLeaf(node, row);
             dump_.rows.push_back(std::move(row));
+        } else if (holdsObjectAsValue(node)) {
+            ++dump_.report.values;
+            dump_.report.count(Reason::ObjectAsValue, path);
         } else if (node.kind == JsonNode::Kind::Array && !node.children.empty()) {
             DumpRow row = rowOf(path, node);
             row.value = joinedItems(node);
@@ -321,6 +324,19 @@ class JsonDump {
         }
     }
 
+    // Members that describe what holds them, and nothing else.
+    static bool isBare(const JsonNode &node) {
+        return node.kind == JsonNode::Kind::Object && !node.children.empty() &&
+               std::all_of(node.children.begin(), node.children.end(), [](const auto &child) {
+                   return child.name.starts_with('_') || roleOf(child.name) != Role::None;
+               });
+    }
+
+    static bool holdsObjectAsValue(const JsonNode &node) {
+        const JsonNode *value = node.member("_value");
+        return value && value->kind == JsonNode::Kind::Object && isBare(node);
+    }
+
     // A scalar, a value with its type, or what the ACS knows to be a parameter and never asked for.
     static bool isParameter(const JsonNode &node, const std::string &path) {
         if (path.ends_with('.')) {
@@ -329,12 +345,11 @@ class JsonDump {
         if (node.isScalar() || isLeaf(node)) {
             return true;
         }
-        const bool bare = std::all_of(node.children.begin(), node.children.end(), [](const auto &child) {
-            return child.name.starts_with('_') || roleOf(child.name) != Role::None;
-        });
+        const JsonNode *type = node.member("_type");
         const JsonNode *object = memberOf(node, Role::Object);
-        return node.kind == JsonNode::Kind::Object && bare && !node.children.empty() &&
-               (object ? object->text == "false" : memberOf(node, Role::Access) != nullptr);
+        const bool typed = type && !isObjectWord(type->text) && !isTableWord(type->text);
+        return isBare(node) && !holdsObjectAsValue(node) &&
+               (object ? object->text == "false" : typed || memberOf(node, Role::Access) != nullptr);
     }
 
     // An array's items are the instances of a table, by the numbers they give or by their place.
