@@ -88,7 +88,7 @@ void sleepUntilSignal(std::chrono::nanoseconds time) {
     sigset_t before;
     sigprocmask(SIG_BLOCK, &set, &before);
     if (came == 0) {
-        const timespec span = {time / kSecond, static_cast<long>((time % kSecond).count())};
+        const timespec span = {static_cast<time_t>(time / kSecond), static_cast<long>((time % kSecond).count())};
         ppoll(nullptr, 0, &span, &before);
     }
     sigprocmask(SIG_SETMASK, &before, nullptr);
