@@ -206,6 +206,8 @@ class Sessions(unittest.TestCase):
             self.assertEqual(set(attributes), {"Path=/", "HttpOnly", "SameSite=Strict"})
             self.assertNotIn(server.token, cookie)
             self.assertEqual(server.get("", Authorization=None, Cookie=f"a=b; {cookie}; c=d").status, 200)
+            forged = f"caltofal-{server.port}=bad"  # by another server on the host
+            self.assertEqual(server.get("", Authorization=None, Cookie=f"{forged}; {cookie}; {forged}").status, 200)
             elsewhere = cookie.replace(str(server.port), str(other.port))
             self.assertEqual(other.get("", Authorization=None, Cookie=elsewhere).status, 401)
             others = other.ask("GET", f"/?token={other.token}", Authorization=None).headers["Set-Cookie"].split("; ")[0]

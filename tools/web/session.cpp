@@ -12,17 +12,18 @@ namespace {
 
 constexpr std::string_view kBearer = "Bearer ";
 
-// The value of a cookie in a Cookie header; "" when it is not there.
-std::string_view cookieValue(std::string_view header, std::string_view name) {
+// Whether a Cookie header has this one. Other servers on the host can set some of the same name, which may come first.
+bool hasCookie(std::string_view header, std::string_view name, std::string_view value) {
+    bool found = false;
     while (!header.empty()) {
         std::string_view item = header.substr(0, header.find(';'));
         header.remove_prefix(item.size() == header.size() ? item.size() : item.size() + 1);
         item.remove_prefix(std::min(item.find_first_not_of(' '), item.size()));
         if (item.starts_with(name) && item.substr(name.size()).starts_with('=')) {
-            return item.substr(name.size() + 1);
+            found = isSameSecret(item.substr(name.size() + 1), value) || found;
         }
     }
-    return {};
+    return found;
 }
 
 } // namespace
@@ -37,7 +38,7 @@ void Session::check(const Request &request) {
         return;
     }
     // A cookie from another start is no try: a page that stayed open asks with it for hours.
-    if (!isSameSecret(cookieValue(request.cookie, cookieName_), cookie_)) {
+    if (!hasCookie(request.cookie, cookieName_, cookie_)) {
         throw Refusal(
             Status::Unauthorized,
             "there is no session: open the URL that caltofal-web printed, or send its token as Authorization: "
