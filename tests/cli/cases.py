@@ -147,6 +147,8 @@ FAILURES = [
      "request on Device.Hosts.Hots failed: no such object (did you mean Host?)"),
     ("home", "gateway --mode-section XYZ", 10, None,
      'no WAN connection has the mode "XYZ"; there are VDSL_PTM, ETH, ADSL_ATM, TETHER_USB'),
+    ("home", "get Device.WiFi.Radio.* Channel Chanel", 10, None,
+     "Device.WiFi.Radio.*.Chanel: no object here has that parameter (did you mean Channel?)"),
     ("home", "find Device.Hosts.Host HostNam storage IPAddress", 10, -208,
      'request on Device.Hosts.Host failed: no instance has a parameter "HostNam" (did you mean HostName?)'),
     ("home", "find Device.Hosts.Host HostName storage IPAdress", 10, None,

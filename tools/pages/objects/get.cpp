@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "help/similar.h"
 #include "pages/failure.h"
 #include "pages/layer/definition.h"
 #include "pages/layer/request_log.h"
@@ -32,6 +33,28 @@ void checkAnswered(const Object &asked, const std::vector<Object> &answer) {
                           parameterHint(missing.front(), asked.name),
                       asked.name);
     }
+}
+
+// What matches a pattern, with each parameter that was asked for by name in one object at least.
+std::vector<Object> getPattern(const Object &asked) {
+    std::vector<Object> answer = matchingPattern(asked);
+    for (const Parameter &parameter : asked.parameters) {
+        const auto isThere = [&](const Object &object) { return has(object, parameter.name); };
+        if (std::any_of(answer.begin(), answer.end(), isThere)) {
+            continue;
+        }
+        std::vector<std::string> names;
+        for (const Object &object : matchingPattern({asked.name})) {
+            for (const Parameter &other : object.parameters) {
+                names.push_back(other.name);
+            }
+        }
+        throw Failure(Category::Absent,
+                      withDot(asked.name) + parameter.name + ": no object here has that parameter" +
+                          help::didYouMean(parameter.name, names),
+                      asked.name);
+    }
+    return answer;
 }
 
 // "OBJECT.PARAM" as it stands in this command's own output; empty when the last word can be no parameter.
@@ -97,7 +120,7 @@ std::vector<Object> answer(const Query &query) {
     std::vector<Object> result;
     if (std::any_of(query.objects.begin(), query.objects.end(), isPattern)) {
         for (const Object &object : query.objects) {
-            const std::vector<Object> some = isPattern(object) ? matchingPattern(object) : get({object}, plain);
+            const std::vector<Object> some = isPattern(object) ? getPattern(object) : get({object}, plain);
             result.insert(result.end(), some.begin(), some.end());
         }
         return result;

@@ -161,7 +161,7 @@ std::vector<Object> matchingPattern(const Object &asked) {
         std::erase_if(object.parameters, [&](const Parameter &parameter) { return !isMatch(parameter); });
     }
     std::erase_if(result, [](const Object &object) { return object.parameters.empty(); });
-    if (result.empty()) {
+    if (result.empty() && asked.parameters.empty()) {
         throw Failure(Category::Absent, asked.name + ": nothing here matches", asked.name);
     }
     return result;

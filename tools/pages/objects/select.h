@@ -23,7 +23,7 @@ std::vector<Object> matching(const Object &asked, const std::vector<Parameter> &
 // Whether a path has "*" in it, which stands for any one part of a path.
 bool isPattern(const Object &asked);
 
-// Throws Failure where nothing matches.
+// Throws Failure where nothing matches, but where parameters are asked for by name: the answer may then be empty.
 std::vector<Object> matchingPattern(const Object &asked);
 
 // The parameters and, with a dot behind, the objects directly below a path.
