@@ -92,9 +92,10 @@ Row rowOf(const Value &host) {
     return row;
 }
 
-Object hostThatLibraryFinds(std::string identifier, const std::string &address) {
+Object hostThatLibraryFinds(const std::string &mac, const std::string &address) {
+    std::string asked = mac; // the library takes a text that could be written
     const auto call = [&] {
-        const int instance = GetDeviceID(identifier.data());
+        const int instance = GetDeviceID(asked.data());
         return instance > 0 ? instance : -1;
     };
     const int instance = ask(call, {std::string(kTable) + ": none has the address " + address});
