@@ -263,6 +263,9 @@ class Lacking(unittest.TestCase):
                 for line in wanted:
                     self.assertIn(line + "\n", text)
                 self.assertEqual(result.code, 0 if result.out else 10)
+        for spelling in ("true", "1", "TRUE"):  # in the file it is "True"
+            shown = self.run_tool("get", "Device.WiFi.Radio", "--where", f"X_OTHER_Boost={spelling}", "Name", "-g", "other")
+            self.assertEqual(shown.out, b"Device.WiFi.Radio.3.Name  radio3\n")
         settings = json.loads(self.run_tool("wifi", "ssid", "5", "-g", "other", "--json").out)["settings"]
         self.assertEqual(settings["Device.WiFi.SSID.5"]["X_ZINTU_Active"], None)
         self.assertEqual(self.run_tool("wifi", "set", "ssid", "5", "IsolationEnable=true", "-g", "other").code, 10)
@@ -281,7 +284,7 @@ class Lacking(unittest.TestCase):
                       f"AccessPoint.{point}.Security.ModeEnabled": "WPA2-Personal"}
             model |= {f"AccessPoint.{point}.AssociatedDevice.{device}.MACAddress": "02:00:5E:00:00:01"
                       for device in range(1, point + 1)}
-        model |= {"SSID.6.Enable": "0", "SSID.7.SSID": "alone", "AccessPoint.3.MACAddressControlEnabled": True,
+        model |= {"Radio.3.X_OTHER_Boost": "True", "SSID.6.Enable": "0", "SSID.7.SSID": "alone", "AccessPoint.3.MACAddressControlEnabled": True,
                   "AccessPoint.3.AllowedMACAddress": "02:00:5E:00:00:01, 02:00:5E:00:00:02 ,02-00-5E-00-00-03,02005E000004,05"}
         path = os.path.join(self.folder, "other.json")
         with open(path, "w", encoding="ascii") as file:

@@ -40,16 +40,23 @@ void narrow(const Object &asked, std::vector<Object> &answer) {
     std::erase_if(answer, [](const Object &object) { return object.parameters.empty(); });
 }
 
-// Other spellings of what a value may mean, as the layer writes flags and numbers.
+// Other spellings of what a value may mean: as the layer writes flags and numbers, and flags as other makers' gateways
+// have them in texts.
 std::vector<std::string> spellings(const std::string &value) {
-    std::vector<std::string> result = {value};
-    for (const Value &now : {Value(true), Value(0)}) {
-        const std::string other = spelledLike(now, value);
-        if (std::find(result.begin(), result.end(), other) == result.end()) {
-            result.push_back(other);
+    std::vector<std::string> result = {value, spelledLike(Value(true), value), spelledLike(Value(0), value)};
+    if (const Value flag = flagOf(value); flag.isFlag()) {
+        for (const char *other :
+             {flag.flag() ? "1" : "0", flag.flag() ? "TRUE" : "FALSE", flag.flag() ? "True" : "False"}) {
+            result.emplace_back(other);
         }
     }
-    return result;
+    std::vector<std::string> different;
+    for (const std::string &one : result) {
+        if (std::find(different.begin(), different.end(), one) == different.end()) {
+            different.push_back(one);
+        }
+    }
+    return different;
 }
 
 // All combinations of the filters' spellings, the given one first.
