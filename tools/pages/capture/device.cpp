@@ -37,7 +37,7 @@ constexpr std::string_view kSecretSettings[] = {"wpa_passphrase", "wpa_psk", "sa
                                                 "auth_server_shared_secret", "acct_server_shared_secret"};
 
 bool isSecretSetting(std::string_view name) {
-    return isSecret(name) || name.starts_with("wep_key") ||
+    return isSecretName(name) || name.starts_with("wep_key") ||
            std::find(std::begin(kSecretSettings), std::end(kSecretSettings), name) != std::end(kSecretSettings);
 }
 

@@ -41,7 +41,8 @@ std::vector<Object> readModel(const std::vector<std::string> &paths) {
 
 // The default of a secret is one as well.
 std::string withoutSecrets(const std::string &parameter, const std::string &definition) {
-    return isSecret(parameter) ? definition.substr(0, definition.find(" default=")) : withoutUrlPasswords(definition);
+    return isSecretName(parameter) ? definition.substr(0, definition.find(" default="))
+                                   : withoutUrlPasswords(definition);
 }
 
 std::string counted(size_t number, const std::string &what) {
