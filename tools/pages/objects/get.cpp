@@ -28,10 +28,7 @@ void checkAnswered(const Object &asked, const std::vector<Object> &answer) {
         }
     }
     if (!missing.empty()) {
-        throw Failure(Category::Absent,
-                      branch + joined(missing) + ": no object here has that parameter" +
-                          parameterHint(missing.front(), asked.name),
-                      asked.name);
+        throw absentParameter(asked.name, joined(missing), parameterHint(missing.front(), asked.name));
     }
 }
 
@@ -49,10 +46,7 @@ std::vector<Object> getPattern(const Object &asked) {
                 names.push_back(other.name);
             }
         }
-        throw Failure(Category::Absent,
-                      withDot(asked.name) + parameter.name + ": no object here has that parameter" +
-                          help::didYouMean(parameter.name, names),
-                      asked.name);
+        throw absentParameter(asked.name, parameter.name, help::didYouMean(parameter.name, names));
     }
     return answer;
 }

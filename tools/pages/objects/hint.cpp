@@ -69,6 +69,11 @@ std::string parameterHint(const std::string &parameter, const std::string &objec
     return path ? didYouMeanRooted(parameter) : hint;
 }
 
+Failure absentParameter(const std::string &object, const std::string &parameters, const std::string &hint) {
+    return {Category::Absent,
+            std::string(withoutDot(object)) + "." + parameters + ": no object here has that parameter" + hint, object};
+}
+
 std::vector<std::string> namesIn(const std::string &object) {
     std::vector<std::string> names;
     for (const Object &one : get({{object}}, Reading::Leaf)) {

@@ -17,6 +17,9 @@ std::vector<std::string> namesIn(const std::string &object);
 // " (did you mean HostName?)" for a parameter that is not there: a word may also be the path of another object.
 std::string parameterHint(const std::string &parameter, const std::string &object);
 
+// The refusal of parameters that no object of a path has; `hint` stands behind it.
+Failure absentParameter(const std::string &object, const std::string &parameters, const std::string &hint);
+
 // The refusal of a path of which a part is not there, with what there is instead of the first such part.
 Failure withHint(const Failure &failure, const std::string &path);
 

@@ -79,10 +79,7 @@ std::vector<std::vector<Parameter>> spelledFilters(const std::vector<Parameter> 
 void refuseUnknown(const std::string &object, const std::string &parameter) {
     const std::vector<std::string> names = namesIn(object);
     if (!names.empty() && std::find(names.begin(), names.end(), parameter) == names.end()) {
-        throw Failure(Category::Absent,
-                      withDot(object) + parameter + ": no object here has that parameter" +
-                          help::didYouMean(parameter, names),
-                      object);
+        throw absentParameter(object, parameter, help::didYouMean(parameter, names));
     }
 }
 
